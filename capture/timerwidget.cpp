@@ -1,0 +1,128 @@
+#include "capture/timerwidget.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QTimer>
+
+namespace
+{
+constexpr int kTickMilliseconds = 1000;
+constexpr int kSecondsPerMinute = 60;
+} // namespace
+
+TimerWidget::TimerWidget(QWidget *parent, Qt::WindowFlags flags)
+    : QLabel(parent, flags), m_ticker(new QTimer(this))
+{
+    QPalette colours = palette();
+    colours.setColor(QPalette::Window, Qt::black);
+    colours.setColor(QPalette::WindowText, Qt::green);
+    setPalette(colours);
+    setAutoFillBackground(true); // the caption lies over the live picture
+    setFont(QFont("Arial", 24, 5));
+
+    m_ticker->setInterval(kTickMilliseconds);
+    connect(m_ticker, &QTimer::timeout, this, &TimerWidget::showtime);
+}
+
+void TimerWidget::setcount(int seconds)
+{
+    m_count = seconds;
+    m_remaining = seconds;
+}
+
+void TimerWidget::run()
+{
+    m_elapsed = 0;
+    m_remaining = m_count;
+    if (!m_ticker->isActive())
+        m_ticker->start();
+    showtime();
+}
+
+void TimerWidget::Pause()
+{
+    m_ticker->stop();
+}
+
+void TimerWidget::Stop()
+{
+    m_elapsed = 0;
+    m_ticker->stop();
+}
+
+void TimerWidget::reset()
+{
+    Stop();
+    setText(QString());
+    m_mode = TimerMode::None;
+}
+
+void TimerWidget::SetMode(TimerMode mode)
+{
+    hide();
+    if (mode != m_mode) {
+        m_elapsed = 0;
+        setText(widestText(mode));
+        adjustSize();
+        move(QGuiApplication::primaryScreen()->availableGeometry().width() - width(), y());
+        setText(QString());
+    }
+    m_mode = mode;
+}
+
+QString TimerWidget::widestText(TimerMode mode) const
+{
+    switch (mode) {
+    case TimerMode::Countdown:
+        return tr("0 second to capture  ");
+    case TimerMode::Playback:
+        return "00:00/00:00";
+    case TimerMode::Recording:
+        return "00:00";
+    case TimerMode::None:
+        break;
+    }
+    return {};
+}
+
+void TimerWidget::showtime()
+{
+    switch (m_mode) {
+    case TimerMode::Countdown:
+        countDown();
+        break;
+    case TimerMode::Playback:
+        emit set();
+        break;
+    case TimerMode::Recording:
+        showRecordingTime();
+        break;
+    case TimerMode::None:
+        break;
+    }
+}
+
+void TimerWidget::countDown()
+{
+    if (m_remaining == 0) {
+        m_remaining = m_count;
+        setText(QString());
+        emit shot();
+        return;
+    }
+    if (isHidden())
+        show();
+    setText(QString::number(m_remaining) + tr(" second to capture"));
+    --m_remaining;
+}
+
+void TimerWidget::showRecordingTime()
+{
+    const QLatin1Char zero('0');
+    setText(QString("%1:%2")
+                .arg(m_elapsed / kSecondsPerMinute, 2, 10, zero)
+                .arg(m_elapsed % kSecondsPerMinute, 2, 10, zero));
+    if (m_elapsed >= kRecordingLimit)
+        emit movieTimeOver();
+    ++m_elapsed;
+}

@@ -1,0 +1,93 @@
+#include "dialog/waitemsgdlg.h"
+
+#include <QIcon>
+#include <QLabel>
+#include <QPushButton>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace
+{
+// Long enough for the dialog to be painted before the work begins.
+constexpr int kStartDelayMilliseconds = 100;
+} // namespace
+
+CWaiteMsgDlg::CWaiteMsgDlg(QWidget *parent)
+    : QDialog(parent), m_ok(new QPushButton(tr("OK"))),
+      m_text(new QLabel(tr("Pasting is processed. Please wait... \n"))), m_starter(new QTimer(this))
+{
+    setAutoFillBackground(true);
+    setWindowTitle(tr("Orvane"));
+    setWindowIcon(QIcon(":res/Pictorel.png"));
+    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowStaysOnTopHint);
+    setModal(true);
+
+    const QFont font("Arial", 11, 5);
+    m_ok->setFont(font);
+    m_text->setFont(font);
+    connect(m_ok, &QPushButton::clicked, this, &QWidget::close);
+    m_starter->setSingleShot(true);
+    m_starter->setInterval(kStartDelayMilliseconds);
+    connect(m_starter, &QTimer::timeout, this, &CWaiteMsgDlg::OnShow);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(m_text);
+    layout->addWidget(m_ok);
+    adjustSize();
+}
+
+void CWaiteMsgDlg::setLoadingTexts(const QString &wait, const QString &complete, const QString &failed)
+{
+    m_wait = wait;
+    m_complete = complete;
+    m_failed = failed;
+}
+
+QString CWaiteMsgDlg::getWaitemsg() const
+{
+    return tr("Please Waite..");
+}
+
+QString CWaiteMsgDlg::getCompletemsg() const
+{
+    return tr("Complete");
+}
+
+QString CWaiteMsgDlg::getFailedmsg() const
+{
+    return tr("Failed.");
+}
+
+void CWaiteMsgDlg::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    showText(getWaitemsg(), m_wait);
+    adjustPosition(parentWidget());
+    m_ok->hide(); // the room for it stays, so that nothing jumps when it comes
+    m_starter->start();
+}
+
+void CWaiteMsgDlg::comp(bool ok)
+{
+    m_ok->show();
+    if (ok)
+        showText(getCompletemsg(), m_complete);
+    else
+        showText(getFailedmsg(), m_failed);
+    m_ok->setFocus();
+}
+
+void CWaiteMsgDlg::showText(const QString &text, const QString &description)
+{
+    m_text->setText(text);
+    m_text->setAccessibleDescription(description);
+    m_text->adjustSize();
+    adjustSize();
+}
+
+// Escape and the window manager must not take the dialog away while the work still runs.
+void CWaiteMsgDlg::reject()
+{
+    if (!m_ok->isHidden())
+        QDialog::reject();
+}

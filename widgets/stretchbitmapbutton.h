@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QPixmap>
+#include <QPushButton>
+#include <QString>
+
+class QLabel;
+
+// A command button: a bitmap for its state, stretched over the whole button, and a caption over the right
+// three fifths of it. The bitmaps are the resources ":res/" + name + "_up.bmp" (normal), "_dw.bmp" (pressed)
+// and "_ds.bmp" (disabled); without them the button shrinks to nothing. The size follows from the bitmap and
+// the width of the primary screen at construction, so that six buttons always fit side by side. The button
+// starts hidden.
+class CStretchBitmapButton : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    // name finds the bitmaps, and is the accessible name until there is a caption.
+    explicit CStretchBitmapButton(const QString &name, QWidget *parent = nullptr);
+
+    // Loads and scales the three bitmaps anew and gives the button their size.
+    void setIconFromObjectNameBitmap();
+
+    // The caption, with "\n" between its lines; on one line it is also the accessible name.
+    void setCaptionText(const QString &text);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+
+private:
+    void createCaption();
+    const QPixmap &pixmapForState() const;
+    void paintFocusFrame(QPainter &painter) const;
+
+    QLabel *m_caption = nullptr;
+    QString m_name;
+    QPixmap m_up;
+    QPixmap m_down;
+    QPixmap m_disabled;
+    bool m_focusedByKeyboard = false;
+};
