@@ -1,0 +1,48 @@
+#pragma once
+
+#include "platform/capturedframe.h"
+#include "platform/capturemode.h"
+
+#include <chrono>
+#include <deque>
+#include <mutex>
+
+// A camera's stream from the device to decoded frames: source, fixed mode, decoder, frames. Every call can
+// last as long as the camera's driver takes, so only the thread that grabs the frames makes them.
+class CameraPipeline
+{
+public:
+    // Opens nothing yet. The device is borrowed for the construction only.
+    CameraPipeline(GstDevice *device, const CaptureMode &mode);
+    // Closes the camera.
+    ~CameraPipeline();
+    CameraPipeline(const CameraPipeline &) = delete;
+    CameraPipeline &operator=(const CameraPipeline &) = delete;
+
+    // Opens the camera and starts the stream. False when the camera refuses.
+    bool open();
+
+    // Stops the stream while the camera stays open, and lets it go on.
+    void setPaused(bool paused);
+
+    // The next frame, waited for as long as told; null when none came.
+    FramePtr nextFrame(std::chrono::milliseconds wait);
+
+    // Whether the stream has ended with an error or by itself. Reads all messages that have come.
+    bool hasFailed();
+
+private:
+    bool build(GstDevice *device, const CaptureMode &mode);
+    bool addDecoder(const CaptureMode &mode, GstElement **last);
+    GstElement *add(const char *element);
+    static GstPadProbeReturn keepJpeg(GstPad *pad, GstPadProbeInfo *info, gpointer self);
+    BufferHandle jpegOf(GstClockTime time);
+
+    ElementHandle m_pipeline;
+    BusHandle m_bus;
+    GstElement *m_sink = nullptr; // owned by the pipeline
+    bool m_hasFailed = false;
+
+    std::mutex m_jpegMutex;
+    std::deque<BufferHandle> m_jpegs; // the last few on their way through the decoder
+};

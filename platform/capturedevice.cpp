@@ -1,0 +1,161 @@
+#include "platform/capturedevice.h"
+
+#include "platform/capturemode.h"
+
+#include <algorithm>
+
+namespace
+{
+
+QString property(const GstStructure *properties, const char *name)
+{
+    const GValue *value = properties ? gst_structure_get_value(properties, name) : nullptr;
+    if (!value)
+        return {};
+    if (G_VALUE_HOLDS_STRING(value))
+        return QString::fromUtf8(g_value_get_string(value));
+    const TextHandle text(gst_value_serialize(value));
+    return QString::fromUtf8(text.get());
+}
+
+QString firstProperty(const GstStructure *properties, std::initializer_list<const char *> names)
+{
+    for (const char *name : names) {
+        const QString value = property(properties, name);
+        if (!value.isEmpty())
+            return value;
+    }
+    return {};
+}
+
+// PipeWire names the kernel's node as "v4l2:/dev/video0".
+QString withoutScheme(const QString &path)
+{
+    const int slash = path.indexOf(QLatin1Char('/'));
+    return slash > 0 ? path.mid(slash) : path;
+}
+
+bool isTrue(const GstStructure *properties, const char *name)
+{
+    const QString value = property(properties, name);
+    return value == QLatin1String("true") || value == QLatin1String("TRUE") || value == QLatin1String("1");
+}
+
+bool isGreyOnly(const GstCaps *caps)
+{
+    for (guint i = 0; i < gst_caps_get_size(caps); ++i) {
+        const GstStructure *structure = gst_caps_get_structure(caps, i);
+        const QString format = property(structure, "format");
+        if (!gst_structure_has_name(structure, "video/x-raw") || !format.contains(QLatin1String("GRAY8")) ||
+            format.contains(QLatin1Char(',')))
+            return false;
+    }
+    return true;
+}
+
+bool namesInfrared(const QString &name)
+{
+    return name.endsWith(QLatin1String(" IR")) || name.contains(QLatin1String(" IR "));
+}
+
+// A sound server mixes, resamples and survives an unplugged device, which the bare card does not.
+int microphonePreference(const CaptureDevice &device)
+{
+    if (device.provider == QLatin1String("pulsedeviceprovider"))
+        return 0;
+    if (device.provider == QLatin1String("pipewiredeviceprovider"))
+        return 1;
+    return device.provider == QLatin1String("alsadeviceprovider") ? 3 : 2;
+}
+
+bool preferredMicrophone(const CaptureDevice &a, const CaptureDevice &b)
+{
+    if (a.isDefault != b.isDefault)
+        return a.isDefault;
+    return microphonePreference(a) < microphonePreference(b);
+}
+
+} // namespace
+
+CaptureDevice describeDevice(GstDevice *device, const QString &provider)
+{
+    CaptureDevice described;
+    described.device.reset(static_cast<GstDevice *>(gst_object_ref(device)), GstObjectRelease());
+    described.provider = provider;
+    const TextHandle name(gst_device_get_display_name(device));
+    described.name = QString::fromUtf8(name.get());
+
+    const StructureHandle owned(gst_device_get_properties(device));
+    const GstStructure *properties = owned.get();
+    const QString ownNode = property(properties, "device.path");
+    described.isDirect = !ownNode.isEmpty();
+    described.node = described.isDirect
+                         ? ownNode
+                         : withoutScheme(firstProperty(properties, {"api.v4l2.path", "object.path"}));
+    described.vendor = firstProperty(properties, {"device.vendor.id", "device.vendor.name"});
+    described.product = firstProperty(properties, {"device.product.id", "device.product.name"});
+    described.serial = property(properties, "device.serial");
+    described.busPath =
+        firstProperty(properties, {"device.bus_path", "device.bus-path", "v4l2.device.bus_info"});
+    described.isDefault = isTrue(properties, "is-default");
+    described.isMonitor = property(properties, "device.class") == QLatin1String("monitor") ||
+                          described.name.startsWith(QLatin1String("Monitor of "));
+    return described;
+}
+
+bool isUsableCamera(const CaptureDevice &device)
+{
+    const CapsHandle caps(gst_device_get_caps(device.device.get()));
+    if (!caps || gst_caps_is_any(caps.get()) || isGreyOnly(caps.get()) || namesInfrared(device.name))
+        return false;
+    return !captureModes(caps.get(), true).empty();
+}
+
+bool isSameDevice(const CaptureDevice &a, const CaptureDevice &b)
+{
+    if (a.device == b.device)
+        return true;
+    if (!a.node.isEmpty() && !b.node.isEmpty())
+        return a.node == b.node;
+    if (!a.busPath.isEmpty() && !b.busPath.isEmpty())
+        return a.busPath == b.busPath && a.vendor == b.vendor && a.product == b.product &&
+               a.serial == b.serial;
+    if (!a.serial.isEmpty() && !b.serial.isEmpty())
+        return a.serial == b.serial && a.vendor == b.vendor && a.product == b.product;
+    // One provider lists two cameras of the same name as two; with nothing else told, a second provider's
+    // entry of that name is the same camera.
+    return a.provider != b.provider && a.name == b.name;
+}
+
+bool isSameHardware(const CaptureDevice &a, const CaptureDevice &b)
+{
+    return a.name == b.name && a.vendor == b.vendor && a.product == b.product && a.serial == b.serial &&
+           a.busPath == b.busPath;
+}
+
+std::vector<CaptureDevice> mergeCameras(const std::vector<CaptureDevice> &listed)
+{
+    std::vector<CaptureDevice> merged;
+    for (const CaptureDevice &device : listed) {
+        if (!isUsableCamera(device))
+            continue;
+        const auto known = std::find_if(merged.begin(), merged.end(), [&](const CaptureDevice &other) {
+            return isSameDevice(device, other);
+        });
+        if (known == merged.end())
+            merged.push_back(device);
+        else if (device.isDirect && !known->isDirect)
+            *known = device;
+    }
+    return merged;
+}
+
+const CaptureDevice *defaultMicrophone(const std::vector<CaptureDevice> &listed)
+{
+    const CaptureDevice *best = nullptr;
+    for (const CaptureDevice &device : listed) {
+        if (!device.isMonitor && (!best || preferredMicrophone(device, *best)))
+            best = &device;
+    }
+    return best;
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "platform/gsthandles.h"
+
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+// A camera or microphone as one device provider describes it. Copies share the device.
+struct CaptureDevice {
+    std::shared_ptr<GstDevice> device;
+    QString provider; // factory name of the provider that lists it
+    QString name;     // what the user reads
+    QString node;     // device node, "/dev/video0"; empty when the provider does not tell
+    QString vendor;   // of the hardware, as are the next three; each may be empty
+    QString product;
+    QString serial;
+    QString busPath;
+    bool isDirect = false;  // the kernel's own device rather than a sound or picture server's view of it
+    bool isDefault = false; // the user's chosen microphone
+    bool isMonitor = false; // what a loudspeaker plays, offered as a source
+};
+
+// Reads what the provider tells of a device; every property may be missing.
+CaptureDevice describeDevice(GstDevice *device, const QString &provider);
+
+// Whether a picture for a lesson can come from it: neither a node that gives no picture nor an infrared twin.
+bool isUsableCamera(const CaptureDevice &device);
+
+// Whether both are the same piece of hardware, seen through different providers or listed again.
+bool isSameDevice(const CaptureDevice &a, const CaptureDevice &b);
+
+// Whether both are the same camera although it may have been pulled out and put back in between: its node may
+// have changed, its make and its place have not.
+bool isSameHardware(const CaptureDevice &a, const CaptureDevice &b);
+
+// The cameras of all providers, in the order given, each piece of hardware once. Where the kernel's own
+// device and a server's view of it are both there, the kernel's stands.
+std::vector<CaptureDevice> mergeCameras(const std::vector<CaptureDevice> &listed);
+
+// The microphone that a movie is recorded with: the user's default, else the first of the sound servers,
+// else the first at all. Null when there is none; loudspeakers' monitors never count.
+const CaptureDevice *defaultMicrophone(const std::vector<CaptureDevice> &listed);

@@ -1,0 +1,277 @@
+#include "platform/capturemode.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+
+// Below this a moving page is seen to jerk.
+constexpr double smoothRate = 24.0;
+// What a lesson needs; a faster camera would only cost processor time.
+constexpr double wantedRate = 30.0;
+// Cameras name 29.97 and 30.00003 as well as 30.
+constexpr double rateTolerance = 0.05;
+
+// Sizes that a range of sizes is offered in.
+const QSize usualSizes[] = {{320, 240},   {640, 480},   {800, 600},   {1024, 768},  {1280, 720}, {1280, 960},
+                            {1600, 1200}, {1920, 1080}, {2592, 1944}, {3264, 2448}, {3840, 2160}};
+
+// Raw formats by the work that they cost on the way to screen, photo and encoder, least first.
+const char *const rawFormats[] = {"I420", "YV12", "NV12", "NV21", "YUY2", "UYVY", "YVYU",
+                                  "VYUY", "Y42B", "Y444", "BGRx", "RGBx", "xRGB", "xBGR",
+                                  "BGRA", "RGBA", "ARGB", "ABGR", "BGR",  "RGB"};
+
+struct Rate {
+    int numerator = 0;
+    int denominator = 1;
+    double value() const { return double(numerator) / denominator; }
+};
+
+int rawFormatCost(const QString &format)
+{
+    const auto found = std::find(std::begin(rawFormats), std::end(rawFormats), format);
+    return int(found - std::begin(rawFormats));
+}
+
+template<typename Visit> void forEachValue(const GValue *value, Visit visit)
+{
+    if (GST_VALUE_HOLDS_LIST(value)) {
+        for (guint i = 0; i < gst_value_list_get_size(value); ++i)
+            forEachValue(gst_value_list_get_value(value, i), visit);
+    } else if (GST_VALUE_HOLDS_ARRAY(value)) {
+        for (guint i = 0; i < gst_value_array_get_size(value); ++i)
+            forEachValue(gst_value_array_get_value(value, i), visit);
+    } else {
+        visit(value);
+    }
+}
+
+QStringList stringsOf(const GstStructure *structure, const char *field)
+{
+    QStringList strings;
+    if (const GValue *value = gst_structure_get_value(structure, field)) {
+        forEachValue(value, [&](const GValue *one) {
+            if (G_VALUE_HOLDS_STRING(one))
+                strings << QString::fromLatin1(g_value_get_string(one));
+        });
+    }
+    return strings;
+}
+
+struct IntRange {
+    int low = 0;
+    int high = 0;
+    int step = 1;
+    bool contains(int number) const { return number >= low && number <= high && (number - low) % step == 0; }
+};
+
+std::vector<IntRange> intRanges(const GstStructure *structure, const char *field)
+{
+    std::vector<IntRange> ranges;
+    if (const GValue *value = gst_structure_get_value(structure, field)) {
+        forEachValue(value, [&](const GValue *one) {
+            if (G_VALUE_HOLDS_INT(one))
+                ranges.push_back({g_value_get_int(one), g_value_get_int(one), 1});
+            else if (GST_VALUE_HOLDS_INT_RANGE(one))
+                ranges.push_back({gst_value_get_int_range_min(one), gst_value_get_int_range_max(one),
+                                  std::max(1, gst_value_get_int_range_step(one))});
+        });
+    }
+    return ranges;
+}
+
+std::vector<QSize> sizesOf(const GstStructure *structure)
+{
+    std::vector<QSize> sizes;
+    const auto add = [&](const QSize &size) {
+        if (!size.isEmpty() && std::find(sizes.begin(), sizes.end(), size) == sizes.end())
+            sizes.push_back(size);
+    };
+    for (const IntRange &width : intRanges(structure, "width")) {
+        for (const IntRange &height : intRanges(structure, "height")) {
+            add({width.low, height.low});
+            for (const QSize &usual : usualSizes) {
+                if (width.contains(usual.width()) && height.contains(usual.height()))
+                    add(usual);
+            }
+            add({width.high, height.high});
+        }
+    }
+    return sizes;
+}
+
+// The rate of a range that comes nearest to the wanted one without falling below what is smooth.
+Rate rateOfRange(const GValue *range)
+{
+    const GValue *low = gst_value_get_fraction_range_min(range);
+    const GValue *high = gst_value_get_fraction_range_max(range);
+    const Rate slowest{gst_value_get_fraction_numerator(low), gst_value_get_fraction_denominator(low)};
+    const Rate fastest{gst_value_get_fraction_numerator(high), gst_value_get_fraction_denominator(high)};
+    if (fastest.value() < wantedRate)
+        return fastest;
+    return slowest.value() > wantedRate ? slowest : Rate{int(wantedRate), 1};
+}
+
+bool suitsBetter(const Rate &a, const Rate &b)
+{
+    const bool aReaches = a.value() >= wantedRate - rateTolerance;
+    const bool bReaches = b.value() >= wantedRate - rateTolerance;
+    if (aReaches != bReaches)
+        return aReaches;
+    return aReaches ? a.value() < b.value() : a.value() > b.value();
+}
+
+Rate suitedRate(const GstStructure *structure)
+{
+    Rate best;
+    const GValue *value = gst_structure_get_value(structure, "framerate");
+    if (!value)
+        return best;
+    forEachValue(value, [&](const GValue *one) {
+        Rate rate;
+        if (GST_VALUE_HOLDS_FRACTION(one))
+            rate = {gst_value_get_fraction_numerator(one), gst_value_get_fraction_denominator(one)};
+        else if (GST_VALUE_HOLDS_FRACTION_RANGE(one))
+            rate = rateOfRange(one);
+        if (rate.numerator > 0 && (best.numerator == 0 || suitsBetter(rate, best)))
+            best = rate;
+    });
+    return best;
+}
+
+// The pixel format to ask for, the cheapest that is offered; empty when none can be used.
+QString usableRawFormat(const GstStructure *structure)
+{
+    QString best;
+    for (const QString &format : stringsOf(structure, "format")) {
+        const int cost = rawFormatCost(format);
+        if (cost < int(std::size(rawFormats)) && (best.isEmpty() || cost < rawFormatCost(best)))
+            best = format;
+    }
+    return best;
+}
+
+bool inSystemMemory(const GstCaps *caps, guint index)
+{
+    const GstCapsFeatures *features = gst_caps_get_features(caps, index);
+    return !features || gst_caps_features_is_equal(features, GST_CAPS_FEATURES_MEMORY_SYSTEM_MEMORY);
+}
+
+bool describeCoding(const GstStructure *structure, bool h264Decodes, CaptureMode *mode)
+{
+    if (gst_structure_has_name(structure, "video/x-raw")) {
+        mode->coding = CaptureMode::Coding::Raw;
+        mode->rawFormat = usableRawFormat(structure);
+        return !mode->rawFormat.isEmpty();
+    }
+    if (gst_structure_has_name(structure, "image/jpeg")) {
+        mode->coding = CaptureMode::Coding::Jpeg;
+        return true;
+    }
+    mode->coding = CaptureMode::Coding::H264;
+    return h264Decodes && gst_structure_has_name(structure, "video/x-h264");
+}
+
+bool isSmooth(const CaptureMode &mode)
+{
+    return mode.framesPerSecond() >= smoothRate - rateTolerance;
+}
+
+qint64 area(const QSize &size)
+{
+    return qint64(size.width()) * size.height();
+}
+
+// Whether two rates give the same movement to the eye; what differs by less is decided by the coding.
+bool sameRate(const CaptureMode &a, const CaptureMode &b)
+{
+    return std::abs(a.framesPerSecond() - b.framesPerSecond()) < 1.0;
+}
+
+bool betterAtOneSize(const CaptureMode &a, const CaptureMode &b)
+{
+    if (isSmooth(a) != isSmooth(b))
+        return isSmooth(a);
+    if (!sameRate(a, b))
+        return suitsBetter({a.rateNumerator, a.rateDenominator}, {b.rateNumerator, b.rateDenominator});
+    if (a.coding != b.coding)
+        return a.coding < b.coding;
+    return rawFormatCost(a.rawFormat) < rawFormatCost(b.rawFormat);
+}
+
+bool betterNative(const CaptureMode &a, const CaptureMode &b)
+{
+    if (isSmooth(a) != isSmooth(b))
+        return isSmooth(a);
+    if (area(a.size) != area(b.size))
+        return area(a.size) > area(b.size);
+    return betterAtOneSize(a, b);
+}
+
+} // namespace
+
+std::vector<CaptureMode> captureModes(const GstCaps *caps, bool h264Decodes)
+{
+    std::vector<CaptureMode> modes;
+    for (guint i = 0; caps && i < gst_caps_get_size(caps); ++i) {
+        const GstStructure *structure = gst_caps_get_structure(caps, i);
+        CaptureMode mode;
+        if (!inSystemMemory(caps, i) || !describeCoding(structure, h264Decodes, &mode))
+            continue;
+        const Rate rate = suitedRate(structure);
+        mode.rateNumerator = rate.numerator;
+        mode.rateDenominator = rate.denominator;
+        for (const QSize &size : sizesOf(structure)) {
+            mode.size = size;
+            modes.push_back(mode);
+        }
+    }
+    return modes;
+}
+
+CaptureMode nativeMode(const std::vector<CaptureMode> &modes)
+{
+    const auto best = std::min_element(modes.begin(), modes.end(), betterNative);
+    return best == modes.end() ? CaptureMode() : *best;
+}
+
+CaptureMode modeOfSize(const std::vector<CaptureMode> &modes, const QSize &size)
+{
+    CaptureMode best;
+    for (const CaptureMode &mode : modes) {
+        if (mode.size == size && (!best.isValid() || betterAtOneSize(mode, best)))
+            best = mode;
+    }
+    return best;
+}
+
+QStringList resolutionNames(const std::vector<CaptureMode> &modes)
+{
+    std::vector<QSize> sizes;
+    for (const CaptureMode &mode : modes)
+        sizes.push_back(mode.size);
+    std::sort(sizes.begin(), sizes.end(), [](const QSize &a, const QSize &b) {
+        return area(a) != area(b) ? area(a) < area(b) : a.width() < b.width();
+    });
+    sizes.erase(std::unique(sizes.begin(), sizes.end()), sizes.end());
+    QStringList names;
+    for (const QSize &size : sizes)
+        names << QStringLiteral("%1x%2").arg(size.width()).arg(size.height());
+    return names;
+}
+
+CapsHandle fixedCaps(const CaptureMode &mode)
+{
+    const char *const mediaTypes[] = {"video/x-raw", "image/jpeg", "video/x-h264"};
+    CapsHandle caps(gst_caps_new_simple(mediaTypes[int(mode.coding)], "width", G_TYPE_INT, mode.size.width(),
+                                        "height", G_TYPE_INT, mode.size.height(), nullptr));
+    if (mode.coding == CaptureMode::Coding::Raw)
+        gst_caps_set_simple(caps.get(), "format", G_TYPE_STRING, mode.rawFormat.toLatin1().constData(),
+                            nullptr);
+    // A camera that names no rate has a single one.
+    if (mode.rateNumerator > 0)
+        gst_caps_set_simple(caps.get(), "framerate", GST_TYPE_FRACTION, mode.rateNumerator,
+                            mode.rateDenominator, nullptr);
+    return caps;
+}

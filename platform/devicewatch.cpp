@@ -1,0 +1,111 @@
+#include "platform/devicewatch.h"
+
+#include "platform/providerwatch.h"
+
+#include <algorithm>
+
+namespace
+{
+
+// A provider without its server answers in milliseconds; one that takes longer than this hangs.
+constexpr auto firstListingLimit = std::chrono::milliseconds(1500);
+
+constexpr char soundCardFolder[] = "/dev/snd";
+
+constexpr char cameraClass[] = "Video/Source";
+constexpr char microphoneClass[] = "Audio/Source";
+
+// The kernel's cameras first: where a server lists the same camera too, the order of the list must not
+// depend on which of the two was quicker.
+bool comesFirst(GstPluginFeature *a, GstPluginFeature *b)
+{
+    const auto isKernels = [](GstPluginFeature *feature) {
+        return g_strcmp0(gst_plugin_feature_get_name(feature), "v4l2deviceprovider") == 0;
+    };
+    return isKernels(a) && !isKernels(b);
+}
+
+} // namespace
+
+DeviceWatch &DeviceWatch::instance()
+{
+    // Never deleted: the providers' threads may be asleep in a driver when the process ends.
+    static auto *watch = new DeviceWatch;
+    return *watch;
+}
+
+DeviceWatch::DeviceWatch() : m_firstListingLimit(std::chrono::steady_clock::now() + firstListingLimit)
+{
+    // A provider that is ranked NONE is switched off, as everywhere in GStreamer.
+    GList *factories = gst_device_provider_factory_list_get_device_providers(GST_RANK_MARGINAL);
+    std::vector<GstPluginFeature *> ordered;
+    for (GList *link = factories; link; link = link->next)
+        ordered.push_back(GST_PLUGIN_FEATURE(link->data));
+    std::stable_sort(ordered.begin(), ordered.end(), comesFirst);
+
+    for (GstPluginFeature *feature : ordered) {
+        auto *factory = GST_DEVICE_PROVIDER_FACTORY(feature);
+        const bool hasCameras = gst_device_provider_factory_has_classes(factory, cameraClass);
+        if (!hasCameras && !gst_device_provider_factory_has_classes(factory, microphoneClass))
+            continue;
+        ProviderHandle provider(gst_device_provider_factory_get(factory));
+        if (!provider)
+            continue;
+        m_providers.push_back(
+            std::make_unique<ProviderWatch>(std::move(provider), factory, [this] { emit changed(); }));
+        m_providers.back()->start();
+    }
+    gst_plugin_feature_list_free(factories);
+    watchSoundCards();
+}
+
+DeviceWatch::~DeviceWatch() = default;
+
+std::vector<CaptureDevice> DeviceWatch::cameras()
+{
+    std::vector<CaptureDevice> cameras = mergeCameras(listed(cameraClass));
+    const auto isSetAside = [this](const CaptureDevice &camera) {
+        return std::find(m_setAside.begin(), m_setAside.end(), camera.device) != m_setAside.end();
+    };
+    cameras.erase(std::remove_if(cameras.begin(), cameras.end(), isSetAside), cameras.end());
+    return cameras;
+}
+
+std::vector<CaptureDevice> DeviceWatch::microphones()
+{
+    return listed(microphoneClass);
+}
+
+std::vector<CaptureDevice> DeviceWatch::listed(const char *deviceClass)
+{
+    std::vector<CaptureDevice> listed;
+    for (const auto &provider : m_providers) {
+        if (!provider->lists(deviceClass))
+            continue;
+        provider->waitForFirstListing(m_firstListingLimit);
+        const auto devices = provider->devices(deviceClass);
+        listed.insert(listed.end(), devices.begin(), devices.end());
+    }
+    return listed;
+}
+
+void DeviceWatch::setAside(const CaptureDevice &camera, QThread *opening)
+{
+    m_setAside.push_back(camera.device);
+    connect(opening, &QThread::finished, this, [this, device = camera.device] {
+        m_setAside.erase(std::remove(m_setAside.begin(), m_setAside.end(), device), m_setAside.end());
+        emit changed();
+    });
+}
+
+// The sound cards' provider announces nothing, so the kernel's folder of them is what tells.
+void DeviceWatch::watchSoundCards()
+{
+    m_soundCards.addPath(QString::fromLatin1(soundCardFolder));
+    connect(&m_soundCards, &QFileSystemWatcher::directoryChanged, this, [this] {
+        for (const auto &provider : m_providers) {
+            if (!provider->announcesChanges())
+                provider->relist();
+        }
+    });
+}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "platform/capturedevice.h"
+
+#include <QFileSystemWatcher>
+#include <QObject>
+#include <QThread>
+
+#include <chrono>
+#include <memory>
+#include <vector>
+
+class ProviderWatch;
+
+// Knows which cameras and microphones are there at this moment. Each of GStreamer's device providers is
+// started and followed on a thread of its own, since a start can block (GStreamer 1.22 starts them in the
+// caller's thread): a provider that hangs keeps only its own devices from being listed. One for the process,
+// as GStreamer's providers are; it is made at the first use and never ends.
+class DeviceWatch : public QObject
+{
+    Q_OBJECT
+
+public:
+    // The first call starts the watching and returns at once.
+    static DeviceWatch &instance();
+
+    // Every camera that is there, each once, in a stable order: known ones keep their place, new ones come
+    // last. While the first listing is still under way it is waited for, up to a second and a half from the
+    // start of the watching; later calls never wait.
+    std::vector<CaptureDevice> cameras();
+
+    // Every microphone that is there, as each provider lists it; waits as cameras() does.
+    std::vector<CaptureDevice> microphones();
+
+    // Has a camera whose opening hangs count as not there until that thread ends.
+    void setAside(const CaptureDevice &camera, QThread *opening);
+
+signals:
+    // A device came or went. Emitted from the watching threads.
+    void changed();
+
+private:
+    DeviceWatch();
+    ~DeviceWatch() override;
+    std::vector<CaptureDevice> listed(const char *deviceClass);
+    void watchSoundCards();
+
+    std::vector<std::unique_ptr<ProviderWatch>> m_providers;
+    std::vector<std::shared_ptr<GstDevice>> m_setAside;
+    std::chrono::steady_clock::time_point m_firstListingLimit;
+    QFileSystemWatcher m_soundCards;
+};

@@ -1,0 +1,92 @@
+#pragma once
+
+#include "platform/camerapipeline.h"
+#include "platform/framerenderer.h"
+#include "platform/framesink.h"
+#include "platform/newestframe.h"
+
+#include <QImage>
+#include <QThread>
+
+#include <opencv2/core/mat.hpp>
+
+#include <atomic>
+#include <memory>
+#include <mutex>
+
+// A camera's device together with the lock that says who has it open.
+struct CameraAccess {
+    std::shared_ptr<GstDevice> device;
+    std::shared_ptr<std::timed_mutex> inUse;
+};
+
+// The thread through which all frames of one opened camera come: it opens the camera, takes the frames off
+// the stream, hands them to the movie, makes the picture for the window, and closes the camera at its end.
+// Nothing else touches the stream, so a camera whose driver hangs keeps only this thread.
+class GrabThread : public QThread
+{
+    Q_OBJECT
+
+public:
+    // Started with start(); ends after requestInterruption() or when the camera fails.
+    GrabThread(CameraAccess camera, const CaptureMode &mode);
+    // The thread must have ended.
+    ~GrabThread() override;
+
+    // What the window shows: the box in device pixels into which the picture is fitted. An empty box, while
+    // nothing is to be seen, saves the work.
+    void setView(const QSize &box, const Zoom &zoom);
+    // Holds the stream, with the camera open, and lets it go on.
+    void setPaused(bool paused);
+    // Hands every further frame to the sink too; null ends that.
+    void setSink(std::shared_ptr<FrameSink> sink);
+
+    // The latest picture for the window; null before the first. Shares its pixels.
+    QImage picture() const;
+    // The latest frame at the camera's full size.
+    const NewestFrame &newest() const { return m_newest; }
+
+    // Milliseconds since the camera last gave a sign of life; while paused it owes none.
+    qint64 silentFor() const;
+    // Whether the camera has not answered to being opened yet.
+    bool isOpening() const { return m_isOpening; }
+
+signals:
+    // The camera could not be opened, or its stream broke off.
+    void deviceerr();
+    // A new picture() is there. Not sent again before picture() has been called.
+    void grabtrue();
+
+protected:
+    void run() override;
+
+private:
+    struct View {
+        QSize box;
+        Zoom zoom;
+    };
+
+    void grabUntilStopped(CameraPipeline &pipeline);
+    FramePtr grabAllWaiting(CameraPipeline &pipeline);
+    void deliver(const FramePtr &frame);
+    void show(const FramePtr &frame, const View &view);
+    View view() const;
+    void noteSignOfLife();
+
+    cv::Mat m_frame; // the pixels of m_image
+    QImage m_image;
+
+    const CameraAccess m_camera;
+    const CaptureMode m_mode;
+    NewestFrame m_newest;
+    FrameRenderer m_renderer;
+
+    mutable std::mutex m_mutex; // guards m_frame, m_image, m_view and m_sink
+    View m_view;
+    std::shared_ptr<FrameSink> m_sink;
+    std::atomic<bool> m_isViewChanged{false};
+    std::atomic<bool> m_isPaused{false};
+    std::atomic<bool> m_isOpening{true};
+    mutable std::atomic<bool> m_isPictureAwaited{true};
+    std::atomic<qint64> m_lastSignOfLife;
+};

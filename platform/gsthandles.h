@@ -1,0 +1,89 @@
+#pragma once
+
+#include <gst/gst.h>
+#include <gst/video/video.h>
+
+#include <memory>
+
+// Owning handles of GStreamer's reference-counted objects: one reference each, given back when the handle
+// goes. A function that takes a handle by value takes the reference over; a raw pointer is only borrowed.
+
+struct GstObjectRelease {
+    void operator()(void *object) const { gst_object_unref(object); }
+};
+struct GstMiniObjectRelease {
+    template<typename T> void operator()(T *object) const
+    {
+        gst_mini_object_unref(GST_MINI_OBJECT_CAST(object));
+    }
+};
+struct GFree {
+    void operator()(void *memory) const { g_free(memory); }
+};
+struct GErrorFree {
+    void operator()(GError *error) const { g_error_free(error); }
+};
+struct GstVideoConverterFree {
+    void operator()(GstVideoConverter *converter) const { gst_video_converter_free(converter); }
+};
+struct GstStructureFree {
+    void operator()(GstStructure *structure) const { gst_structure_free(structure); }
+};
+
+using ElementHandle = std::unique_ptr<GstElement, GstObjectRelease>;
+using PadHandle = std::unique_ptr<GstPad, GstObjectRelease>;
+using BusHandle = std::unique_ptr<GstBus, GstObjectRelease>;
+using ClockHandle = std::unique_ptr<GstClock, GstObjectRelease>;
+using DeviceHandle = std::unique_ptr<GstDevice, GstObjectRelease>;
+using ProviderHandle = std::unique_ptr<GstDeviceProvider, GstObjectRelease>;
+using FeatureHandle = std::unique_ptr<GstPluginFeature, GstObjectRelease>;
+using CapsHandle = std::unique_ptr<GstCaps, GstMiniObjectRelease>;
+using SampleHandle = std::unique_ptr<GstSample, GstMiniObjectRelease>;
+using BufferHandle = std::unique_ptr<GstBuffer, GstMiniObjectRelease>;
+using MessageHandle = std::unique_ptr<GstMessage, GstMiniObjectRelease>;
+using StructureHandle = std::unique_ptr<GstStructure, GstStructureFree>;
+using ConverterHandle = std::unique_ptr<GstVideoConverter, GstVideoConverterFree>;
+using TextHandle = std::unique_ptr<char, GFree>;
+using ErrorHandle = std::unique_ptr<GError, GErrorFree>;
+
+// One further reference to a borrowed object.
+inline BufferHandle retain(GstBuffer *buffer)
+{
+    return BufferHandle(gst_buffer_ref(buffer));
+}
+inline SampleHandle retain(GstSample *sample)
+{
+    return SampleHandle(gst_sample_ref(sample));
+}
+inline CapsHandle retain(GstCaps *caps)
+{
+    return CapsHandle(gst_caps_ref(caps));
+}
+inline DeviceHandle retain(GstDevice *device)
+{
+    return DeviceHandle(static_cast<GstDevice *>(gst_object_ref(device)));
+}
+
+// A video frame mapped for as long as this object lives.
+class MappedFrame
+{
+public:
+    MappedFrame(const GstVideoInfo &info, GstBuffer *buffer, GstMapFlags flags)
+    {
+        m_mapped = gst_video_frame_map(&m_frame, &info, buffer, flags);
+    }
+    ~MappedFrame()
+    {
+        if (m_mapped)
+            gst_video_frame_unmap(&m_frame);
+    }
+    MappedFrame(const MappedFrame &) = delete;
+    MappedFrame &operator=(const MappedFrame &) = delete;
+
+    bool isValid() const { return m_mapped; }
+    GstVideoFrame *get() { return &m_frame; }
+
+private:
+    GstVideoFrame m_frame{};
+    bool m_mapped = false;
+};

@@ -1,0 +1,175 @@
+#include "platform/moviepipeline.h"
+
+#include "platform/requiredelements.h"
+
+#include <QFile>
+
+namespace
+{
+
+// Ten minutes is what the program records; the rest is margin for a stop that comes late.
+constexpr int indexedSeconds = 660;
+constexpr int stopBeforeSeconds = 20;
+
+// The index is written anew this often, so that a movie whose program dies plays up to here.
+constexpr GstClockTime indexPeriod = 500 * GST_MSECOND;
+
+// The index takes 4 bytes for a sample's size and 8 for its duration where frames come unevenly; twice that
+// leaves room for key frames and chunks. An index that outgrows its place ends the movie.
+constexpr int indexBytesPerFrame = 24;
+constexpr int soundPacketsPerSecond = 48000 / 1024 + 1;
+constexpr int leastIndexBytesPerSecond = indexBytesPerFrame * soundPacketsPerSecond;
+
+// Good for a page of text; the bit rate is a ceiling for restless pictures, in bits a pixel and second.
+constexpr int quality = 23;
+constexpr double bitsPerPixel = 0.15;
+// A key frame every two seconds keeps jumping about in the player quick.
+constexpr int secondsPerKeyFrame = 2;
+
+// Sound may arrive this much later than the picture before silence stands in for it.
+constexpr GstClockTime soundLatency = 100 * GST_MSECOND;
+constexpr int soundBitRate = 128000;
+
+// Holds the encoded streams while the muxer waits for the disk: a minute and more of movie.
+constexpr guint muxQueueBytes = 64 * 1024 * 1024;
+
+class Assembly
+{
+public:
+    Assembly() : m_pipeline(GST_ELEMENT(gst_object_ref_sink(gst_pipeline_new("movie")))) {}
+
+    // The element, owned by the pipeline; null, remembered as a failure, when it is not installed.
+    GstElement *add(const char *element)
+    {
+        GstElement *made = gst_element_factory_make(element, nullptr);
+        if (made)
+            gst_bin_add(GST_BIN(m_pipeline.get()), made);
+        m_isComplete = m_isComplete && made;
+        return made;
+    }
+    GstElement *addFilter(const char *caps)
+    {
+        GstElement *filter = add("capsfilter");
+        if (filter)
+            gst_util_set_object_arg(G_OBJECT(filter), "caps", caps);
+        return filter;
+    }
+    void chain(std::initializer_list<GstElement *> elements)
+    {
+        GstElement *last = nullptr;
+        for (GstElement *element : elements) {
+            m_isComplete = m_isComplete && element && (!last || gst_element_link(last, element));
+            last = element;
+        }
+    }
+    bool isComplete() const { return m_isComplete; }
+    ElementHandle take() { return std::move(m_pipeline); }
+
+private:
+    ElementHandle m_pipeline;
+    bool m_isComplete = true;
+};
+
+GstElement *addMuxQueue(Assembly &assembly)
+{
+    GstElement *queue = assembly.add("queue");
+    if (queue)
+        g_object_set(queue, "max-size-buffers", 0U, "max-size-time", guint64(0), "max-size-bytes",
+                     muxQueueBytes, nullptr);
+    return queue;
+}
+
+GstElement *addVideoEncoder(Assembly &assembly, const MovieSettings &settings)
+{
+    GstElement *encoder = assembly.add("x264enc");
+    if (!encoder)
+        return nullptr;
+    const double pixels =
+        double(GST_VIDEO_INFO_WIDTH(&settings.picture)) * GST_VIDEO_INFO_HEIGHT(&settings.picture);
+    const auto kilobits = guint(pixels * settings.framesPerSecond * bitsPerPixel / 1000);
+    g_object_set(encoder, "quantizer", guint(quality), "bitrate", qMax(500U, kilobits), "key-int-max",
+                 guint(settings.framesPerSecond * secondsPerKeyFrame), nullptr);
+    gst_util_set_object_arg(G_OBJECT(encoder), "pass", "qual");
+    // Keeps up with full HD on an old notebook, and holds no frames back, so that a movie ends at once.
+    gst_util_set_object_arg(G_OBJECT(encoder), "speed-preset", "superfast");
+    gst_util_set_object_arg(G_OBJECT(encoder), "tune", "zerolatency");
+    return encoder;
+}
+
+GstElement *addMuxer(Assembly &assembly, const MovieSettings &settings)
+{
+    GstElement *muxer = assembly.add("qtmux");
+    if (!muxer)
+        return nullptr;
+    const int bytesPerSecond =
+        qMax(leastIndexBytesPerSecond, 2 * indexBytesPerFrame * qMax(1, settings.framesPerSecond));
+    // The size of the place is fixed before the period is looked at, so all of them are set together.
+    g_object_set(muxer, "reserved-max-duration", guint64(indexedSeconds) * GST_SECOND,
+                 "reserved-moov-update-period", guint64(indexPeriod), "reserved-bytes-per-sec",
+                 guint(bytesPerSecond), nullptr);
+    return muxer;
+}
+
+GstElement *addFile(Assembly &assembly, const QString &path)
+{
+    GstElement *file = assembly.add("filesink");
+    if (!file)
+        return nullptr;
+    g_object_set(file, "location", QFile::encodeName(path).constData(), "sync", FALSE, "async", FALSE,
+                 nullptr);
+    // What is written must be in the file when the program dies, not in a buffer of its own.
+    gst_util_set_object_arg(G_OBJECT(file), "buffer-mode", "unbuffered");
+    return file;
+}
+
+GstElement *addPictures(Assembly &assembly, const MovieSettings &settings)
+{
+    GstElement *pictures = assembly.add("appsrc");
+    if (!pictures)
+        return nullptr;
+    GstVideoInfo info = settings.picture;
+    info.fps_n = settings.framesPerSecond;
+    info.fps_d = 1;
+    const CapsHandle caps(gst_video_info_to_caps(&info));
+    g_object_set(pictures, "caps", caps.get(), "is-live", TRUE, "format", GST_FORMAT_TIME, "block", FALSE,
+                 "max-bytes", guint64(0), nullptr);
+    return pictures;
+}
+
+} // namespace
+
+MoviePipeline buildMoviePipeline(const MovieSettings &settings)
+{
+    Assembly assembly;
+    MoviePipeline movie;
+    GstElement *muxer = addMuxer(assembly, settings);
+    assembly.chain({muxer, addFile(assembly, settings.path)});
+
+    movie.pictures = addPictures(assembly, settings);
+    // Many cameras' JPEG holds more colour than most players' H.264 decoders read.
+    assembly.chain({movie.pictures, assembly.add("videoconvert"),
+                    assembly.addFilter("video/x-raw,format=I420"), addVideoEncoder(assembly, settings),
+                    assembly.add("h264parse"), addMuxQueue(assembly), muxer});
+
+    // The sound track is a live silence on which the microphone lies: a microphone that opens late, stalls
+    // or is pulled out leaves a gap in the sound and holds nothing up.
+    movie.silence = assembly.add("audiotestsrc");
+    movie.mixer = assembly.add("audiomixer");
+    movie.soundEncoder = assembly.add(RequiredElements::aacEncoder().constData());
+    assembly.chain({movie.silence, assembly.addFilter("audio/x-raw,format=F32LE,rate=48000,channels=2"),
+                    movie.mixer, assembly.add("audioconvert"), movie.soundEncoder, assembly.add("aacparse"),
+                    addMuxQueue(assembly), muxer});
+    if (!assembly.isComplete())
+        return {};
+    g_object_set(movie.silence, "is-live", TRUE, nullptr);
+    gst_util_set_object_arg(G_OBJECT(movie.silence), "wave", "silence");
+    g_object_set(movie.mixer, "latency", guint64(soundLatency), nullptr);
+    g_object_set(movie.soundEncoder, "bitrate", soundBitRate, nullptr);
+    movie.pipeline = assembly.take();
+    return movie;
+}
+
+int longestMovieSeconds()
+{
+    return indexedSeconds - stopBeforeSeconds;
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/moviesettings.h"
+
+// The elements of one movie file, put together and stopped. The pipeline owns the others.
+struct MoviePipeline {
+    ElementHandle pipeline;
+    GstElement *pictures = nullptr;     // appsrc that takes the frames
+    GstElement *silence = nullptr;      // live source under the microphone's sound
+    GstElement *mixer = nullptr;        // where the microphone joins
+    GstElement *soundEncoder = nullptr; // what the mixed sound goes into
+
+    bool isComplete() const { return pipeline != nullptr; }
+};
+
+// An incomplete one when an element is missing.
+MoviePipeline buildMoviePipeline(const MovieSettings &settings);
+
+// The longest movie that a file built here can index, in seconds.
+int longestMovieSeconds();

@@ -1,0 +1,182 @@
+#include "platform/movierecorder.h"
+
+#include <gst/app/gstappsrc.h>
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <sys/statvfs.h>
+
+#include <thread>
+
+namespace
+{
+
+using namespace std::chrono_literals;
+
+// Frames that may wait for the encoder; with more of them the end of a movie would take too long.
+constexpr guint64 mostWaitingFrames = 10;
+
+// How long a file may take to be finished in the background, on a slow disk.
+constexpr auto closingLimit = 10s;
+
+// Room for the index and what is on its way to the disk; below this a movie is ended while it still can be.
+constexpr double leastFreeBytes = 16.0 * 1024 * 1024;
+
+double freeBytes(const QString &path)
+{
+    struct statvfs fileSystem;
+    if (statvfs(QFile::encodeName(QFileInfo(path).path()).constData(), &fileSystem) != 0)
+        return 0;
+    return double(fileSystem.f_bavail) * double(fileSystem.f_frsize);
+}
+
+} // namespace
+
+std::shared_ptr<MovieRecorder> MovieRecorder::start(const MovieSettings &settings)
+{
+    std::shared_ptr<MovieRecorder> recorder(new MovieRecorder(settings));
+    return recorder->startPipeline() ? recorder : nullptr;
+}
+
+MovieRecorder::MovieRecorder(const MovieSettings &settings)
+    : m_settings(settings), m_movie(buildMoviePipeline(settings))
+{
+}
+
+MovieRecorder::~MovieRecorder()
+{
+    if (!m_movie.isComplete())
+        return;
+    m_microphone.reset();
+    gst_element_set_state(m_movie.pipeline.get(), GST_STATE_NULL);
+}
+
+bool MovieRecorder::startPipeline()
+{
+    if (!m_movie.isComplete())
+        return false;
+    GstElement *pipeline = m_movie.pipeline.get();
+    const BusHandle bus(gst_element_get_bus(pipeline));
+    gst_bus_set_sync_handler(bus.get(), onMessage, this, nullptr);
+
+    // Time counts from this moment on the clock that the frames' times are of.
+    const ClockHandle clock(gst_system_clock_obtain());
+    gst_pipeline_use_clock(GST_PIPELINE(pipeline), clock.get());
+    gst_element_set_start_time(pipeline, GST_CLOCK_TIME_NONE);
+    m_startTime = gst_clock_get_time(clock.get());
+    m_startedAt = std::chrono::steady_clock::now();
+    gst_element_set_base_time(pipeline, m_startTime);
+
+    if (gst_element_set_state(pipeline, GST_STATE_PLAYING) == GST_STATE_CHANGE_FAILURE)
+        return false;
+    m_microphone = std::make_unique<MicrophoneBranch>(pipeline, m_movie.mixer, m_settings.microphone.get());
+    return true;
+}
+
+GstBusSyncReply MovieRecorder::onMessage(GstBus *, GstMessage *message, gpointer self)
+{
+    static_cast<MovieRecorder *>(self)->note(message);
+    gst_message_unref(message);
+    return GST_BUS_DROP;
+}
+
+void MovieRecorder::note(GstMessage *message)
+{
+    const bool isError = GST_MESSAGE_TYPE(message) == GST_MESSAGE_ERROR;
+    if (!isError && GST_MESSAGE_TYPE(message) != GST_MESSAGE_EOS)
+        return;
+    // The movie goes on without its microphone.
+    if (isError && MicrophoneBranch::isSender(message))
+        return;
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (isError && m_state == State::Recording)
+        m_state = State::Failed;
+    m_isFileComplete = true;
+    m_changed.notify_all();
+}
+
+void MovieRecorder::take(const FramePtr &frame, const Zoom &zoom)
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        if (m_state != State::Recording)
+            return;
+    }
+    // A frame of the time before the start, still on its way then.
+    if (frame->clockTime < m_startTime || !gst_video_info_is_equal(&frame->info, &m_settings.picture))
+        return;
+    auto *pictures = GST_APP_SRC(m_movie.pictures);
+    if (gst_app_src_get_current_level_buffers(pictures) >= mostWaitingFrames) {
+        ++m_droppedFrames;
+        return;
+    }
+    if (BufferHandle buffer = timed(*frame, zoom))
+        gst_app_src_push_buffer(pictures, buffer.release());
+}
+
+// The frame with its place in the movie's time. Its pixels are shared, unless zoom makes new ones.
+BufferHandle MovieRecorder::timed(const CapturedFrame &frame, const Zoom &zoom)
+{
+    const QSize size(GST_VIDEO_INFO_WIDTH(&frame.info), GST_VIDEO_INFO_HEIGHT(&frame.info));
+    BufferHandle buffer = zoom.isNone() ? BufferHandle(gst_buffer_copy(frame.picture.get()))
+                                        : zoomed(frame, zoom.shownPart(size));
+    if (!buffer)
+        return buffer;
+    GST_BUFFER_PTS(buffer.get()) = frame.clockTime - m_startTime;
+    GST_BUFFER_DTS(buffer.get()) = GST_CLOCK_TIME_NONE;
+    GST_BUFFER_DURATION(buffer.get()) = GST_CLOCK_TIME_NONE;
+    return buffer;
+}
+
+BufferHandle MovieRecorder::zoomed(const CapturedFrame &frame, const QRect &part)
+{
+    BufferHandle buffer(gst_buffer_new_allocate(nullptr, GST_VIDEO_INFO_SIZE(&frame.info), nullptr));
+    if (!buffer || !m_zoomer.convert(frame.info, frame.picture.get(), part, frame.info, buffer.get()))
+        return {};
+    return buffer;
+}
+
+bool MovieRecorder::mustEnd() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (m_state != State::Recording)
+        return true;
+    const auto length = std::chrono::steady_clock::now() - m_startedAt;
+    return length > std::chrono::seconds(longestMovieSeconds()) ||
+           freeBytes(m_settings.path) < leastFreeBytes;
+}
+
+bool MovieRecorder::finish(std::chrono::milliseconds wait)
+{
+    std::unique_lock<std::mutex> lock(m_mutex);
+    if (m_state == State::Recording || m_state == State::Failed) {
+        m_state = State::Finishing;
+        // What follows can wait for the disk, or for a driver, so it never runs in the caller's thread.
+        std::thread([self = shared_from_this()] { self->close(); }).detach();
+    }
+    return m_changed.wait_for(lock, wait, [this] { return m_state == State::Finished; });
+}
+
+void MovieRecorder::close()
+{
+    endStreams();
+    {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        m_changed.wait_for(lock, closingLimit, [this] { return m_isFileComplete; });
+    }
+    m_microphone.reset();
+    gst_element_set_state(m_movie.pipeline.get(), GST_STATE_NULL);
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_state = State::Finished;
+    m_changed.notify_all();
+}
+
+void MovieRecorder::endStreams()
+{
+    gst_app_src_end_of_stream(GST_APP_SRC(m_movie.pictures));
+    // Behind the mixer: in front of it the end would wait for a microphone that may have stopped giving
+    // sound.
+    const PadHandle sound(gst_element_get_static_pad(m_movie.soundEncoder, "sink"));
+    gst_pad_send_event(sound.get(), gst_event_new_eos());
+}

@@ -1,0 +1,140 @@
+#include "platform/providerwatch.h"
+
+#include <algorithm>
+#include <iterator>
+#include <thread>
+
+namespace
+{
+constexpr char relistCommand[] = "orvane-relist";
+} // namespace
+
+ProviderWatch::ProviderWatch(ProviderHandle provider, GstDeviceProviderFactory *factory,
+                             std::function<void()> changed)
+    : m_provider(std::move(provider)), m_bus(gst_device_provider_get_bus(m_provider.get())),
+      m_factory(GST_DEVICE_PROVIDER_FACTORY(gst_object_ref(factory))), m_changed(std::move(changed))
+{
+}
+
+void ProviderWatch::start()
+{
+    std::thread([this] { run(); }).detach();
+}
+
+// The bus is what the thread sleeps on, so a message of our own is what wakes it.
+void ProviderWatch::relist()
+{
+    gst_bus_post(m_bus.get(), gst_message_new_application(nullptr, gst_structure_new_empty(relistCommand)));
+}
+
+bool ProviderWatch::announcesChanges() const
+{
+    return GST_DEVICE_PROVIDER_GET_CLASS(m_provider.get())->start != nullptr;
+}
+
+bool ProviderWatch::waitForFirstListing(std::chrono::steady_clock::time_point limit)
+{
+    std::unique_lock<std::mutex> lock(m_mutex);
+    return m_firstListingDone.wait_until(lock, limit, [this] { return m_isFirstListingDone; });
+}
+
+bool ProviderWatch::lists(const char *deviceClass) const
+{
+    return gst_device_provider_factory_has_classes(m_factory.get(), deviceClass);
+}
+
+std::vector<CaptureDevice> ProviderWatch::devices(const char *deviceClass) const
+{
+    std::vector<CaptureDevice> devices;
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    std::copy_if(m_listed.begin(), m_listed.end(), std::back_inserter(devices),
+                 [deviceClass](const CaptureDevice &listed) {
+                     return gst_device_has_classes(listed.device.get(), deviceClass);
+                 });
+    return devices;
+}
+
+void ProviderWatch::run()
+{
+    if (gst_device_provider_start(m_provider.get())) {
+        listAll();
+        follow();
+        return;
+    }
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_isFirstListingDone = true;
+    m_firstListingDone.notify_all();
+}
+
+void ProviderWatch::listAll()
+{
+    GList *devices = gst_device_provider_get_devices(m_provider.get());
+    for (GList *link = devices; link; link = link->next)
+        add(GST_DEVICE(link->data));
+    g_list_free_full(devices, gst_object_unref);
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_isFirstListingDone = true;
+        m_firstListingDone.notify_all();
+    }
+    m_changed();
+}
+
+void ProviderWatch::follow()
+{
+    for (;;) {
+        const MessageHandle message(gst_bus_timed_pop(m_bus.get(), GST_CLOCK_TIME_NONE));
+        if (!message)
+            return;
+        react(message.get());
+    }
+}
+
+void ProviderWatch::react(GstMessage *message)
+{
+    if (gst_message_has_name(message, relistCommand)) {
+        // Only a fresh start makes a provider without announcements look again.
+        gst_device_provider_stop(m_provider.get());
+        {
+            const std::lock_guard<std::mutex> lock(m_mutex);
+            m_listed.clear();
+        }
+        if (gst_device_provider_start(m_provider.get()))
+            listAll();
+        return;
+    }
+    GstDevice *device = nullptr;
+    if (GST_MESSAGE_TYPE(message) == GST_MESSAGE_DEVICE_ADDED) {
+        gst_message_parse_device_added(message, &device);
+        add(device);
+    } else if (GST_MESSAGE_TYPE(message) == GST_MESSAGE_DEVICE_REMOVED) {
+        gst_message_parse_device_removed(message, &device);
+        remove(device);
+    } else {
+        return;
+    }
+    gst_object_unref(device);
+    m_changed();
+}
+
+void ProviderWatch::add(GstDevice *device)
+{
+    const CaptureDevice described =
+        describeDevice(device, QString::fromLatin1(gst_plugin_feature_get_name(m_factory.get())));
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    // The first listing can come once more as announcements.
+    const bool isKnown = std::any_of(m_listed.begin(), m_listed.end(), [device](const CaptureDevice &known) {
+        return known.device.get() == device;
+    });
+    if (!isKnown)
+        m_listed.push_back(described);
+}
+
+void ProviderWatch::remove(GstDevice *device)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_listed.erase(
+        std::remove_if(m_listed.begin(), m_listed.end(),
+                       [device](const CaptureDevice &known) { return known.device.get() == device; }),
+        m_listed.end());
+}

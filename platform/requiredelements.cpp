@@ -1,0 +1,79 @@
+#include "platform/requiredelements.h"
+
+#include "platform/gsthandles.h"
+
+#include <vector>
+
+namespace
+{
+
+struct Requirement {
+    std::vector<const char *> elements; // any one of them will do, the first that is there is used
+    const char *package;
+};
+
+// jpegdec before the others: a decoder that runs on the graphics card may stall or answer with memory that
+// only the card can read.
+const Requirement jpegDecoding{{"jpegdec", "avdec_mjpeg"}, "gstreamer1.0-plugins-good"};
+const Requirement h264Decoding{{"avdec_h264", "openh264dec"}, "gstreamer1.0-libav"};
+const Requirement aacEncoding{{"avenc_aac", "fdkaacenc", "voaacenc"}, "gstreamer1.0-libav"};
+
+const Requirement requirements[] = {
+    {{"capsfilter"}, "libgstreamer1.0-0"},
+    {{"queue"}, "libgstreamer1.0-0"},
+    {{"filesink"}, "libgstreamer1.0-0"},
+    {{"appsink"}, "gstreamer1.0-plugins-base"},
+    {{"appsrc"}, "gstreamer1.0-plugins-base"},
+    {{"videoconvert"}, "gstreamer1.0-plugins-base"},
+    {{"audioconvert"}, "gstreamer1.0-plugins-base"},
+    {{"audioresample"}, "gstreamer1.0-plugins-base"},
+    {{"audiomixer"}, "gstreamer1.0-plugins-base"},
+    {{"audiotestsrc"}, "gstreamer1.0-plugins-base"},
+    jpegDecoding,
+    {{"x264enc"}, "gstreamer1.0-plugins-ugly"},
+    {{"h264parse"}, "gstreamer1.0-plugins-bad"},
+    aacEncoding,
+    {{"aacparse"}, "gstreamer1.0-plugins-good"},
+    {{"qtmux"}, "gstreamer1.0-plugins-good"},
+};
+
+QByteArray installed(const Requirement &requirement)
+{
+    for (const char *element : requirement.elements) {
+        if (gst_registry_check_feature_version(gst_registry_get(), element, 1, 0, 0))
+            return element;
+    }
+    return {};
+}
+
+} // namespace
+
+namespace RequiredElements
+{
+
+QStringList missing()
+{
+    QStringList lines;
+    for (const Requirement &requirement : requirements) {
+        if (installed(requirement).isEmpty())
+            lines << QStringLiteral("GStreamer element \"%1\" is not installed (package %2)")
+                         .arg(QLatin1String(requirement.elements.front()),
+                              QLatin1String(requirement.package));
+    }
+    return lines;
+}
+
+QByteArray jpegDecoder()
+{
+    return installed(jpegDecoding);
+}
+QByteArray h264Decoder()
+{
+    return installed(h264Decoding);
+}
+QByteArray aacEncoder()
+{
+    return installed(aacEncoding);
+}
+
+} // namespace RequiredElements

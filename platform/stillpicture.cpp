@@ -1,0 +1,47 @@
+#include "platform/stillpicture.h"
+
+#include "platform/frameconverter.h"
+#include "platform/jpegcheck.h"
+#include "platform/pngfile.h"
+
+namespace
+{
+
+bool isWhole(const CapturedFrame &frame)
+{
+    if (!frame.jpeg)
+        return true;
+    GstMapInfo mapped;
+    if (!gst_buffer_map(frame.jpeg.get(), &mapped, GST_MAP_READ))
+        return false;
+    const bool whole = isWholeJpeg(mapped.data, mapped.size);
+    gst_buffer_unmap(frame.jpeg.get(), &mapped);
+    return whole;
+}
+
+FramePtr nextWholeFrame(const NewestFrame &frames, std::chrono::steady_clock::time_point limit)
+{
+    FramePtr frame = frames.get();
+    if (!frame)
+        frame = frames.waitForOther(nullptr, limit);
+    while (frame && !isWhole(*frame))
+        frame = frames.waitForOther(frame, limit);
+    return frame;
+}
+
+} // namespace
+
+bool saveStill(const NewestFrame &frames, const Zoom &zoom, const QString &path,
+               std::chrono::milliseconds wait)
+{
+    const FramePtr frame = nextWholeFrame(frames, std::chrono::steady_clock::now() + wait);
+    if (!frame)
+        return false;
+    const QSize size(GST_VIDEO_INFO_WIDTH(&frame->info), GST_VIDEO_INFO_HEIGHT(&frame->info));
+    const GstVideoInfo rgb = pictureInfo(GST_VIDEO_FORMAT_RGB, size);
+    const BufferHandle picture(gst_buffer_new_allocate(nullptr, GST_VIDEO_INFO_SIZE(&rgb), nullptr));
+    FrameConverter converter(GST_VIDEO_RESAMPLER_METHOD_CUBIC);
+    return picture &&
+           converter.convert(frame->info, frame->picture.get(), zoom.shownPart(size), rgb, picture.get()) &&
+           writePng(path, rgb, picture.get());
+}

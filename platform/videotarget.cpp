@@ -1,0 +1,82 @@
+#include "platform/videotarget.h"
+
+#include <QEvent>
+#include <QPainter>
+#include <QWidget>
+
+VideoTarget::VideoTarget(QObject *parent) : QObject(parent) {}
+
+void VideoTarget::setWidget(QWidget *widget)
+{
+    if (m_widget) {
+        m_widget->removeEventFilter(this);
+        m_widget->update();
+    }
+    m_widget = widget;
+    if (m_widget) {
+        // Every pixel is painted here: a background under it would be painted for nothing, for each frame.
+        m_widget->setAttribute(Qt::WA_OpaquePaintEvent);
+        m_widget->installEventFilter(this);
+        m_widget->update();
+    }
+    emit boxChanged();
+}
+
+void VideoTarget::setPicture(const QImage &picture)
+{
+    const QRect before = pictureArea();
+    m_picture = picture;
+    if (m_widget)
+        m_widget->update(before | pictureArea());
+}
+
+QSize VideoTarget::box() const
+{
+    if (!m_widget || !m_widget->isVisible())
+        return {};
+    return m_widget->size() * m_widget->devicePixelRatioF();
+}
+
+bool VideoTarget::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != m_widget)
+        return QObject::eventFilter(watched, event);
+    switch (event->type()) {
+    case QEvent::Paint:
+        paint();
+        return true;
+    case QEvent::Resize:
+    case QEvent::Show:
+    case QEvent::Hide:
+        emit boxChanged();
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+QRect VideoTarget::pictureArea() const
+{
+    if (!m_widget || m_picture.isNull())
+        return {};
+    const QSize size = m_picture.size().scaled(m_widget->size(), Qt::KeepAspectRatio);
+    return {QPoint((m_widget->width() - size.width()) / 2, (m_widget->height() - size.height()) / 2), size};
+}
+
+void VideoTarget::paint()
+{
+    QPainter painter(m_widget);
+    const QRect area = pictureArea();
+    const QRegion border = QRegion(m_widget->rect()) - area;
+    for (const QRect &strip : border)
+        painter.fillRect(strip, Qt::black);
+    if (area.isEmpty())
+        return;
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    // Made for this size, but for the moment after a resize.
+    if (m_picture.size() == area.size())
+        painter.drawImage(area.topLeft(), m_picture);
+    else
+        painter.drawImage(area, m_picture);
+}

@@ -1,0 +1,389 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ar" sourcelanguage="en">
+<context>
+    <name>CPictorelDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>مباشر</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>صورة</translation>
+    </message>
+    <message>
+        <source>Continuous
+Capture</source>
+        <translation>التقاط
+متتابع</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>فيديو</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>إيقاف</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>القائمة</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>الإعدادات</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>خروج</translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation>قبول</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>إعادة</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>تشغيل</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>إيقاف مؤقت</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>عرض</translation>
+    </message>
+    <message>
+        <source>Movie /
+    Photo</source>
+        <translation>فيديو /
+    صورة</translation>
+    </message>
+    <message>
+        <source>Photo /
+    Movie</source>
+        <translation>صورة /
+    فيديو</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>رجوع</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>لصق</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>تحميل</translation>
+    </message>
+    <message>
+        <source>Still</source>
+        <translation>صورة ثابتة</translation>
+    </message>
+    <message>
+        <source>/</source>
+        <translation>/</translation>
+    </message>
+    <message>
+        <source>Cannot find Video Devices.</source>
+        <translation>تعذّر العثور على جهاز فيديو.</translation>
+    </message>
+    <message>
+        <source>Cannot find Audio Devices.</source>
+        <translation>تعذّر العثور على جهاز صوت.</translation>
+    </message>
+    <message>
+        <source>Cannot find Video / Audio Devices.</source>
+        <translation>تعذّر العثور على أجهزة فيديو أو صوت.</translation>
+    </message>
+    <message>
+        <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>جهاز الفيديو غير صالح. يُرجى التأكد من توصيل الجهاز بشكل صحيح. </translation>
+    </message>
+    <message>
+        <source>Save failed.</source>
+        <translation>فشل الحفظ.</translation>
+    </message>
+    <message>
+        <source>File is loading. Please wait...</source>
+        <translation>جارٍ تحميل الملف. يُرجى الانتظار...</translation>
+    </message>
+    <message>
+        <source>File loaded successfully.</source>
+        <translation>تم تحميل الملف بنجاح.</translation>
+    </message>
+    <message>
+        <source>Load failed.</source>
+        <translation>فشل التحميل.</translation>
+    </message>
+    <message>
+        <source>Load Directory</source>
+        <translation>تحميل مجلد</translation>
+    </message>
+</context>
+<context>
+    <name>LiveVideoWidget</name>
+    <message>
+        <source>LIVE</source>
+        <translation>مباشر</translation>
+    </message>
+    <message>
+        <source>Not Suport</source>
+        <translation>غير مدعوم</translation>
+    </message>
+    <message>
+        <source>Cannot find Video Devices.</source>
+        <translation>تعذّر العثور على جهاز فيديو.</translation>
+    </message>
+    <message>
+        <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>جهاز الفيديو وجهاز الصوت غير صالحين. يُرجى التأكد من توصيلهما بشكل صحيح. </translation>
+    </message>
+    <message>
+        <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>جهاز الفيديو غير صالح. يُرجى التأكد من توصيل الجهاز بشكل صحيح. </translation>
+    </message>
+    <message>
+        <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
+        <translation>جهاز الصوت غير صالح. يُرجى التأكد من توصيل الجهاز بشكل صحيح.</translation>
+    </message>
+</context>
+<context>
+    <name>TimerWidget</name>
+    <message>
+        <source>0 second to capture  </source>
+        <translation>0 ثانية حتى الالتقاط  </translation>
+    </message>
+    <message>
+        <source> second to capture</source>
+        <translation> ثانية حتى الالتقاط</translation>
+    </message>
+</context>
+<context>
+    <name>SelectDeviceDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Please select a device:</source>
+        <translation>يُرجى اختيار جهاز:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>موافق</translation>
+    </message>
+</context>
+<context>
+    <name>CWaiteMsgDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>موافق</translation>
+    </message>
+    <message>
+        <source>Please Waite..</source>
+        <translation>يُرجى الانتظار..</translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation>اكتمل</translation>
+    </message>
+    <message>
+        <source>Failed.</source>
+        <translation>فشل.</translation>
+    </message>
+    <message>
+        <source>Pasting is processed. Please wait... 
+</source>
+        <translation>جارٍ اللصق. يُرجى الانتظار... 
+</translation>
+    </message>
+</context>
+<context>
+    <name>SaveConfirmDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Do you want to save the Photo / Movie data?</source>
+        <translation>هل تريد حفظ الصور ومقاطع الفيديو؟</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>نعم</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>لا</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>إلغاء</translation>
+    </message>
+</context>
+<context>
+    <name>Setting</name>
+    <message>
+        <source>Settings</source>
+        <translation>الإعدادات</translation>
+    </message>
+    <message>
+        <source>AutoShooting:</source>
+        <translation>المؤقت الذاتي:</translation>
+    </message>
+    <message>
+        <source>sec</source>
+        <translation>ث</translation>
+    </message>
+    <message>
+        <source>Continuous shooting:</source>
+        <translation>التقاط متتابع:</translation>
+    </message>
+    <message>
+        <source>sheet</source>
+        <translation>صور</translation>
+    </message>
+    <message>
+        <source>Preview your photo taken:</source>
+        <translation>تأكيد الصورة الملتقطة:</translation>
+    </message>
+    <message>
+        <source>Resolution:</source>
+        <translation>الدقة:</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>مجلد الحفظ:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>استخدام الموقع الافتراضي</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>استخدام موقع آخر</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>موافق</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>Self Timer</source>
+        <translation>المؤقت الذاتي</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>ثانية</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>التقاط متتابع</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>صور</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>تأكيد الصورة الملتقطة</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>الدقة</translation>
+    </message>
+    <message>
+        <source>Use default location</source>
+        <translation>استخدام الموقع الافتراضي</translation>
+    </message>
+    <message>
+        <source>Use other location</source>
+        <translation>استخدام موقع آخر</translation>
+    </message>
+    <message>
+        <source>Please specify the save location.</source>
+        <translation>يُرجى تحديد موقع الحفظ.</translation>
+    </message>
+    <message>
+        <source>Invalid PATH is specified.</source>
+        <translation>المسار المحدد غير صالح.</translation>
+    </message>
+    <message>
+        <source>SaveDirectory</source>
+        <translation>مجلد الحفظ</translation>
+    </message>
+</context>
+<context>
+    <name>PictureListView</name>
+    <message>
+        <source>You can not select 10 or more.</source>
+        <translation>لا يمكنك تحديد 10 أو أكثر.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureWidget</name>
+    <message>
+        <source>Photo</source>
+        <translation>صورة</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
+        <translation>Back</translation>
+    </message>
+</context>
+<context>
+    <name>MovieWidget</name>
+    <message>
+        <source>Movie</source>
+        <translation>فيديو</translation>
+    </message>
+</context>
+<context>
+    <name>WebcamUtil</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>موافق</translation>
+    </message>
+    <message>
+        <source>The disk free space is insufficient.
+</source>
+        <translation>المساحة المتاحة على القرص غير كافية.
+</translation>
+    </message>
+    <message>
+        <source>Taking a picture is discontinued. Please secure the free space. </source>
+        <translation>تم إيقاف الالتقاط. يُرجى توفير مساحة خالية. </translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,389 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>CPictorelDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>Live</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Continuous
+Capture</source>
+        <translation>Serien-
+aufnahme</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Film</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stopp</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>Liste</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation>Behalten</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Abspielen</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Ansehen</translation>
+    </message>
+    <message>
+        <source>Movie /
+    Photo</source>
+        <translation>Film /
+    Foto</translation>
+    </message>
+    <message>
+        <source>Photo /
+    Movie</source>
+        <translation>Foto /
+    Film</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Laden</translation>
+    </message>
+    <message>
+        <source>Still</source>
+        <translation>Standbild</translation>
+    </message>
+    <message>
+        <source>/</source>
+        <translation>/</translation>
+    </message>
+    <message>
+        <source>Cannot find Video Devices.</source>
+        <translation>Keine Kamera gefunden.</translation>
+    </message>
+    <message>
+        <source>Cannot find Audio Devices.</source>
+        <translation>Kein Mikrofon gefunden.</translation>
+    </message>
+    <message>
+        <source>Cannot find Video / Audio Devices.</source>
+        <translation>Keine Kamera und kein Mikrofon gefunden.</translation>
+    </message>
+    <message>
+        <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>Die Kamera ist nicht verfügbar. Bitte prüfen Sie, ob sie richtig angeschlossen ist. </translation>
+    </message>
+    <message>
+        <source>Save failed.</source>
+        <translation>Speichern fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>File is loading. Please wait...</source>
+        <translation>Dateien werden geladen. Bitte warten...</translation>
+    </message>
+    <message>
+        <source>File loaded successfully.</source>
+        <translation>Die Dateien wurden geladen.</translation>
+    </message>
+    <message>
+        <source>Load failed.</source>
+        <translation>Laden fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>Load Directory</source>
+        <translation>Ordner laden</translation>
+    </message>
+</context>
+<context>
+    <name>LiveVideoWidget</name>
+    <message>
+        <source>LIVE</source>
+        <translation>LIVE</translation>
+    </message>
+    <message>
+        <source>Not Suport</source>
+        <translation>Nicht unterstützt</translation>
+    </message>
+    <message>
+        <source>Cannot find Video Devices.</source>
+        <translation>Keine Kamera gefunden.</translation>
+    </message>
+    <message>
+        <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>Kamera und Mikrofon sind nicht verfügbar. Bitte prüfen Sie, ob sie richtig angeschlossen sind. </translation>
+    </message>
+    <message>
+        <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>Die Kamera ist nicht verfügbar. Bitte prüfen Sie, ob sie richtig angeschlossen ist. </translation>
+    </message>
+    <message>
+        <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
+        <translation>Das Mikrofon ist nicht verfügbar. Bitte prüfen Sie, ob es richtig angeschlossen ist.</translation>
+    </message>
+</context>
+<context>
+    <name>TimerWidget</name>
+    <message>
+        <source>0 second to capture  </source>
+        <translation>0 Sekunden bis zur Aufnahme  </translation>
+    </message>
+    <message>
+        <source> second to capture</source>
+        <translation> Sekunden bis zur Aufnahme</translation>
+    </message>
+</context>
+<context>
+    <name>SelectDeviceDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Please select a device:</source>
+        <translation>Bitte ein Gerät wählen:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>CWaiteMsgDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Please Waite..</source>
+        <translation>Bitte warten..</translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Failed.</source>
+        <translation>Fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>Pasting is processed. Please wait... 
+</source>
+        <translation>Wird eingefügt. Bitte warten... 
+</translation>
+    </message>
+</context>
+<context>
+    <name>SaveConfirmDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Do you want to save the Photo / Movie data?</source>
+        <translation>Sollen die Fotos und Filme gespeichert werden?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>Setting</name>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>AutoShooting:</source>
+        <translation>Selbstauslöser:</translation>
+    </message>
+    <message>
+        <source>sec</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>Continuous shooting:</source>
+        <translation>Serienaufnahme:</translation>
+    </message>
+    <message>
+        <source>sheet</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Preview your photo taken:</source>
+        <translation>Aufgenommenes Bild bestätigen:</translation>
+    </message>
+    <message>
+        <source>Resolution:</source>
+        <translation>Auflösung:</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Speicherort:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Standardordner verwenden</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Anderen Ordner verwenden</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Self Timer</source>
+        <translation>Selbstauslöser</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>Sekunden</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Serienaufnahme</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Aufgenommenes Bild bestätigen</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Auflösung</translation>
+    </message>
+    <message>
+        <source>Use default location</source>
+        <translation>Standardordner verwenden</translation>
+    </message>
+    <message>
+        <source>Use other location</source>
+        <translation>Anderen Ordner verwenden</translation>
+    </message>
+    <message>
+        <source>Please specify the save location.</source>
+        <translation>Bitte einen Speicherort angeben.</translation>
+    </message>
+    <message>
+        <source>Invalid PATH is specified.</source>
+        <translation>Der angegebene Pfad ist ungültig.</translation>
+    </message>
+    <message>
+        <source>SaveDirectory</source>
+        <translation>Speicherort</translation>
+    </message>
+</context>
+<context>
+    <name>PictureListView</name>
+    <message>
+        <source>You can not select 10 or more.</source>
+        <translation>Es können höchstens 9 gewählt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureWidget</name>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
+        <translation>Back</translation>
+    </message>
+</context>
+<context>
+    <name>MovieWidget</name>
+    <message>
+        <source>Movie</source>
+        <translation>Film</translation>
+    </message>
+</context>
+<context>
+    <name>WebcamUtil</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>The disk free space is insufficient.
+</source>
+        <translation>Auf dem Datenträger ist zu wenig Platz.
+</translation>
+    </message>
+    <message>
+        <source>Taking a picture is discontinued. Please secure the free space. </source>
+        <translation>Die Aufnahme wird beendet. Bitte Platz schaffen. </translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,389 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>CPictorelDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>Directo</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Continuous
+Capture</source>
+        <translation>Captura
+continua</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Vídeo</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Parar</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>Lista</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Salir</translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Repetir</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Ver</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Mostrar</translation>
+    </message>
+    <message>
+        <source>Movie /
+    Photo</source>
+        <translation>Vídeo /
+    Foto</translation>
+    </message>
+    <message>
+        <source>Photo /
+    Movie</source>
+        <translation>Foto /
+    Vídeo</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Volver</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Pegar</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Cargar</translation>
+    </message>
+    <message>
+        <source>Still</source>
+        <translation>Imagen fija</translation>
+    </message>
+    <message>
+        <source>/</source>
+        <translation>/</translation>
+    </message>
+    <message>
+        <source>Cannot find Video Devices.</source>
+        <translation>No se encuentra ninguna cámara.</translation>
+    </message>
+    <message>
+        <source>Cannot find Audio Devices.</source>
+        <translation>No se encuentra ningún micrófono.</translation>
+    </message>
+    <message>
+        <source>Cannot find Video / Audio Devices.</source>
+        <translation>No se encuentra ninguna cámara ni micrófono.</translation>
+    </message>
+    <message>
+        <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>La cámara no está disponible. Compruebe que está bien conectada. </translation>
+    </message>
+    <message>
+        <source>Save failed.</source>
+        <translation>No se ha podido guardar.</translation>
+    </message>
+    <message>
+        <source>File is loading. Please wait...</source>
+        <translation>Cargando archivos. Espere...</translation>
+    </message>
+    <message>
+        <source>File loaded successfully.</source>
+        <translation>Los archivos se han cargado.</translation>
+    </message>
+    <message>
+        <source>Load failed.</source>
+        <translation>No se ha podido cargar.</translation>
+    </message>
+    <message>
+        <source>Load Directory</source>
+        <translation>Cargar carpeta</translation>
+    </message>
+</context>
+<context>
+    <name>LiveVideoWidget</name>
+    <message>
+        <source>LIVE</source>
+        <translation>EN DIRECTO</translation>
+    </message>
+    <message>
+        <source>Not Suport</source>
+        <translation>No compatible</translation>
+    </message>
+    <message>
+        <source>Cannot find Video Devices.</source>
+        <translation>No se encuentra ninguna cámara.</translation>
+    </message>
+    <message>
+        <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>La cámara y el micrófono no están disponibles. Compruebe que están bien conectados. </translation>
+    </message>
+    <message>
+        <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>La cámara no está disponible. Compruebe que está bien conectada. </translation>
+    </message>
+    <message>
+        <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
+        <translation>El micrófono no está disponible. Compruebe que está bien conectado.</translation>
+    </message>
+</context>
+<context>
+    <name>TimerWidget</name>
+    <message>
+        <source>0 second to capture  </source>
+        <translation>0 segundos para la captura  </translation>
+    </message>
+    <message>
+        <source> second to capture</source>
+        <translation> segundos para la captura</translation>
+    </message>
+</context>
+<context>
+    <name>SelectDeviceDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Please select a device:</source>
+        <translation>Seleccione un dispositivo:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+</context>
+<context>
+    <name>CWaiteMsgDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Please Waite..</source>
+        <translation>Espere..</translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation>Completado</translation>
+    </message>
+    <message>
+        <source>Failed.</source>
+        <translation>Error.</translation>
+    </message>
+    <message>
+        <source>Pasting is processed. Please wait... 
+</source>
+        <translation>Pegando. Espere... 
+</translation>
+    </message>
+</context>
+<context>
+    <name>SaveConfirmDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Do you want to save the Photo / Movie data?</source>
+        <translation>¿Desea guardar las fotos y los vídeos?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Sí</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>Setting</name>
+    <message>
+        <source>Settings</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>AutoShooting:</source>
+        <translation>Temporizador:</translation>
+    </message>
+    <message>
+        <source>sec</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>Continuous shooting:</source>
+        <translation>Captura continua:</translation>
+    </message>
+    <message>
+        <source>sheet</source>
+        <translation>imágenes</translation>
+    </message>
+    <message>
+        <source>Preview your photo taken:</source>
+        <translation>Confirmar la imagen capturada:</translation>
+    </message>
+    <message>
+        <source>Resolution:</source>
+        <translation>Resolución:</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Carpeta de destino:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Usar la carpeta predeterminada</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Usar otra carpeta</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Self Timer</source>
+        <translation>Temporizador</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>segundos</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Captura continua</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>imágenes</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Confirmar la imagen capturada</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Resolución</translation>
+    </message>
+    <message>
+        <source>Use default location</source>
+        <translation>Usar la carpeta predeterminada</translation>
+    </message>
+    <message>
+        <source>Use other location</source>
+        <translation>Usar otra carpeta</translation>
+    </message>
+    <message>
+        <source>Please specify the save location.</source>
+        <translation>Indique dónde guardar.</translation>
+    </message>
+    <message>
+        <source>Invalid PATH is specified.</source>
+        <translation>La ruta indicada no es válida.</translation>
+    </message>
+    <message>
+        <source>SaveDirectory</source>
+        <translation>Carpeta de destino</translation>
+    </message>
+</context>
+<context>
+    <name>PictureListView</name>
+    <message>
+        <source>You can not select 10 or more.</source>
+        <translation>No se pueden elegir más de 9.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureWidget</name>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
+        <translation>Back</translation>
+    </message>
+</context>
+<context>
+    <name>MovieWidget</name>
+    <message>
+        <source>Movie</source>
+        <translation>Vídeo</translation>
+    </message>
+</context>
+<context>
+    <name>WebcamUtil</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>The disk free space is insufficient.
+</source>
+        <translation>No hay espacio suficiente en el disco.
+</translation>
+    </message>
+    <message>
+        <source>Taking a picture is discontinued. Please secure the free space. </source>
+        <translation>Se interrumpe la captura. Libere espacio. </translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,389 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>CPictorelDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>Direct</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Photo</translation>
+    </message>
+    <message>
+        <source>Continuous
+Capture</source>
+        <translation>Prise
+en rafale</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Vidéo</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêt</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>Liste</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Réglages</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation>Garder</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Refaire</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Lire</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Afficher</translation>
+    </message>
+    <message>
+        <source>Movie /
+    Photo</source>
+        <translation>Vidéo /
+    Photo</translation>
+    </message>
+    <message>
+        <source>Photo /
+    Movie</source>
+        <translation>Photo /
+    Vidéo</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Coller</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Charger</translation>
+    </message>
+    <message>
+        <source>Still</source>
+        <translation>Image fixe</translation>
+    </message>
+    <message>
+        <source>/</source>
+        <translation>/</translation>
+    </message>
+    <message>
+        <source>Cannot find Video Devices.</source>
+        <translation>Aucune caméra trouvée.</translation>
+    </message>
+    <message>
+        <source>Cannot find Audio Devices.</source>
+        <translation>Aucun microphone trouvé.</translation>
+    </message>
+    <message>
+        <source>Cannot find Video / Audio Devices.</source>
+        <translation>Aucune caméra ni microphone trouvés.</translation>
+    </message>
+    <message>
+        <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>La caméra n’est pas disponible. Vérifiez qu’elle est correctement branchée. </translation>
+    </message>
+    <message>
+        <source>Save failed.</source>
+        <translation>L’enregistrement a échoué.</translation>
+    </message>
+    <message>
+        <source>File is loading. Please wait...</source>
+        <translation>Chargement en cours. Veuillez patienter...</translation>
+    </message>
+    <message>
+        <source>File loaded successfully.</source>
+        <translation>Les fichiers ont été chargés.</translation>
+    </message>
+    <message>
+        <source>Load failed.</source>
+        <translation>Le chargement a échoué.</translation>
+    </message>
+    <message>
+        <source>Load Directory</source>
+        <translation>Charger un dossier</translation>
+    </message>
+</context>
+<context>
+    <name>LiveVideoWidget</name>
+    <message>
+        <source>LIVE</source>
+        <translation>DIRECT</translation>
+    </message>
+    <message>
+        <source>Not Suport</source>
+        <translation>Non pris en charge</translation>
+    </message>
+    <message>
+        <source>Cannot find Video Devices.</source>
+        <translation>Aucune caméra trouvée.</translation>
+    </message>
+    <message>
+        <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>La caméra et le microphone ne sont pas disponibles. Vérifiez qu’ils sont correctement branchés. </translation>
+    </message>
+    <message>
+        <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>La caméra n’est pas disponible. Vérifiez qu’elle est correctement branchée. </translation>
+    </message>
+    <message>
+        <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
+        <translation>Le microphone n’est pas disponible. Vérifiez qu’il est correctement branché.</translation>
+    </message>
+</context>
+<context>
+    <name>TimerWidget</name>
+    <message>
+        <source>0 second to capture  </source>
+        <translation>0 secondes avant la prise  </translation>
+    </message>
+    <message>
+        <source> second to capture</source>
+        <translation> secondes avant la prise</translation>
+    </message>
+</context>
+<context>
+    <name>SelectDeviceDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Please select a device:</source>
+        <translation>Choisissez un appareil :</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>CWaiteMsgDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Please Waite..</source>
+        <translation>Veuillez patienter..</translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation>Terminé</translation>
+    </message>
+    <message>
+        <source>Failed.</source>
+        <translation>Échec.</translation>
+    </message>
+    <message>
+        <source>Pasting is processed. Please wait... 
+</source>
+        <translation>Collage en cours. Veuillez patienter... 
+</translation>
+    </message>
+</context>
+<context>
+    <name>SaveConfirmDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Do you want to save the Photo / Movie data?</source>
+        <translation>Voulez-vous enregistrer les photos et vidéos ?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Non</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>Setting</name>
+    <message>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>AutoShooting:</source>
+        <translation>Retardateur :</translation>
+    </message>
+    <message>
+        <source>sec</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>Continuous shooting:</source>
+        <translation>Prise en rafale :</translation>
+    </message>
+    <message>
+        <source>sheet</source>
+        <translation>images</translation>
+    </message>
+    <message>
+        <source>Preview your photo taken:</source>
+        <translation>Confirmer l’image prise :</translation>
+    </message>
+    <message>
+        <source>Resolution:</source>
+        <translation>Résolution :</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Emplacement :</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Emplacement par défaut</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Autre emplacement</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Self Timer</source>
+        <translation>Retardateur</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>secondes</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Prise en rafale</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>images</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Confirmer l’image prise</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Résolution</translation>
+    </message>
+    <message>
+        <source>Use default location</source>
+        <translation>Emplacement par défaut</translation>
+    </message>
+    <message>
+        <source>Use other location</source>
+        <translation>Autre emplacement</translation>
+    </message>
+    <message>
+        <source>Please specify the save location.</source>
+        <translation>Indiquez un emplacement.</translation>
+    </message>
+    <message>
+        <source>Invalid PATH is specified.</source>
+        <translation>Le chemin indiqué n’est pas valide.</translation>
+    </message>
+    <message>
+        <source>SaveDirectory</source>
+        <translation>Emplacement</translation>
+    </message>
+</context>
+<context>
+    <name>PictureListView</name>
+    <message>
+        <source>You can not select 10 or more.</source>
+        <translation>Vous pouvez en choisir 9 au maximum.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureWidget</name>
+    <message>
+        <source>Photo</source>
+        <translation>Photo</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
+        <translation>Back</translation>
+    </message>
+</context>
+<context>
+    <name>MovieWidget</name>
+    <message>
+        <source>Movie</source>
+        <translation>Vidéo</translation>
+    </message>
+</context>
+<context>
+    <name>WebcamUtil</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>The disk free space is insufficient.
+</source>
+        <translation>L’espace disque est insuffisant.
+</translation>
+    </message>
+    <message>
+        <source>Taking a picture is discontinued. Please secure the free space. </source>
+        <translation>La prise de vue est interrompue. Libérez de l’espace. </translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,389 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="he" sourcelanguage="en">
+<context>
+    <name>CPictorelDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>שידור חי</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>תמונה</translation>
+    </message>
+    <message>
+        <source>Continuous
+Capture</source>
+        <translation>צילום
+רציף</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>סרט</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>עצירה</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>רשימה</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>הגדרות</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>יציאה</translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation>אישור</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>שוב</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>הפעלה</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>השהיה</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>הצגה</translation>
+    </message>
+    <message>
+        <source>Movie /
+    Photo</source>
+        <translation>סרט /
+    תמונה</translation>
+    </message>
+    <message>
+        <source>Photo /
+    Movie</source>
+        <translation>תמונה /
+    סרט</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>חזרה</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>הדבקה</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>טעינה</translation>
+    </message>
+    <message>
+        <source>Still</source>
+        <translation>תמונת סטילס</translation>
+    </message>
+    <message>
+        <source>/</source>
+        <translation>/</translation>
+    </message>
+    <message>
+        <source>Cannot find Video Devices.</source>
+        <translation>לא נמצא התקן וידאו.</translation>
+    </message>
+    <message>
+        <source>Cannot find Audio Devices.</source>
+        <translation>לא נמצא התקן שמע.</translation>
+    </message>
+    <message>
+        <source>Cannot find Video / Audio Devices.</source>
+        <translation>לא נמצאו התקני וידאו ושמע.</translation>
+    </message>
+    <message>
+        <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>התקן הווידאו אינו תקין. ודאו שההתקן מחובר כראוי. </translation>
+    </message>
+    <message>
+        <source>Save failed.</source>
+        <translation>השמירה נכשלה.</translation>
+    </message>
+    <message>
+        <source>File is loading. Please wait...</source>
+        <translation>הקובץ נטען. נא להמתין...</translation>
+    </message>
+    <message>
+        <source>File loaded successfully.</source>
+        <translation>הקובץ נטען בהצלחה.</translation>
+    </message>
+    <message>
+        <source>Load failed.</source>
+        <translation>הטעינה נכשלה.</translation>
+    </message>
+    <message>
+        <source>Load Directory</source>
+        <translation>טעינת תיקייה</translation>
+    </message>
+</context>
+<context>
+    <name>LiveVideoWidget</name>
+    <message>
+        <source>LIVE</source>
+        <translation>שידור חי</translation>
+    </message>
+    <message>
+        <source>Not Suport</source>
+        <translation>לא נתמך</translation>
+    </message>
+    <message>
+        <source>Cannot find Video Devices.</source>
+        <translation>לא נמצא התקן וידאו.</translation>
+    </message>
+    <message>
+        <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>התקן הווידאו והתקן השמע אינם תקינים. ודאו שההתקנים מחוברים כראוי. </translation>
+    </message>
+    <message>
+        <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>התקן הווידאו אינו תקין. ודאו שההתקן מחובר כראוי. </translation>
+    </message>
+    <message>
+        <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
+        <translation>התקן השמע אינו תקין. ודאו שההתקן מחובר כראוי.</translation>
+    </message>
+</context>
+<context>
+    <name>TimerWidget</name>
+    <message>
+        <source>0 second to capture  </source>
+        <translation>0 שניות עד לצילום  </translation>
+    </message>
+    <message>
+        <source> second to capture</source>
+        <translation> שניות עד לצילום</translation>
+    </message>
+</context>
+<context>
+    <name>SelectDeviceDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Please select a device:</source>
+        <translation>נא לבחור התקן:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>אישור</translation>
+    </message>
+</context>
+<context>
+    <name>CWaiteMsgDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>אישור</translation>
+    </message>
+    <message>
+        <source>Please Waite..</source>
+        <translation>נא להמתין..</translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation>הושלם</translation>
+    </message>
+    <message>
+        <source>Failed.</source>
+        <translation>נכשל.</translation>
+    </message>
+    <message>
+        <source>Pasting is processed. Please wait... 
+</source>
+        <translation>מתבצעת הדבקה. נא להמתין... 
+</translation>
+    </message>
+</context>
+<context>
+    <name>SaveConfirmDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Do you want to save the Photo / Movie data?</source>
+        <translation>האם לשמור את התמונות והסרטים?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>כן</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>לא</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>ביטול</translation>
+    </message>
+</context>
+<context>
+    <name>Setting</name>
+    <message>
+        <source>Settings</source>
+        <translation>הגדרות</translation>
+    </message>
+    <message>
+        <source>AutoShooting:</source>
+        <translation>טיימר עצמי:</translation>
+    </message>
+    <message>
+        <source>sec</source>
+        <translation>שנ׳</translation>
+    </message>
+    <message>
+        <source>Continuous shooting:</source>
+        <translation>צילום רציף:</translation>
+    </message>
+    <message>
+        <source>sheet</source>
+        <translation>תמונות</translation>
+    </message>
+    <message>
+        <source>Preview your photo taken:</source>
+        <translation>אישור התמונה שצולמה:</translation>
+    </message>
+    <message>
+        <source>Resolution:</source>
+        <translation>רזולוציה:</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>תיקיית שמירה:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>שימוש במיקום ברירת המחדל</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>שימוש במיקום אחר</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>אישור</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>ביטול</translation>
+    </message>
+    <message>
+        <source>Self Timer</source>
+        <translation>טיימר עצמי</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>שניות</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>צילום רציף</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>תמונות</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>אישור התמונה שצולמה</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>רזולוציה</translation>
+    </message>
+    <message>
+        <source>Use default location</source>
+        <translation>שימוש במיקום ברירת המחדל</translation>
+    </message>
+    <message>
+        <source>Use other location</source>
+        <translation>שימוש במיקום אחר</translation>
+    </message>
+    <message>
+        <source>Please specify the save location.</source>
+        <translation>נא לציין מיקום שמירה.</translation>
+    </message>
+    <message>
+        <source>Invalid PATH is specified.</source>
+        <translation>הנתיב שצוין אינו תקין.</translation>
+    </message>
+    <message>
+        <source>SaveDirectory</source>
+        <translation>תיקיית שמירה</translation>
+    </message>
+</context>
+<context>
+    <name>PictureListView</name>
+    <message>
+        <source>You can not select 10 or more.</source>
+        <translation>ניתן לבחור 9 לכל היותר.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureWidget</name>
+    <message>
+        <source>Photo</source>
+        <translation>תמונה</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
+        <translation>Back</translation>
+    </message>
+</context>
+<context>
+    <name>MovieWidget</name>
+    <message>
+        <source>Movie</source>
+        <translation>סרט</translation>
+    </message>
+</context>
+<context>
+    <name>WebcamUtil</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>אישור</translation>
+    </message>
+    <message>
+        <source>The disk free space is insufficient.
+</source>
+        <translation>אין די מקום פנוי בדיסק.
+</translation>
+    </message>
+    <message>
+        <source>Taking a picture is discontinued. Please secure the free space. </source>
+        <translation>הצילום הופסק. נא לפנות מקום. </translation>
+    </message>
+</context>
+</TS>

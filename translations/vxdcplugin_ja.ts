@@ -1,0 +1,389 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>CPictorelDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>ライブ</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>写真</translation>
+    </message>
+    <message>
+        <source>Continuous
+Capture</source>
+        <translation>連続
+撮影</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>動画</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>一覧</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation>決定</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>撮り直し</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>再生</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>一時停止</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>表示</translation>
+    </message>
+    <message>
+        <source>Movie /
+    Photo</source>
+        <translation>動画 /
+    写真</translation>
+    </message>
+    <message>
+        <source>Photo /
+    Movie</source>
+        <translation>写真 /
+    動画</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>貼り付け</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>読み込み</translation>
+    </message>
+    <message>
+        <source>Still</source>
+        <translation>静止画</translation>
+    </message>
+    <message>
+        <source>/</source>
+        <translation>/</translation>
+    </message>
+    <message>
+        <source>Cannot find Video Devices.</source>
+        <translation>カメラが見つかりません。</translation>
+    </message>
+    <message>
+        <source>Cannot find Audio Devices.</source>
+        <translation>マイクが見つかりません。</translation>
+    </message>
+    <message>
+        <source>Cannot find Video / Audio Devices.</source>
+        <translation>カメラとマイクが見つかりません。</translation>
+    </message>
+    <message>
+        <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>カメラを使用できません。正しく接続されているか確認してください。 </translation>
+    </message>
+    <message>
+        <source>Save failed.</source>
+        <translation>保存できませんでした。</translation>
+    </message>
+    <message>
+        <source>File is loading. Please wait...</source>
+        <translation>ファイルを読み込んでいます。お待ちください...</translation>
+    </message>
+    <message>
+        <source>File loaded successfully.</source>
+        <translation>ファイルを読み込みました。</translation>
+    </message>
+    <message>
+        <source>Load failed.</source>
+        <translation>読み込めませんでした。</translation>
+    </message>
+    <message>
+        <source>Load Directory</source>
+        <translation>フォルダーを読み込む</translation>
+    </message>
+</context>
+<context>
+    <name>LiveVideoWidget</name>
+    <message>
+        <source>LIVE</source>
+        <translation>ライブ</translation>
+    </message>
+    <message>
+        <source>Not Suport</source>
+        <translation>サポートされていません</translation>
+    </message>
+    <message>
+        <source>Cannot find Video Devices.</source>
+        <translation>カメラが見つかりません。</translation>
+    </message>
+    <message>
+        <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>カメラとマイクを使用できません。正しく接続されているか確認してください。 </translation>
+    </message>
+    <message>
+        <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>カメラを使用できません。正しく接続されているか確認してください。 </translation>
+    </message>
+    <message>
+        <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
+        <translation>マイクを使用できません。正しく接続されているか確認してください。</translation>
+    </message>
+</context>
+<context>
+    <name>TimerWidget</name>
+    <message>
+        <source>0 second to capture  </source>
+        <translation>0 秒後に撮影  </translation>
+    </message>
+    <message>
+        <source> second to capture</source>
+        <translation> 秒後に撮影</translation>
+    </message>
+</context>
+<context>
+    <name>SelectDeviceDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Please select a device:</source>
+        <translation>機器を選択してください:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>CWaiteMsgDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Please Waite..</source>
+        <translation>お待ちください..</translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation>完了しました</translation>
+    </message>
+    <message>
+        <source>Failed.</source>
+        <translation>失敗しました。</translation>
+    </message>
+    <message>
+        <source>Pasting is processed. Please wait... 
+</source>
+        <translation>貼り付けています。お待ちください... 
+</translation>
+    </message>
+</context>
+<context>
+    <name>SaveConfirmDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Do you want to save the Photo / Movie data?</source>
+        <translation>写真と動画を保存しますか?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>はい</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>いいえ</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>Setting</name>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>AutoShooting:</source>
+        <translation>セルフタイマー:</translation>
+    </message>
+    <message>
+        <source>sec</source>
+        <translation>秒</translation>
+    </message>
+    <message>
+        <source>Continuous shooting:</source>
+        <translation>連続撮影:</translation>
+    </message>
+    <message>
+        <source>sheet</source>
+        <translation>枚</translation>
+    </message>
+    <message>
+        <source>Preview your photo taken:</source>
+        <translation>撮影した画像を確認する:</translation>
+    </message>
+    <message>
+        <source>Resolution:</source>
+        <translation>解像度:</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>保存先:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>標準の保存先を使う</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>別の保存先を使う</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Self Timer</source>
+        <translation>セルフタイマー</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>秒</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>連続撮影</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>枚</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>撮影した画像を確認する</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>解像度</translation>
+    </message>
+    <message>
+        <source>Use default location</source>
+        <translation>標準の保存先を使う</translation>
+    </message>
+    <message>
+        <source>Use other location</source>
+        <translation>別の保存先を使う</translation>
+    </message>
+    <message>
+        <source>Please specify the save location.</source>
+        <translation>保存先を指定してください。</translation>
+    </message>
+    <message>
+        <source>Invalid PATH is specified.</source>
+        <translation>指定された保存先は使用できません。</translation>
+    </message>
+    <message>
+        <source>SaveDirectory</source>
+        <translation>保存先</translation>
+    </message>
+</context>
+<context>
+    <name>PictureListView</name>
+    <message>
+        <source>You can not select 10 or more.</source>
+        <translation>選択できるのは9枚までです。</translation>
+    </message>
+</context>
+<context>
+    <name>PictureWidget</name>
+    <message>
+        <source>Photo</source>
+        <translation>写真</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
+        <translation>Back</translation>
+    </message>
+</context>
+<context>
+    <name>MovieWidget</name>
+    <message>
+        <source>Movie</source>
+        <translation>動画</translation>
+    </message>
+</context>
+<context>
+    <name>WebcamUtil</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>The disk free space is insufficient.
+</source>
+        <translation>ディスクの空き容量が足りません。
+</translation>
+    </message>
+    <message>
+        <source>Taking a picture is discontinued. Please secure the free space. </source>
+        <translation>撮影を中止します。空き容量を確保してください。 </translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,389 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>CPictorelDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>实时</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>照片</translation>
+    </message>
+    <message>
+        <source>Continuous
+Capture</source>
+        <translation>连续
+拍摄</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>视频</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>列表</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>退出</translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation>保留</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>重拍</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>播放</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>暂停</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>查看</translation>
+    </message>
+    <message>
+        <source>Movie /
+    Photo</source>
+        <translation>视频 /
+    照片</translation>
+    </message>
+    <message>
+        <source>Photo /
+    Movie</source>
+        <translation>照片 /
+    视频</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>返回</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>粘贴</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>加载</translation>
+    </message>
+    <message>
+        <source>Still</source>
+        <translation>静态画面</translation>
+    </message>
+    <message>
+        <source>/</source>
+        <translation>/</translation>
+    </message>
+    <message>
+        <source>Cannot find Video Devices.</source>
+        <translation>找不到视频设备。</translation>
+    </message>
+    <message>
+        <source>Cannot find Audio Devices.</source>
+        <translation>找不到音频设备。</translation>
+    </message>
+    <message>
+        <source>Cannot find Video / Audio Devices.</source>
+        <translation>找不到视频/音频设备。</translation>
+    </message>
+    <message>
+        <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>视频设备无效。请确认设备是否正确连接。 </translation>
+    </message>
+    <message>
+        <source>Save failed.</source>
+        <translation>保存失败。</translation>
+    </message>
+    <message>
+        <source>File is loading. Please wait...</source>
+        <translation>正在加载文件。请稍候...</translation>
+    </message>
+    <message>
+        <source>File loaded successfully.</source>
+        <translation>文件加载成功。</translation>
+    </message>
+    <message>
+        <source>Load failed.</source>
+        <translation>加载失败。</translation>
+    </message>
+    <message>
+        <source>Load Directory</source>
+        <translation>加载文件夹</translation>
+    </message>
+</context>
+<context>
+    <name>LiveVideoWidget</name>
+    <message>
+        <source>LIVE</source>
+        <translation>实时</translation>
+    </message>
+    <message>
+        <source>Not Suport</source>
+        <translation>不支持</translation>
+    </message>
+    <message>
+        <source>Cannot find Video Devices.</source>
+        <translation>找不到视频设备。</translation>
+    </message>
+    <message>
+        <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>视频设备和音频设备无效。请确认设备是否正确连接。 </translation>
+    </message>
+    <message>
+        <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>视频设备无效。请确认设备是否正确连接。 </translation>
+    </message>
+    <message>
+        <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
+        <translation>音频设备无效。请确认设备是否正确连接。</translation>
+    </message>
+</context>
+<context>
+    <name>TimerWidget</name>
+    <message>
+        <source>0 second to capture  </source>
+        <translation>0 秒后拍摄  </translation>
+    </message>
+    <message>
+        <source> second to capture</source>
+        <translation> 秒后拍摄</translation>
+    </message>
+</context>
+<context>
+    <name>SelectDeviceDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Please select a device:</source>
+        <translation>请选择设备:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+</context>
+<context>
+    <name>CWaiteMsgDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Please Waite..</source>
+        <translation>请稍候..</translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation>完成</translation>
+    </message>
+    <message>
+        <source>Failed.</source>
+        <translation>失败。</translation>
+    </message>
+    <message>
+        <source>Pasting is processed. Please wait... 
+</source>
+        <translation>正在粘贴。请稍候... 
+</translation>
+    </message>
+</context>
+<context>
+    <name>SaveConfirmDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Do you want to save the Photo / Movie data?</source>
+        <translation>要保存照片和视频吗?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>Setting</name>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>AutoShooting:</source>
+        <translation>自拍定时器:</translation>
+    </message>
+    <message>
+        <source>sec</source>
+        <translation>秒</translation>
+    </message>
+    <message>
+        <source>Continuous shooting:</source>
+        <translation>连续拍摄:</translation>
+    </message>
+    <message>
+        <source>sheet</source>
+        <translation>张</translation>
+    </message>
+    <message>
+        <source>Preview your photo taken:</source>
+        <translation>确认拍摄的图像:</translation>
+    </message>
+    <message>
+        <source>Resolution:</source>
+        <translation>分辨率:</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>保存位置:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>使用默认位置</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>使用其他位置</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Self Timer</source>
+        <translation>自拍定时器</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>秒</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>连续拍摄</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>张</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>确认拍摄的图像</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>分辨率</translation>
+    </message>
+    <message>
+        <source>Use default location</source>
+        <translation>使用默认位置</translation>
+    </message>
+    <message>
+        <source>Use other location</source>
+        <translation>使用其他位置</translation>
+    </message>
+    <message>
+        <source>Please specify the save location.</source>
+        <translation>请指定保存位置。</translation>
+    </message>
+    <message>
+        <source>Invalid PATH is specified.</source>
+        <translation>指定的路径无效。</translation>
+    </message>
+    <message>
+        <source>SaveDirectory</source>
+        <translation>保存位置</translation>
+    </message>
+</context>
+<context>
+    <name>PictureListView</name>
+    <message>
+        <source>You can not select 10 or more.</source>
+        <translation>最多只能选择 9 个。</translation>
+    </message>
+</context>
+<context>
+    <name>PictureWidget</name>
+    <message>
+        <source>Photo</source>
+        <translation>照片</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
+        <translation>Back</translation>
+    </message>
+</context>
+<context>
+    <name>MovieWidget</name>
+    <message>
+        <source>Movie</source>
+        <translation>视频</translation>
+    </message>
+</context>
+<context>
+    <name>WebcamUtil</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>The disk free space is insufficient.
+</source>
+        <translation>磁盘可用空间不足。
+</translation>
+    </message>
+    <message>
+        <source>Taking a picture is discontinued. Please secure the free space. </source>
+        <translation>拍摄已中止。请释放磁盘空间。 </translation>
+    </message>
+</context>
+</TS>

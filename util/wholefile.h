@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <sys/types.h>
+
+// A new file that appears under its name whole or not at all: it is written without a name, and gets the name
+// when it is complete. A crash at any moment leaves nothing under the name. Any thread, one at a time.
+class WholeFile
+{
+public:
+    // Opens a file for the folder of target, which must exist. mode: its permission bits, before the umask.
+    WholeFile(const QString &target, mode_t mode);
+    // Closes the file, and drops it unless it was published.
+    ~WholeFile();
+    WholeFile(const WholeFile &) = delete;
+    WholeFile &operator=(const WholeFile &) = delete;
+
+    // Open for writing, owned by this object; -1 when it could not be opened.
+    int descriptor() const { return m_descriptor; }
+
+    // Gives the file its name, once. False when the name is taken, by whatever it is: nothing is ever
+    // replaced.
+    bool publish();
+
+private:
+    QByteArray m_target;
+    QByteArray m_hiddenName; // empty for a file without a name
+    int m_descriptor = -1;
+};
