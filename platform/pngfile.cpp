@@ -1,12 +1,16 @@
 #include "platform/pngfile.h"
 
-#include "platform/wholefile.h"
+#include "util/wholefile.h"
 
 #include <libdeflate.h>
 
-#include <array>
+#include <cerrno>
+#include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
+
+#include <unistd.h>
 
 namespace
 {
@@ -41,7 +45,9 @@ struct Chunk {
         appendNumber(head, uint32_t(data.size()));
         head += type;
         uint32_t sum = libdeflate_crc32(0, type.data(), type.size());
-        sum = libdeflate_crc32(sum, data.data(), data.size());
+        // For no data at all libdeflate would give the sum to start with.
+        if (!data.empty())
+            sum = libdeflate_crc32(sum, data.data(), data.size());
         appendNumber(tail, sum);
     }
     std::string head;
@@ -98,6 +104,28 @@ std::vector<unsigned char> packedPixels(const GstVideoInfo &rgb, GstBuffer *pict
     if (!frame.isValid())
         return {};
     return compress(filterUp(frame.get()));
+}
+
+bool writeAll(int file, std::string_view bytes)
+{
+    while (!bytes.empty()) {
+        const ssize_t written = write(file, bytes.data(), bytes.size());
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written <= 0)
+            return false;
+        bytes.remove_prefix(size_t(written));
+    }
+    return true;
+}
+
+bool writeWholeFile(const QString &path, std::initializer_list<std::string_view> parts)
+{
+    WholeFile file(path, 0666);
+    bool isWritten = file.descriptor() >= 0;
+    for (const std::string_view part : parts)
+        isWritten = isWritten && writeAll(file.descriptor(), part);
+    return isWritten && file.publish();
 }
 
 } // namespace

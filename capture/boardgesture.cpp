@@ -1,0 +1,87 @@
+// The live view's zoom by a drag with two contacts on the board.
+
+#include "capture/livevideowidget.h"
+
+#include <QMouseEvent>
+#include <QPixmap>
+
+namespace
+{
+
+constexpr int twoContacts = 128;
+
+// A step of zoom needs a clear change of the contacts' distance, in pixels...
+constexpr int leastChange = 99;
+// ...but one beyond all proportion is a contact lost or found.
+constexpr double leastRatio = 0.2;
+constexpr double mostRatio = 10;
+
+} // namespace
+
+bool LiveVideoWidget::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::MouseMove:
+    case QEvent::GraphicsSceneMouseMove:
+        mouseMoveEvent(static_cast<QMouseEvent *>(event));
+        return true;
+    case QEvent::MouseButtonPress:
+        mousePressEvent(static_cast<QMouseEvent *>(event));
+        return true;
+    case QEvent::MouseButtonRelease:
+        mouseReleaseEvent(static_cast<QMouseEvent *>(event));
+        return true;
+    default:
+        return QWidget::eventFilter(watched, event);
+    }
+}
+
+void LiveVideoWidget::mousePressEvent(QMouseEvent *event)
+{
+    if (m_capture.isVeltrixCam) {
+        m_lastShadowDistance = 0;
+        if (event->button() == Qt::RightButton)
+            m_isZoomDrag = true;
+    }
+    QWidget::mousePressEvent(event);
+}
+
+void LiveVideoWidget::mouseMoveEvent(QMouseEvent *event)
+{
+    if (m_capture.isVeltrixCam && m_isZoomDrag) {
+        CDriverExtraInfo info{};
+        CDriverProxy::get()->getExtraInfo(info);
+        if (info.gestureState == twoContacts)
+            followGesture(int(info.shadowSize * CDriverProxy::get()->getShadowRatio()));
+    }
+    QWidget::mouseMoveEvent(event);
+}
+
+void LiveVideoWidget::followGesture(int distance)
+{
+    if (m_lastShadowDistance == 0) {
+        m_lastShadowDistance = distance;
+        m_savedCursor = cursor();
+        setCursor(QCursor(QPixmap(QStringLiteral(":res/zoom_cursor.png"))));
+        return;
+    }
+    if (qAbs(distance - m_lastShadowDistance) <= leastChange)
+        return;
+    if (distance > leastRatio * m_lastShadowDistance && distance < mostRatio * m_lastShadowDistance) {
+        if (distance < m_lastShadowDistance)
+            Zoomout();
+        else
+            Zoomin();
+    }
+    m_lastShadowDistance = distance;
+}
+
+void LiveVideoWidget::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (m_capture.isVeltrixCam) {
+        m_lastShadowDistance = 0;
+        setCursor(m_savedCursor);
+        m_isZoomDrag = false;
+    }
+    QWidget::mouseReleaseEvent(event);
+}

@@ -1,0 +1,20 @@
+// H.264 by x264enc, each frame a key frame.
+#pragma once
+
+#include "tests/plugins/framecoder.h"
+
+class H264Coder : public FrameCoder
+{
+public:
+    ~H264Coder() override;
+    GstVideoColorimetry colorimetry() const override;
+    GstBuffer *encode(Picture *picture) override;
+
+private:
+    bool start(const Picture &picture);
+
+    GstElement *pipeline_ = nullptr;
+    GstElement *in_ = nullptr;
+    GstElement *out_ = nullptr;
+    GstClockTime time_ = 0;
+};
