@@ -45,7 +45,9 @@ struct Chunk {
         appendNumber(head, uint32_t(data.size()));
         head += type;
         uint32_t sum = libdeflate_crc32(0, type.data(), type.size());
-        sum = libdeflate_crc32(sum, data.data(), data.size());
+        // For no data at all libdeflate would give the sum to start with.
+        if (!data.empty())
+            sum = libdeflate_crc32(sum, data.data(), data.size());
         appendNumber(tail, sum);
     }
     std::string head;
