@@ -1,0 +1,49 @@
+#include "settings/settingsfile.h"
+
+#include "util/webcamutil.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSettings>
+
+namespace
+{
+
+// Six short lines; whatever is bigger was not written by us.
+constexpr qint64 kLargestSize = 1024 * 1024;
+
+QString filePath()
+{
+    return WebcamUtil::getAppPath() + "/.hollin_orvane.ini";
+}
+
+} // namespace
+
+QVariantMap SettingsFile::read(const QStringList &keys)
+{
+    const QFileInfo info(filePath());
+    if (!info.isFile() || info.size() > kLargestSize)
+        return {};
+    const QSettings file(info.filePath(), QSettings::IniFormat);
+    QVariantMap values;
+    for (const QString &key : keys) {
+        if (file.contains(key))
+            values.insert(key, file.value(key));
+    }
+    return values;
+}
+
+void SettingsFile::write(const QVariantMap &values)
+{
+    const QFileInfo info(filePath());
+    // Opening a pipe or a device would block.
+    if (info.exists() && !info.isFile())
+        return;
+    // Setting a value reads the whole file first: one of an absurd size is begun anew.
+    if (info.size() > kLargestSize)
+        QFile::remove(info.filePath());
+    QSettings file(info.filePath(), QSettings::IniFormat);
+    for (auto value = values.cbegin(); value != values.cend(); ++value)
+        file.setValue(value.key(), value.value());
+    file.sync();
+}

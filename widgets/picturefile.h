@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QImage>
+#include <QSize>
+#include <QString>
+
+// Reading pictures that may be anything: any thread, and never more memory than a photo of 64 megapixels.
+
+// The picture in a file; null when there is none that can be shown.
+QImage readPicture(const QString &path);
+
+// The picture scaled into the size with its aspect ratio kept; null as above.
+QImage readThumbnail(const QString &path, const QSize &size);
+
+// What stands for a picture that is not there, scaled likewise.
+QImage placeholderThumbnail(const QSize &size);

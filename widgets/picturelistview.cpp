@@ -1,0 +1,213 @@
+#include "widgets/picturelistview.h"
+
+#include "util/webcamutil.h"
+#include "widgets/picturefile.h"
+#include "widgets/thumbnailloader.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace
+{
+
+constexpr int kSpacing = 10;
+constexpr double kIconAspectRatio = 1.3;
+const QString kPreviewEnding = QStringLiteral("tmp.png");
+const QString kMovieEnding = QStringLiteral(".mov");
+
+QString previewOfMovie(QString name)
+{
+    // A regular expression: its dot stands for any character.
+    static const QRegularExpression movieEnding(kMovieEnding);
+    return name.replace(movieEnding, kPreviewEnding);
+}
+
+QString movieOfPreview(QString name)
+{
+    const int ending = name.indexOf(kPreviewEnding);
+    return ending < 0 ? name : name.replace(ending, kPreviewEnding.size(), kMovieEnding);
+}
+
+} // namespace
+
+PictureListView::PictureListView(QWidget *parent) : QListWidget(parent), m_loader(new ThumbnailLoader(this))
+{
+    setViewMode(QListView::IconMode);
+    setSpacing(kSpacing);
+    QPalette colours = palette();
+    colours.setColor(QPalette::Base, Qt::black);
+    setPalette(colours);
+    setBackgroundRole(QPalette::Base);
+    setFlow(QListView::TopToBottom);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setSelectionMode(QAbstractItemView::MultiSelection);
+    connect(this, &QListWidget::itemSelectionChanged, this, &PictureListView::selectedItem);
+    connect(m_loader, &ThumbnailLoader::loaded, this, &PictureListView::showThumbnail);
+}
+
+void PictureListView::setMovieMode(bool movies)
+{
+    setSelectionMode(movies ? QAbstractItemView::SingleSelection : QAbstractItemView::MultiSelection);
+    m_movieMode = movies;
+}
+
+void PictureListView::setPictSize(const QSize &size)
+{
+    setIconSize(size);
+}
+
+void PictureListView::AddPicture(const QString &name)
+{
+    if (m_nameList.contains(name))
+        return;
+    ensureIconSize();
+    QListWidgetItem *item = createItem(name);
+    requestThumbnail(name, item);
+    scrollToItem(item);
+    m_nameList << name;
+    m_items << item;
+}
+
+void PictureListView::AddPicture(const QStringList &names)
+{
+    for (const QString &name : names)
+        AddPicture(name);
+}
+
+void PictureListView::AddPictureWithSelect(const QString &name)
+{
+    AddPicture(name);
+    m_selectionList << name;
+}
+
+void PictureListView::ensureIconSize()
+{
+    if (!iconSize().isEmpty())
+        return;
+    const int iconHeight = height() / 3 * 2;
+    setIconSize(QSize(int(kIconAspectRatio * iconHeight), iconHeight));
+}
+
+QListWidgetItem *PictureListView::createItem(const QString &name)
+{
+    auto *item = new QListWidgetItem(this);
+    item->setBackground(Qt::black);
+    item->setForeground(Qt::white);
+    item->setSizeHint(QSize(height(), iconSize().width()));
+    item->setIcon(QIcon(QPixmap::fromImage(placeholderThumbnail(iconSize()))));
+    item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled);
+    item->setText(m_movieMode ? movieOfPreview(name) : name);
+    return item;
+}
+
+void PictureListView::requestThumbnail(const QString &name, QListWidgetItem *item)
+{
+    const QString folder = m_folder.isEmpty() ? WebcamUtil::getTemporaryPath() : m_folder;
+    m_awaited.insert(++m_lastRequest, indexFromItem(item));
+    m_loader->request(m_lastRequest, folder + "/" + name, iconSize());
+}
+
+void PictureListView::showThumbnail(int id, const QImage &thumbnail)
+{
+    const QModelIndex index = m_awaited.take(id);
+    if (index.isValid() && !thumbnail.isNull())
+        model()->setData(index, QIcon(QPixmap::fromImage(thumbnail)), Qt::DecorationRole);
+}
+
+void PictureListView::Reset()
+{
+    m_loader->cancel();
+    m_awaited.clear();
+    clear();
+    m_folder.clear();
+    m_selectionList.clear();
+    m_nameList.clear();
+}
+
+void PictureListView::Release()
+{
+    Reset();
+    hide();
+}
+
+void PictureListView::selectedItem()
+{
+    // The changes below must not come back here.
+    disconnect(this, &QListWidget::itemSelectionChanged, this, &PictureListView::selectedItem);
+    if (selectedItems().size() > kMostChosen)
+        warnAboutTooMany();
+    followSelection(selectedInListOrder());
+    m_currentName = m_selectionList.isEmpty() ? QString() : m_selectionList.last();
+    if (m_movieMode)
+        chooseMovie();
+    emit selectedPhoto();
+    connect(this, &QListWidget::itemSelectionChanged, this, &PictureListView::selectedItem);
+}
+
+QList<QListWidgetItem *> PictureListView::selectedInListOrder() const
+{
+    QList<QListWidgetItem *> selected = selectedItems();
+    std::sort(selected.begin(), selected.end(),
+              [this](const QListWidgetItem *a, const QListWidgetItem *b) { return row(a) < row(b); });
+    return selected;
+}
+
+// Earlier choices keep their place; of the new ones, those beyond the ninth are undone.
+void PictureListView::followSelection(const QList<QListWidgetItem *> &selected)
+{
+    QStringList texts;
+    for (const QListWidgetItem *item : selected)
+        texts << item->text();
+
+    QStringList kept;
+    for (const QString &name : qAsConst(m_selectionList)) {
+        if (texts.contains(name))
+            kept << name;
+    }
+    m_selectionList = kept;
+
+    for (QListWidgetItem *item : selected) {
+        if (m_selectionList.contains(item->text()))
+            continue;
+        if (m_selectionList.size() < kMostChosen)
+            m_selectionList << item->text();
+        else
+            item->setSelected(false);
+    }
+}
+
+void PictureListView::chooseMovie()
+{
+    m_currentName = previewOfMovie(m_currentName);
+    m_selectionList.clear();
+    if (!m_currentName.isEmpty())
+        m_selectionList << m_currentName;
+}
+
+void PictureListView::OnSelect(const QString &name)
+{
+    if (m_selectionList.contains(name))
+        return;
+    if (m_selectionList.size() >= kMostChosen) {
+        if (QListWidgetItem *item = currentItem())
+            item->setSelected(false);
+        warnAboutTooMany();
+        return;
+    }
+    m_currentName = name;
+    if (m_movieMode)
+        chooseMovie();
+    else
+        m_selectionList << name;
+}
+
+void PictureListView::UnSelect(const QString &name)
+{
+    m_selectionList.removeAll(name);
+}
+
+void PictureListView::warnAboutTooMany()
+{
+    WebcamUtil::WarningMessage(tr("You can not select 10 or more."), this);
+}

@@ -1,0 +1,110 @@
+#include "widgets/picturewidget.h"
+
+#include "util/webcamutil.h"
+#include "widgets/picturefile.h"
+#include "widgets/stretchbitmapbutton.h"
+
+#include <QDir>
+#include <QLabel>
+#include <QPainter>
+
+PictureWidget::PictureWidget(QWidget *parent, Qt::WindowFlags flags)
+    : QWidget(parent, flags), m_caption(new QLabel(tr("Photo"), this))
+{
+    QPalette colours = palette();
+    colours.setColor(QPalette::Window, Qt::black);
+    colours.setColor(QPalette::WindowText, Qt::green);
+    setPalette(colours);
+    setAutoFillBackground(true);
+    m_caption->setPalette(colours);
+    m_caption->setAutoFillBackground(true);
+    m_caption->setFont(QFont("Arial", 24, 5, false));
+}
+
+void PictureWidget::Loadbmp(const QString &name, QString folder)
+{
+    if (!name.isEmpty())
+        m_fileName = name;
+    if (folder.isEmpty())
+        folder = WebcamUtil::getTemporaryPath();
+    m_pixmap = QPixmap::fromImage(readPicture(QDir::toNativeSeparators(folder + "/" + m_fileName)));
+    update();
+}
+
+void PictureWidget::paintEvent(QPaintEvent *)
+{
+    if (m_pixmap.isNull())
+        return;
+    m_pixmap = m_pixmap.scaled(size(), Qt::KeepAspectRatio, Qt::FastTransformation);
+    const int x = int((width() - m_pixmap.width()) * 0.5);
+    const int y = int((height() - m_pixmap.height()) * 0.5);
+    QPainter(this).drawPixmap(x, y, m_pixmap);
+}
+
+void PictureWidget::createButtons()
+{
+    if (!m_zoom)
+        m_zoom = new CStretchBitmapButton(tr("Zoom"), this);
+    if (!m_back)
+        m_back = new CStretchBitmapButton(tr("Back"), this);
+    m_zoom->setAccessibleName(tr("Zoom"));
+    m_back->setAccessibleName(tr("Back"));
+}
+
+// Both buttons take the place of the zoom button, so that pressing twice at one place zooms and goes back.
+void PictureWidget::placeAtBottomRight(QWidget *button)
+{
+    button->setGeometry(width() - m_zoom->width(), height() - m_zoom->height(), m_zoom->width(),
+                        m_zoom->height());
+}
+
+void PictureWidget::ListMode()
+{
+    m_caption->show();
+    createButtons();
+    placeAtBottomRight(m_zoom);
+    m_back->hide();
+    m_zoom->show();
+    connect(m_zoom, &QPushButton::clicked, this, &PictureWidget::OnZoom);
+}
+
+void PictureWidget::ZoomMode()
+{
+    m_caption->hide();
+    setLabelText(QString());
+    createButtons();
+    placeAtBottomRight(m_back);
+    m_back->show();
+    m_zoom->hide();
+    connect(m_back, &QPushButton::clicked, this, &PictureWidget::OnBack);
+}
+
+void PictureWidget::labelVisible(bool visible)
+{
+    m_caption->setVisible(visible);
+}
+
+void PictureWidget::setLabelText(const QString &text)
+{
+    m_caption->setText(text);
+    m_caption->adjustSize();
+    m_caption->show();
+}
+
+void PictureWidget::Release()
+{
+    m_pixmap = QPixmap();
+    m_caption->hide();
+    m_fileName.clear();
+    update();
+}
+
+void PictureWidget::OnZoom()
+{
+    emit onZoom(this);
+}
+
+void PictureWidget::OnBack()
+{
+    emit onBack(this);
+}
