@@ -35,7 +35,7 @@ void TestDisplayModes::print()
     QTest::qWait(3000);
     main.window->screen()->grabWindow(0).save("/tmp/dlg/rec.png");
     main.press("MovieStop");
-    qDebug() << main.buttons()<< main.captures();
+    qDebug() << main.buttons() << main.captures();
     QTest::qWait(1000);
     main.window->screen()->grabWindow(0).save("/tmp/dlg/movie.png");
     main.press("MoviePlay");
@@ -54,8 +54,9 @@ void TestDisplayModes::print()
     qDebug() << main.buttons();
     QTest::qWait(2500);
     main.window->screen()->grabWindow(0).save("/tmp/dlg/series.png");
-    for (int i=0;i<4;++i) main.press("PhotoMulti");
-    qDebug() << main.buttons()<< main.captures();
+    for (int i = 0; i < 4; ++i)
+        main.press("PhotoMulti");
+    qDebug() << main.buttons() << main.captures();
     QTest::qWait(500);
     main.window->screen()->grabWindow(0).save("/tmp/dlg/grid.png");
     main.press("List");
