@@ -120,7 +120,8 @@ void finalize(GObject *object)
 GList *probe(GstDeviceProvider *provider)
 {
     GList *devices = nullptr;
-    for (const auto &settings : ControlFile::read()->devices()) {
+    const auto file = ControlFile::read();
+    for (const auto &settings : file->devices()) {
         if (settings->provider == markOf(provider))
             devices = g_list_append(devices, newTestDevice(settings));
     }
