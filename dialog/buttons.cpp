@@ -146,9 +146,12 @@ bool CPictorelDlg::eventFilter(QObject *watched, QEvent *event)
     return QWidget::eventFilter(watched, event);
 }
 
-// Whoever works with the keyboard sees where the focus went when the row changed under it.
+// Whoever works with the keyboard sees where the focus went when the row changed under it. Nobody else is to
+// see where Qt has put it meanwhile, as if it had been moved by key.
 void CPictorelDlg::focusOn(QWidget *widget)
 {
+    if (QWidget *meanwhile = focusWidget())
+        meanwhile->clearFocus();
     widget->setFocus(m_isKeyboardUsed ? Qt::TabFocusReason : Qt::OtherFocusReason);
 }
 
