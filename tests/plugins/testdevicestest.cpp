@@ -251,10 +251,9 @@ void TestDevicesTest::faults()
     QCOMPARE(opening.wait_for(changeLimit), std::future_status::ready);
     QVERIFY(opening.get());
 
+    devices.setFault("1", "hang-close");
     auto closed = std::make_unique<Pipeline>("orvanetestcamera device=1 ! appsink name=out");
     QVERIFY(closed->next());
-    devices.setFault("1", "hang-close");
-    QTest::qWait(200); // the change of a setting that shows nowhere else
     auto closing = std::async(std::launch::async, [&closed] { closed.reset(); });
     QCOMPARE(closing.wait_for(std::chrono::milliseconds(300)), std::future_status::timeout);
     devices.setFault("1", "none");
