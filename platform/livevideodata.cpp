@@ -272,7 +272,7 @@ void LiveVideoData::Record(const QString &path)
     settings.picture = frame->info;
     settings.framesPerSecond = qMax(1, qRound(m_mode.framesPerSecond()));
     settings.microphone = microphone->device;
-    m_movie = MovieRecorder::start(settings);
+    m_movie = MovieRecorder::start(settings, *frame, m_zoom);
     m_grabThread->setSink(m_movie);
 }
 

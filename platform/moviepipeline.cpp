@@ -17,7 +17,9 @@ constexpr GstClockTime indexPeriod = 500 * GST_MSECOND;
 // The index takes 4 bytes for a sample's size and 8 for its duration where frames come unevenly; twice that
 // leaves room for key frames and chunks. An index that outgrows its place ends the movie.
 constexpr int indexBytesPerFrame = 24;
-constexpr int soundPacketsPerSecond = 48000 / 1024 + 1;
+constexpr int soundRate = 48000;
+constexpr int soundPacketSamples = 1024;
+constexpr int soundPacketsPerSecond = soundRate / soundPacketSamples + 1;
 constexpr int leastIndexBytesPerSecond = indexBytesPerFrame * soundPacketsPerSecond;
 
 // Good for a page of text; the bit rate is a ceiling for restless pictures, in bits a pixel and second.
@@ -167,6 +169,11 @@ MoviePipeline buildMoviePipeline(const MovieSettings &settings)
     g_object_set(movie.soundEncoder, "bitrate", soundBitRate, nullptr);
     movie.pipeline = assembly.take();
     return movie;
+}
+
+GstClockTime soundDelay()
+{
+    return gst_util_uint64_scale(soundPacketSamples, GST_SECOND, soundRate);
 }
 
 int longestMovieSeconds()

@@ -16,5 +16,9 @@ struct MoviePipeline {
 // An incomplete one when an element is missing.
 MoviePipeline buildMoviePipeline(const MovieSettings &settings);
 
+// By how much the sound of such a movie is later than its time stamps say, nanoseconds: the encoder puts a
+// packet of its own before the first, which no player is told to leave out.
+GstClockTime soundDelay();
+
 // The longest movie that a file built here can index, in seconds.
 int longestMovieSeconds();

@@ -33,10 +33,16 @@ double freeBytes(const QString &path)
 
 } // namespace
 
-std::shared_ptr<MovieRecorder> MovieRecorder::start(const MovieSettings &settings)
+std::shared_ptr<MovieRecorder> MovieRecorder::start(const MovieSettings &settings, const CapturedFrame &first,
+                                                    const Zoom &zoom)
 {
     std::shared_ptr<MovieRecorder> recorder(new MovieRecorder(settings));
-    return recorder->startPipeline() ? recorder : nullptr;
+    if (!recorder->startPipeline())
+        return nullptr;
+    // The muxer counts a track's time from its first frame, so that one must stand at the very start or the
+    // picture would run ahead of the sound.
+    recorder->push(first, zoom, 0);
+    return recorder;
 }
 
 MovieRecorder::MovieRecorder(const MovieSettings &settings)
@@ -106,33 +112,34 @@ void MovieRecorder::take(const FramePtr &frame, const Zoom &zoom)
     // A frame of the time before the start, still on its way then.
     if (frame->clockTime < m_startTime || !gst_video_info_is_equal(&frame->info, &m_settings.picture))
         return;
+    push(*frame, zoom, frame->clockTime - m_startTime + soundDelay());
+}
+
+void MovieRecorder::push(const CapturedFrame &frame, const Zoom &zoom, GstClockTime time)
+{
     auto *pictures = GST_APP_SRC(m_movie.pictures);
     if (gst_app_src_get_current_level_buffers(pictures) >= mostWaitingFrames) {
         ++m_droppedFrames;
         return;
     }
-    if (BufferHandle buffer = timed(*frame, zoom))
-        gst_app_src_push_buffer(pictures, buffer.release());
-}
-
-// The frame with its place in the movie's time. Its pixels are shared, unless zoom makes new ones.
-BufferHandle MovieRecorder::timed(const CapturedFrame &frame, const Zoom &zoom)
-{
-    const QSize size(GST_VIDEO_INFO_WIDTH(&frame.info), GST_VIDEO_INFO_HEIGHT(&frame.info));
-    BufferHandle buffer = zoom.isNone() ? BufferHandle(gst_buffer_copy(frame.picture.get()))
-                                        : zoomed(frame, zoom.shownPart(size));
+    BufferHandle buffer = shown(frame, zoom);
     if (!buffer)
-        return buffer;
-    GST_BUFFER_PTS(buffer.get()) = frame.clockTime - m_startTime;
+        return;
+    GST_BUFFER_PTS(buffer.get()) = time;
     GST_BUFFER_DTS(buffer.get()) = GST_CLOCK_TIME_NONE;
     GST_BUFFER_DURATION(buffer.get()) = GST_CLOCK_TIME_NONE;
-    return buffer;
+    gst_app_src_push_buffer(pictures, buffer.release());
 }
 
-BufferHandle MovieRecorder::zoomed(const CapturedFrame &frame, const QRect &part)
+// The part of the frame that the zoom shows, at the frame's size. Without zoom it shares the frame's pixels.
+BufferHandle MovieRecorder::shown(const CapturedFrame &frame, const Zoom &zoom)
 {
+    if (zoom.isNone())
+        return BufferHandle(gst_buffer_copy(frame.picture.get()));
+    const QSize size(GST_VIDEO_INFO_WIDTH(&frame.info), GST_VIDEO_INFO_HEIGHT(&frame.info));
     BufferHandle buffer(gst_buffer_new_allocate(nullptr, GST_VIDEO_INFO_SIZE(&frame.info), nullptr));
-    if (!buffer || !m_zoomer.convert(frame.info, frame.picture.get(), part, frame.info, buffer.get()))
+    if (!buffer ||
+        !m_zoomer.convert(frame.info, frame.picture.get(), zoom.shownPart(size), frame.info, buffer.get()))
         return {};
     return buffer;
 }

@@ -16,8 +16,10 @@
 class MovieRecorder : public FrameSink, public std::enable_shared_from_this<MovieRecorder>
 {
 public:
-    // Starts recording; null when the file cannot be made or an element is missing.
-    static std::shared_ptr<MovieRecorder> start(const MovieSettings &settings);
+    // Starts recording with the frame that is on the screen; null when the file cannot be made or an element
+    // is missing.
+    static std::shared_ptr<MovieRecorder> start(const MovieSettings &settings, const CapturedFrame &first,
+                                                const Zoom &zoom);
     ~MovieRecorder() override;
 
     // Adds a frame of the kind told at the start, showing what the zoom shows. While the encoder is behind by
@@ -41,8 +43,8 @@ private:
     bool startPipeline();
     static GstBusSyncReply onMessage(GstBus *bus, GstMessage *message, gpointer self);
     void note(GstMessage *message);
-    BufferHandle timed(const CapturedFrame &frame, const Zoom &zoom);
-    BufferHandle zoomed(const CapturedFrame &frame, const QRect &part);
+    void push(const CapturedFrame &frame, const Zoom &zoom, GstClockTime time);
+    BufferHandle shown(const CapturedFrame &frame, const Zoom &zoom);
     void close();
     void endStreams();
 

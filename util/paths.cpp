@@ -25,7 +25,6 @@ static bool isOwnFolder(const QByteArray &path)
 
 static bool makeOwnFolder(const QString &path)
 {
-    QDir().mkpath(QDir::tempPath());
     const QByteArray name = QFile::encodeName(path);
     mkdir(name, S_IRWXU); // may exist already
     return isOwnFolder(name);
@@ -52,9 +51,13 @@ QString WebcamUtil::getDocumentPath()
 
 void WebcamUtil::setTemporaryPath()
 {
-    const QString path =
-        QDir(QDir::tempPath() + kFolderName + "_" + QString::number(geteuid())).absolutePath();
-    m_pictureDataPath = makeOwnFolder(path) ? path : QString();
+    m_pictureDataPath.clear();
+    const QString temporary = QDir::tempPath(); // empty when it does not exist
+    if (temporary.isEmpty())
+        return;
+    const QString path = QDir(temporary + kFolderName + "_" + QString::number(geteuid())).absolutePath();
+    if (makeOwnFolder(path))
+        m_pictureDataPath = path;
 }
 
 QString WebcamUtil::getTemporaryPath()

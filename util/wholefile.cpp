@@ -29,7 +29,7 @@ WholeFile::WholeFile(const QString &target, mode_t mode) : m_target(QFile::encod
         return;
     // Not every file system has files without a name (FAT and NFS have not): a hidden one serves there. One
     // that a crash left behind makes way.
-    m_hiddenName = folder + "/." + QFile::encodeName(info.fileName()) + ".part";
+    m_hiddenName = hiddenName();
     unlink(m_hiddenName);
     m_descriptor = open(m_hiddenName, O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, mode);
     if (m_descriptor < 0)
@@ -44,13 +44,39 @@ WholeFile::~WholeFile()
         unlink(m_hiddenName);
 }
 
+QByteArray WholeFile::hiddenName() const
+{
+    const int nameStart = m_target.lastIndexOf('/') + 1;
+    return m_target.left(nameStart) + "." + m_target.mid(nameStart) + ".part";
+}
+
+bool WholeFile::linkNamelessAs(const QByteArray &name) const
+{
+    const QByteArray nameless = "/proc/self/fd/" + QByteArray::number(m_descriptor);
+    return linkat(AT_FDCWD, nameless, AT_FDCWD, name, AT_SYMLINK_FOLLOW) == 0;
+}
+
 bool WholeFile::publish()
 {
-    if (m_hiddenName.isEmpty()) {
-        const QByteArray nameless = "/proc/self/fd/" + QByteArray::number(m_descriptor);
-        return linkat(AT_FDCWD, nameless, AT_FDCWD, m_target, AT_SYMLINK_FOLLOW) == 0;
-    }
+    if (m_hiddenName.isEmpty())
+        return linkNamelessAs(m_target);
     if (!renameWithoutReplacing(m_hiddenName, m_target))
+        return false;
+    m_hiddenName.clear();
+    return true;
+}
+
+bool WholeFile::publishReplacing()
+{
+    if (m_hiddenName.isEmpty()) {
+        // Only renaming replaces, and only what has a name can be renamed.
+        const QByteArray hidden = hiddenName();
+        unlink(hidden);
+        if (!linkNamelessAs(hidden))
+            return false;
+        m_hiddenName = hidden;
+    }
+    if (rename(m_hiddenName, m_target) != 0)
         return false;
     m_hiddenName.clear();
     return true;

@@ -23,8 +23,14 @@ public:
     // Gives the file its name, once. False when the name is taken, by whatever it is: nothing is ever
     // replaced.
     bool publish();
+    // As publish(), but takes the place of a file that has the name. A crash in between may leave a hidden
+    // file.
+    bool publishReplacing();
 
 private:
+    QByteArray hiddenName() const;
+    bool linkNamelessAs(const QByteArray &name) const;
+
     QByteArray m_target;
     QByteArray m_hiddenName; // empty for a file without a name
     int m_descriptor = -1;

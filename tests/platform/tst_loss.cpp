@@ -71,6 +71,10 @@ void TestLoss::tellsALossOnce()
     QVERIFY(camera.start());
     QCOMPARE(lost.count(), 1);
     QFile::remove(movie);
+    // A camera whose going its provider never tells would stay in the lists of the tests to come.
+    devices.camera("cam").name("Told of").order("error-first");
+    devices.write();
+    QTRY_COMPARE(camera.capture.GetVideoDeviceList(), QStringList("Told of"));
 }
 
 void TestLoss::doesNotWaitForACameraThatHangs_data()

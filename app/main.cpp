@@ -1,0 +1,40 @@
+#include "app/qtsingleapplication.h"
+#include "app/terminationsignals.h"
+#include "app/translate.h"
+#include "dialog/pictoreldlg.h"
+
+#include <QDir>
+
+int main(int argc, char **argv)
+{
+    // Keeping windows on top and embedding the live picture speak to the X server. In a Wayland session the
+    // program runs through that session's X server; elsewhere this is what Qt takes anyway.
+    qputenv("QT_QPA_PLATFORM", "xcb");
+
+    QtSingleApplication application("Orvane", argc, argv);
+    constexpr int kWakeUpTimeoutMs = 5000;
+    if (application.sendMessage("Wake up!", kWakeUpTimeoutMs))
+        return 0;
+    application.isRunning();
+
+    const QDir directory(QDir::currentPath());
+    QCoreApplication::addLibraryPath(directory.absolutePath() + "/plugins/");
+    translate();
+
+    CPictorelDlg dialog;
+    if (!dialog.isStartable())
+        return -1;
+
+    // Closed from outside, nobody is there to be asked: what was taken waits in the working folder.
+    TerminationSignals signalsFromOutside;
+    QObject::connect(&signalsFromOutside, &TerminationSignals::requested, &dialog, [&dialog] {
+        dialog.close();
+        QCoreApplication::quit();
+    });
+
+    dialog.SetPluginPath(QCoreApplication::applicationDirPath());
+    dialog.show();
+    dialog.raise();
+    dialog.chkdevice();
+    return QApplication::exec();
+}

@@ -1,0 +1,47 @@
+#include "dialog/pictoreldlg.h"
+
+#include "capture/livevideowidget.h"
+#include "capture/timerwidget.h"
+#include "dialog/saveconfirmdlg.h"
+#include "util/webcamutil.h"
+#include "widgets/moviewidget.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+
+void CPictorelDlg::OnClose()
+{
+    stop_window();
+    if (WebcamUtil::isSaveFile()) {
+        SaveConfirmDlg question(this);
+        switch (question.exec()) {
+        case QDialog::Rejected:
+            return;
+        case QDialog::Accepted:
+            if (!WebcamUtil::saveData(m_saveDirectory))
+                WebcamUtil::WarningMessage(tr("Save failed."), this);
+            break;
+        default:
+            WebcamUtil::deleteData();
+        }
+    }
+    close();
+}
+
+void CPictorelDlg::closeEvent(QCloseEvent *event)
+{
+    m_timerView->Stop(); // no shot is taken any more
+    if (m_liveView) {
+        if (m_liveView->isCreate())
+            m_liveView->Release();
+        // Closed from outside while a message is open, a command still stands in the middle of its work and
+        // the message may be the live view's child: it then goes with the window.
+        if (!QApplication::activeModalWidget()) {
+            delete m_liveView;
+            m_liveView = nullptr;
+        }
+    }
+    if (m_movieView->isPlaying())
+        m_movieView->Release();
+    QWidget::closeEvent(event);
+}

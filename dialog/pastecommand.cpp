@@ -1,0 +1,86 @@
+// Requests to the whiteboard software: small files in a folder that it watches.
+
+#include "dialog/pictoreldlg.h"
+
+#include "util/stamps.h"
+#include "util/webcamutil.h"
+#include "util/wholefile.h"
+#include "widgets/picturelistview.h"
+#include "widgets/picturewidget.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTextStream>
+
+namespace
+{
+
+const char *const kPhotoRequest = "0";
+const char *const kMovieRequest = "1";
+// Stands where photos have the size of the area in which they were shown.
+const char *const kNoSize = "XXX";
+
+constexpr mode_t kRequestMode = 0666; // less the umask, as files usually are
+
+// A name with a line break would be read as two lines, the second of somebody's own making.
+void appendName(QStringList &lines, const QString &name)
+{
+    if (!name.isEmpty() && !name.contains('\n') && !name.contains('\r'))
+        lines.append(name);
+}
+
+// The software that looks for requests never finds a half one. One of the same second is replaced.
+void writeRequest(const QStringList &lines)
+{
+    const QString folder = WebcamUtil::getTemporaryPath() + "/tmp";
+    if (!QDir().mkpath(folder))
+        return;
+    WholeFile request(folder + "/PUTVXS" + CurrentSecondsQString(), kRequestMode);
+    QFile file;
+    if (!file.open(request.descriptor(), QIODevice::WriteOnly | QIODevice::Text))
+        return;
+    QTextStream stream(&file);
+    stream.setCodec("UTF-8");
+    for (const QString &line : lines)
+        stream << line << '\n';
+    stream.flush();
+    if (stream.status() == QTextStream::Ok && file.flush())
+        request.publishReplacing();
+}
+
+} // namespace
+
+void CPictorelDlg::OnVXS()
+{
+    if (m_isMovieShown)
+        PutVXSMovie();
+    else
+        PutVXSPhoto();
+}
+
+void CPictorelDlg::PutVXSPhoto()
+{
+    const QString size = QString("%1x%2").arg(m_viewRect.width()).arg(m_viewRect.height());
+    const QString folder =
+        m_listView->folder().isEmpty() ? WebcamUtil::getTemporaryPath() : m_listView->folder();
+    QStringList lines = {kPhotoRequest, size, folder};
+    if (m_mode == DisplayMode::Photo) {
+        appendName(lines, m_currentPhoto);
+    } else if (m_mode == DisplayMode::List || m_mode == DisplayMode::Series) {
+        for (const PictureWidget *tile : qAsConst(m_thumbnails)) {
+            if (tile->isVisible())
+                appendName(lines, tile->fileName());
+        }
+    }
+    writeRequest(lines);
+}
+
+void CPictorelDlg::PutVXSMovie()
+{
+    const QString folder = WebcamUtil::getTemporaryPath();
+    QStringList lines = {kMovieRequest, kNoSize, folder};
+    appendName(lines, QString(m_shownMovie).replace(folder, QString()));
+    writeRequest(lines);
+}
+
+void CPictorelDlg::isPutCompeate() {}

@@ -1,0 +1,159 @@
+// The list, the grid of chosen photos and one photo of it.
+
+#include "dialog/pictoreldlg.h"
+
+#include "capture/livevideowidget.h"
+#include "capture/timerwidget.h"
+#include "dialog/gridlayout.h"
+#include "util/webcamutil.h"
+#include "widgets/moviewidget.h"
+#include "widgets/picturelistview.h"
+#include "widgets/picturewidget.h"
+#include "widgets/stretchbitmapbutton.h"
+
+namespace
+{
+
+// More than these would make a strip that nobody scrolls through; the latest are kept.
+constexpr int kMostMoviesListed = 25;
+constexpr int kMostPhotosListed = 50;
+
+// Where files are looked for: the list's folder, which is empty for the working folder.
+QString listedFolder(const PictureListView &list)
+{
+    return list.folder().isEmpty() ? WebcamUtil::getTemporaryPath() : list.folder();
+}
+
+} // namespace
+
+void CPictorelDlg::OnList()
+{
+    stop_window();
+    const QString folder = listedFolder(*m_listView);
+    m_listView->Reset();
+    QStringList names =
+        WebcamUtil::getFileListFromDir(folder, {QString(m_isMovieShown ? "movie*.png" : "photo*.png")});
+    m_listView->setMovieMode(m_isMovieShown);
+    hiddenPictList();
+    m_liveView->hide();
+    m_pictureView->Release();
+    m_pictureView->hide();
+    if (m_movieView->isCreated()) {
+        m_movieView->Stop();
+        m_movieView->hide();
+    }
+    TransitionMode(DisplayMode::List);
+
+    const int most = m_isMovieShown ? kMostMoviesListed : kMostPhotosListed;
+    names = names.mid(qMax(0, names.size() - most));
+    m_listView->setFolder(folder);
+    m_listView->AddPicture(names);
+    m_listView->clearSelectionList();
+    m_listView->show();
+    m_timerView->hide();
+    if (!names.isEmpty())
+        focusOn(m_listView);
+    update();
+}
+
+void CPictorelDlg::PictureSelected()
+{
+    m_show->setEnabled(!m_listView->selectionList().isEmpty());
+
+    const int previewHeight = m_viewRect.height() - m_listView->height();
+    const int previewWidth = m_viewRect.width() * previewHeight / qMax(1, m_viewRect.height());
+    const int left = int((width() - previewWidth) * 0.5);
+    m_pictureView->setGeometry(left, 0, previewWidth, previewHeight);
+    showInPictureView(m_listView->currentName(), m_listView->folder());
+    m_pictureView->show();
+}
+
+void CPictorelDlg::OnShow()
+{
+    m_listView->hide();
+    m_pictureView->hide();
+    if (m_isMovieShown) {
+        showMovie();
+    } else {
+        m_mode = DisplayMode::Series; // its other use: the grid
+        SetPictureListMode(m_listView->selectionList().mid(0, PictureListView::kMostChosen));
+    }
+    update();
+}
+
+void CPictorelDlg::showMovie()
+{
+    QString movie = m_listView->currentName();
+    movie.replace("tmp.png", ".mov");
+    m_shownMovie = listedFolder(*m_listView) + "/" + movie;
+    TransitionMode(DisplayMode::Movie);
+    m_movieView->Create(m_shownMovie);
+    m_timerView->SetMode(TimerMode::Playback);
+    m_timerView->show();
+    m_movieView->show();
+}
+
+void CPictorelDlg::SetPictureListMode(const QStringList &names)
+{
+    m_thumbnails.clear();
+    const QVector<QRect> places = gridTiles(m_viewRect, names.size());
+    for (int i = 0; i < names.size(); ++i)
+        addTile(names[i], places[i], i + 1, names.size() > 1);
+    setShowModeButton();
+    focusMainButton();
+}
+
+void CPictorelDlg::addTile(const QString &name, const QRect &place, int number, bool zoomable)
+{
+    auto *tile = new PictureWidget(this);
+    tile->setGeometry(place);
+    tile->Loadbmp(name, m_listView->folder());
+    tile->setLabelText(QString::number(number));
+    if (zoomable) {
+        tile->ListMode();
+        connect(tile, &PictureWidget::onZoom, this, &CPictorelDlg::OnZoom);
+        connect(tile, &PictureWidget::onBack, this, &CPictorelDlg::OnBack);
+    }
+    tile->show();
+    m_thumbnails.append(tile);
+}
+
+void CPictorelDlg::OnZoom(PictureWidget *pict)
+{
+    for (PictureWidget *tile : qAsConst(m_thumbnails))
+        tile->hide();
+    // The tile has kept a small copy only.
+    pict->Loadbmp(QString(), m_listView->folder());
+    pict->setGeometry(m_viewRect);
+    pict->ZoomMode();
+    pict->show();
+}
+
+void CPictorelDlg::OnBack(PictureWidget *)
+{
+    hiddenPictList();
+    SetPictureListMode(m_listView->selectionList());
+}
+
+void CPictorelDlg::OnPictureList()
+{
+    m_thumbnails.clear();
+    const QStringList names = WebcamUtil::getTempPhotoNameList();
+    if (!names.isEmpty())
+        SetPictureListMode(names);
+}
+
+void CPictorelDlg::OnPhotoChange()
+{
+    m_mode = DisplayMode::Photo;
+    m_isMovieShown = false;
+    OnList();
+    SignalBlockAll(false);
+}
+
+void CPictorelDlg::OnMovieChange()
+{
+    m_mode = DisplayMode::Movie;
+    m_isMovieShown = true;
+    OnList();
+}

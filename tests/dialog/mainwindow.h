@@ -1,0 +1,129 @@
+#pragma once
+
+#include "dialog/pictoreldlg.h"
+#include "platform/livevideodata.h"
+#include "tests/support/testdevices.h"
+#include "util/webcamutil.h"
+#include "widgets/stretchbitmapbutton.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScreen>
+#include <QTimer>
+#include <QtTest>
+
+#include <memory>
+
+// The program's main window on a test camera and microphone, used as a user uses it: by its buttons.
+class MainWindow
+{
+public:
+    // settings: lines of the settings file.
+    explicit MainWindow(const QString &settings = QString(), const QString &formats = "YUY2 640x480 30")
+    {
+        QDir(WebcamUtil::getTemporaryPath()).removeRecursively();
+        WebcamUtil::setTemporaryPath();
+        writeFile(QDir::homePath() + "/.hollin_orvane.ini", "[General]\n" + settings.toUtf8());
+        devices.camera("cam").name("Board Cam").formats(formats).content("page");
+        devices.microphone("mic").sound("silence");
+        devices.write();
+        LiveVideoData probe;
+        if (!QTest::qWaitFor([&] { return probe.GetVideoDeviceList().size() == 1; }, 3000) ||
+            !QTest::qWaitFor([&] { return probe.IsValidAudioDevice(); }, 3000))
+            qFatal("the test devices are not listed");
+        window = std::make_unique<CPictorelDlg>();
+        window->show();
+        static_cast<void>(QTest::qWaitForWindowActive(window.get()));
+    }
+
+    static void writeFile(const QString &path, const QByteArray &contents)
+    {
+        QFile file(path);
+        if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
+            qFatal("%s cannot be written", qUtf8Printable(path));
+    }
+
+    CStretchBitmapButton *button(const QString &name) const
+    {
+        return window->findChild<CStretchBitmapButton *>(name);
+    }
+
+    void press(const QString &name) const { QTest::mouseClick(button(name), Qt::LeftButton); }
+
+    // The only child of a class.
+    template<class Widget> Widget *view() const
+    {
+        return window->findChild<Widget *>(QString(), Qt::FindDirectChildrenOnly);
+    }
+
+    // The buttons that are shown, row by row from left to right, those that can be pressed with a "+". With
+    // places, each with its left edge.
+    QString buttons() const
+    {
+        QList<CStretchBitmapButton *> shown;
+        for (auto *candidate :
+             window->findChildren<CStretchBitmapButton *>(QString(), Qt::FindDirectChildrenOnly)) {
+            if (candidate->isVisible())
+                shown << candidate;
+        }
+        std::sort(shown.begin(), shown.end(), [](const QWidget *a, const QWidget *b) {
+            return std::make_pair(a->x(), a->y()) < std::make_pair(b->x(), b->y());
+        });
+        QStringList names;
+        for (auto *one : qAsConst(shown))
+            names << one->objectName() + (one->isEnabled() ? "+" : "");
+        return names.join(' ');
+    }
+
+    static QStringList filesIn(const QString &folder)
+    {
+        return QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+    }
+    static QStringList captures(const QString &filter = "*")
+    {
+        return QDir(WebcamUtil::getTemporaryPath()).entryList({filter}, QDir::Files, QDir::Name);
+    }
+
+    TestDevices devices;
+    std::unique_ptr<CPictorelDlg> window;
+};
+
+// Answers the modal dialogs that come up while it lives, each by a press on the button with the next of the
+// texts, and keeps what they said.
+class Answers
+{
+public:
+    explicit Answers(const QStringList &presses) : m_presses(presses)
+    {
+        constexpr int kLookEveryMilliseconds = 20;
+        QObject::connect(&m_look, &QTimer::timeout, [this] { answer(); });
+        m_look.start(kLookEveryMilliseconds);
+    }
+
+    QStringList told() const { return m_told; }
+
+private:
+    void answer()
+    {
+        QWidget *dialog = QApplication::activeModalWidget();
+        if (!dialog || !dialog->isVisible() || m_presses.isEmpty())
+            return;
+        for (auto *button : dialog->findChildren<QPushButton *>()) {
+            if (button->text() != m_presses.first() || !button->isVisible())
+                continue;
+            const auto *box = qobject_cast<QMessageBox *>(dialog);
+            const auto *label = dialog->findChild<QLabel *>();
+            m_told << (box ? box->text() : label ? label->text() : QString());
+            m_presses.removeFirst();
+            QTest::mouseClick(button, Qt::LeftButton);
+            return;
+        }
+    }
+
+    QStringList m_presses;
+    QStringList m_told;
+    QTimer m_look;
+};

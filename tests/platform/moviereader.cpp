@@ -1,0 +1,79 @@
+#include "tests/platform/moviereader.h"
+
+#include <cstdlib>
+
+namespace
+{
+
+// Between two beeps; a beep itself crosses zero more often.
+constexpr double quietSeconds = 0.1;
+constexpr int loud = 3000;
+
+SampleHandle nextSample(GstElement *sink)
+{
+    return SampleHandle(gst_app_sink_try_pull_sample(GST_APP_SINK(sink), 5 * GST_SECOND));
+}
+
+double seconds(GstBuffer *buffer)
+{
+    return double(GST_BUFFER_PTS(buffer)) / GST_SECOND;
+}
+
+void readFrames(GstElement *sink, MovieContents *contents)
+{
+    while (const SampleHandle sample = nextSample(sink)) {
+        GstVideoInfo info;
+        gst_video_info_from_caps(&info, gst_sample_get_caps(sample.get()));
+        GstBuffer *buffer = gst_sample_get_buffer(sample.get());
+        MappedFrame frame(info, buffer, GST_MAP_READ);
+        const QImage picture(static_cast<const uchar *>(GST_VIDEO_FRAME_PLANE_DATA(frame.get(), 0)),
+                             info.width, info.height, GST_VIDEO_FRAME_PLANE_STRIDE(frame.get(), 0),
+                             QImage::Format_Grayscale8);
+        contents->frames.push_back({seconds(buffer), picture.scaled(320, 180)});
+    }
+}
+
+void readSound(GstElement *sink, MovieContents *contents)
+{
+    double lastLoud = -1;
+    while (const SampleHandle sample = nextSample(sink)) {
+        GstBuffer *buffer = gst_sample_get_buffer(sample.get());
+        GstMapInfo mapped;
+        gst_buffer_map(buffer, &mapped, GST_MAP_READ);
+        const auto *samples = reinterpret_cast<const gint16 *>(mapped.data);
+        for (size_t i = 0; i < mapped.size / 2; ++i) {
+            const double time = seconds(buffer) + double(i) / 48000;
+            if (std::abs(samples[i]) < loud)
+                continue;
+            if (lastLoud < 0 || time - lastLoud > quietSeconds)
+                contents->loudMoments.push_back(time);
+            lastLoud = time;
+        }
+        contents->soundLength = seconds(buffer) + double(mapped.size / 2) / 48000;
+        gst_buffer_unmap(buffer, &mapped);
+    }
+}
+
+} // namespace
+
+MovieContents readMovie(const QString &path)
+{
+    MovieContents contents;
+    // The queues hold a whole test movie, as the two are read one after the other.
+    const QByteArray description =
+        "filesrc location=\"" + path.toUtf8() +
+        "\" ! qtdemux name=d d.video_0 ! queue max-size-buffers=0 max-size-time=0 max-size-bytes=500000000 ! "
+        "avdec_h264 ! videoconvert ! video/x-raw,format=GRAY8 ! appsink name=frames sync=false "
+        "d.audio_0 ! queue max-size-buffers=0 max-size-time=0 max-size-bytes=500000000 ! avdec_aac ! "
+        "audioconvert ! audio/x-raw,format=S16LE,channels=1,rate=48000 ! appsink name=sound sync=false";
+    const ElementHandle pipeline(gst_parse_launch(description.constData(), nullptr));
+    const ElementHandle frames(gst_bin_get_by_name(GST_BIN(pipeline.get()), "frames"));
+    const ElementHandle sound(gst_bin_get_by_name(GST_BIN(pipeline.get()), "sound"));
+    gst_element_set_state(pipeline.get(), GST_STATE_PLAYING);
+    readFrames(frames.get(), &contents);
+    readSound(sound.get(), &contents);
+    contents.isReadToItsEnd =
+        gst_app_sink_is_eos(GST_APP_SINK(frames.get())) && gst_app_sink_is_eos(GST_APP_SINK(sound.get()));
+    gst_element_set_state(pipeline.get(), GST_STATE_NULL);
+    return contents;
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/gsthandles.h"
+
+#include <gst/app/gstappsink.h>
+
+#include <QImage>
+#include <QString>
+
+#include <vector>
+
+// What a player makes of a movie: the moments of its frames and sounds, in seconds.
+struct MovieContents {
+    struct Frame {
+        double time = 0;
+        QImage picture; // grey
+    };
+    std::vector<Frame> frames;
+    std::vector<double> loudMoments; // where sound begins after quiet
+    double soundLength = 0;
+    bool isReadToItsEnd = false;
+
+    double length() const { return frames.empty() ? 0 : frames.back().time; }
+};
+
+MovieContents readMovie(const QString &path);

@@ -1,0 +1,274 @@
+#include "util/webcamutil.h"
+#include "util/windowmanagement.h"
+
+#include <QApplication>
+#include <QPushButton>
+#include <QScreen>
+#include <QX11Info>
+#include <QtTest>
+
+#include <algorithm>
+#include <vector>
+
+#include <X11/Xlib.h>
+#undef None
+
+namespace
+{
+
+class RaisedWindow : public QWidget, public CWindowManagement
+{
+public:
+    RaisedWindow() : CWindowManagement(this, kRaisePeriodMs, true, QString())
+    {
+        setWindowFlag(Qt::FramelessWindowHint);
+        setGeometry(0, 0, 400, 300);
+    }
+    void update_window() override
+    {
+        ++ticks;
+        CWindowManagement::update_window();
+    }
+    int ticks = 0;
+};
+
+// Stands for the whiteboard: a window of another client of the X server.
+class OtherClient
+{
+public:
+    OtherClient() : m_display(XOpenDisplay(nullptr))
+    {
+        m_window = XCreateSimpleWindow(m_display, DefaultRootWindow(m_display), 0, 0, 500, 400, 0, 0, 0);
+        XMapRaised(m_display, m_window);
+        XSync(m_display, False);
+    }
+    ~OtherClient() { XCloseDisplay(m_display); }
+
+    // As a click on it does.
+    void takeFocus()
+    {
+        XRaiseWindow(m_display, m_window);
+        XSetInputFocus(m_display, m_window, RevertToParent, CurrentTime);
+        XSync(m_display, False);
+    }
+    bool isViewable() const
+    {
+        XWindowAttributes attributes = {};
+        XGetWindowAttributes(m_display, m_window, &attributes);
+        return attributes.map_state == IsViewable;
+    }
+    WId window() const { return m_window; }
+
+private:
+    Display *m_display;
+    Window m_window;
+};
+
+std::vector<Window> children(Window window, Window *parent)
+{
+    Window root = 0;
+    Window *list = nullptr;
+    unsigned int count = 0;
+    if (!XQueryTree(QX11Info::display(), window, &root, parent, &list, &count))
+        return {};
+    std::vector<Window> result(list, list + count);
+    if (list)
+        XFree(list);
+    return result;
+}
+
+Window frameOf(Window window)
+{
+    const Window root = QX11Info::appRootWindow();
+    Window parent = window;
+    while (parent != root && parent != 0) {
+        window = parent;
+        children(window, &parent);
+    }
+    return window;
+}
+
+bool isAbove(Window upper, Window lower)
+{
+    Window parent = 0;
+    const std::vector<Window> stack = children(QX11Info::appRootWindow(), &parent); // lowest first
+    const auto place = [&stack](Window w) { return std::find(stack.begin(), stack.end(), frameOf(w)); };
+    return place(lower) < place(upper) && place(upper) != stack.end();
+}
+
+// Asks until it is so, and no more often: the window manager works on the stack in between.
+bool comesAbove(Window upper, Window lower, int withinMs = 5000)
+{
+    return QTest::qWaitFor([=] { return isAbove(upper, lower); }, withinMs);
+}
+
+} // namespace
+
+class TestWindowManagement : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void comesBackOnTopUntilStopped();
+    void startingTwiceLeavesOneTimer();
+    void staysBelowItsOwnModalDialog();
+    void hiddenWindowIsNotMapped();
+    void findsProcesses();
+    void boxes_data();
+    void boxes();
+};
+
+void TestWindowManagement::comesBackOnTopUntilStopped()
+{
+    RaisedWindow window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    window.stop_window();
+    OtherClient other;
+    QTRY_VERIFY(other.isViewable());
+    other.takeFocus();
+    QVERIFY(comesAbove(other.window(), window.winId()));
+    QTRY_VERIFY(!window.isActiveWindow());
+    QVERIFY(!comesAbove(window.winId(), other.window(), 3 * kRaisePeriodMs));
+
+    // A whole period from the loss of the focus to the next tick is the longest it can take.
+    QElapsedTimer sinceStart;
+    sinceStart.start();
+    window.start_window(kRaisePeriodMs);
+    QVERIFY(comesAbove(window.winId(), other.window()));
+    const qint64 pollMs = 50; // looking takes a while, too
+    QVERIFY2(sinceStart.elapsed() <= kRaisePeriodMs + pollMs,
+             qPrintable(QString::number(sinceStart.elapsed())));
+
+    // A second window that comes while the timer runs.
+    OtherClient second;
+    QTRY_VERIFY(second.isViewable() && !window.isActiveWindow());
+    QVERIFY(comesAbove(window.winId(), second.window()));
+
+    // The window manager still takes the window for its own.
+    XWindowAttributes attributes = {};
+    QVERIFY(XGetWindowAttributes(QX11Info::display(), window.winId(), &attributes));
+    QVERIFY(!attributes.override_redirect);
+}
+
+void TestWindowManagement::startingTwiceLeavesOneTimer()
+{
+    RaisedWindow window;
+    window.start_window(100);
+    window.start_window(100);
+    window.ticks = 0;
+    QElapsedTimer clock;
+    clock.start();
+    QTRY_VERIFY(window.ticks >= 5);
+    QVERIFY(clock.elapsed() >= 480);
+    window.stop_window();
+    window.ticks = 0;
+    QVERIFY(!QTest::qWaitFor([&] { return window.ticks > 0; }, 300));
+    CWindowManagement(nullptr, 10, true, QString()).start_window(10); // without a widget nothing runs
+}
+
+void TestWindowManagement::staysBelowItsOwnModalDialog()
+{
+    RaisedWindow window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QMessageBox box(QMessageBox::NoIcon, "box", "box", QMessageBox::Ok, &window);
+    box.open();
+    QVERIFY(QTest::qWaitForWindowActive(&box));
+    window.ticks = 0;
+    QTRY_VERIFY(window.ticks >= 2);
+    QVERIFY(isAbove(box.winId(), window.winId()));
+}
+
+void TestWindowManagement::hiddenWindowIsNotMapped()
+{
+    RaisedWindow window;
+    window.winId();
+    QTRY_VERIFY(window.ticks >= 2);
+    XWindowAttributes attributes = {};
+    QVERIFY(XGetWindowAttributes(QX11Info::display(), window.winId(), &attributes));
+    QCOMPARE(attributes.map_state, IsUnmapped);
+}
+
+void TestWindowManagement::findsProcesses()
+{
+    std::string own = "test_windowmanagement";
+    std::string nobody = "no-such-process-anywhere";
+    QVERIFY(CWindowManagement::isRunning(own));
+    QVERIFY(!CWindowManagement::isRunning(nobody));
+}
+
+using Show = void (*)(QWidget *);
+Q_DECLARE_METATYPE(Show)
+
+void TestWindowManagement::boxes_data()
+{
+    QTest::addColumn<Show>("show");
+    QTest::addColumn<int>("icon");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("flags");
+    const auto row = [](const char *name, Show show, int icon, const char *text, int flags) {
+        QTest::newRow(name) << show << icon << text << flags;
+    };
+    row(
+        "info", [](QWidget *w) { WebcamUtil::infoMessage("Hello", w); }, QMessageBox::Information, "Hello",
+        0x103);
+    row(
+        "critical", [](QWidget *w) { WebcamUtil::CriticalMessage("Hello", w); }, QMessageBox::Critical,
+        "Hello", 0x103);
+    row(
+        "warning", [](QWidget *w) { WebcamUtil::WarningMessage("Hello", w); }, QMessageBox::Warning, "Hello",
+        0x40103);
+    row(
+        "disk", [](QWidget *w) { WebcamUtil::ShowDiskWorningMessage(w); }, QMessageBox::Warning,
+        "The disk free space is insufficient.\nTaking a picture is discontinued. Please secure the free "
+        "space. ",
+        0x103);
+}
+
+void TestWindowManagement::boxes()
+{
+    QFETCH(Show, show);
+    QWidget parent;
+    parent.setGeometry(QGuiApplication::primaryScreen()->geometry());
+    parent.show();
+    QVERIFY(QTest::qWaitForWindowActive(&parent));
+    bool inspected = false;
+    // Runs inside the box's own event loop.
+    const auto inspect = [&] {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        QVERIFY(box);
+        // The box ends whatever fails below.
+        const auto end =
+            qScopeGuard([box] { QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton); });
+        QVERIFY(QTest::qWaitForWindowActive(box));
+        QTEST(int(box->icon()), "icon");
+        QTEST(box->text(), "text");
+        QFETCH(int, flags); // Qt adds those of the title bar
+        const int own = flags | Qt::WindowStaysOnTopHint | Qt::WindowType_Mask;
+        QCOMPARE(int(box->windowFlags()) & own, flags);
+        QCOMPARE(box->windowTitle(), QString("Orvane"));
+        QCOMPARE(box->buttons().size(), 1);
+        const QPoint off = box->geometry().center() - parent.geometry().center();
+        QVERIFY2(off.manhattanLength() <= 2, qPrintable(QString("%1 %2").arg(off.x()).arg(off.y())));
+        QCOMPARE(box->minimumSize(), box->maximumSize());
+        QVERIFY(comesAbove(box->winId(), parent.winId()));
+        if (auto *managed = dynamic_cast<CWindowManagement *>(box)) {
+            OtherClient other;
+            QTRY_VERIFY(other.isViewable());
+            other.takeFocus();
+            QVERIFY(comesAbove(box->winId(), other.window()));
+            managed->stop_window();
+        }
+        inspected = true;
+    };
+    QTimer once;
+    once.setSingleShot(true);
+    connect(&once, &QTimer::timeout, this, inspect);
+    once.start(0);
+    show(&parent);
+    QVERIFY(inspected);
+}
+
+QTEST_MAIN(TestWindowManagement)
+#include "test_windowmanagement.moc"
