@@ -112,14 +112,13 @@ GstBuffer *DeskPicture::frame(double seconds, std::time_t now)
 
 void DeskPicture::drawClock(std::time_t now)
 {
-    std::tm time = {};
-    localtime_r(&now, &time);
+    localtime_r(&now, &time_);
     const PixelRect area = scene_.clockArea();
     {
         const Cairo cairo = clock_.paint(area.x, area.y);
         cairo_set_source_surface(cairo.get(), still_.get(), 0, 0);
         cairo_paint(cairo.get());
-        scene_.drawTime(cairo.get(), time);
+        scene_.drawTime(cairo.get(), time_);
     }
     clock_.convert();
     clockShows_ = now;
@@ -132,6 +131,8 @@ void DeskPicture::drawPencil(double seconds)
         const Cairo cairo = pencil_.paint(area.x, area.y);
         cairo_set_source_surface(cairo.get(), still_.get(), 0, 0);
         cairo_paint(cairo.get());
+        // The pencil's surroundings reach into the clock.
+        scene_.drawTime(cairo.get(), time_);
         scene_.drawPencil(cairo.get(), seconds);
     }
     pencil_.convert();

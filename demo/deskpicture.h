@@ -47,4 +47,5 @@ private:
     Patch clock_;
     Patch pencil_;
     std::time_t clockShows_ = -1;
+    std::tm time_ = {};
 };

@@ -21,7 +21,7 @@ QString property(const GstStructure *properties, const char *name)
 QString firstProperty(const GstStructure *properties, std::initializer_list<const char *> names)
 {
     for (const char *name : names) {
-        const QString value = property(properties, name);
+        QString value = property(properties, name);
         if (!value.isEmpty())
             return value;
     }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace
 {
@@ -249,8 +250,8 @@ CaptureMode modeOfSize(const std::vector<CaptureMode> &modes, const QSize &size)
 QStringList resolutionNames(const std::vector<CaptureMode> &modes)
 {
     std::vector<QSize> sizes;
-    for (const CaptureMode &mode : modes)
-        sizes.push_back(mode.size);
+    std::transform(modes.begin(), modes.end(), std::back_inserter(sizes),
+                   [](const CaptureMode &mode) { return mode.size; });
     std::sort(sizes.begin(), sizes.end(), [](const QSize &a, const QSize &b) {
         return area(a) != area(b) ? area(a) < area(b) : a.width() < b.width();
     });

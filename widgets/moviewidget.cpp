@@ -5,6 +5,7 @@
 #include <QUrl>
 
 #include <phonon/MediaSource>
+#include <phonon/VideoWidget>
 
 namespace
 {
@@ -19,7 +20,12 @@ MovieWidget::MovieWidget(QWidget *parent) : Phonon::VideoPlayer(parent)
     colours.setColor(QPalette::WindowText, Qt::green);
     setPalette(colours);
 
+    // Phonon measures the window for the picture before it knows the movie's size, and a square is what it takes
+    // then. Given the whole widget, the sink keeps the movie's proportions itself.
+    videoWidget()->setAspectRatio(Phonon::VideoWidget::AspectRatioWidget);
+
     auto *caption = new QLabel(tr("Movie"), this);
+    caption->setAutoFillBackground(true);
     caption->setPalette(colours);
     caption->setFont(QFont("Arial", 24, 5));
     caption->adjustSize();
