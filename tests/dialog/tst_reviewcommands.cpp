@@ -1,0 +1,7 @@
+#include "tests/dialog/mainwindow.h"
+class T : public QObject
+{
+    Q_OBJECT
+};
+QTEST_MAIN(T)
+#include "tst_reviewcommands.moc"
