@@ -37,6 +37,8 @@ int remaining(const QDeadlineTimer &deadline)
 QtSingleApplication::QtSingleApplication(const QString &appId, int &argc, char **argv)
     : QApplication(argc, argv), m_path(pathFor(appId)), m_lock(m_path + ".lock")
 {
+    // However long a lesson lasts: only a holder that has ended leaves a lock to be taken over.
+    m_lock.setStaleLockTime(0);
     becomeInstance();
 }
 
@@ -45,10 +47,10 @@ QtSingleApplication::~QtSingleApplication() = default;
 // With the lock in hand, a socket that is there is the leftover of an instance that was killed.
 bool QtSingleApplication::becomeInstance()
 {
-    if (!m_lock.tryLock())
-        return false;
     if (m_server)
         return true;
+    if (!m_lock.tryLock())
+        return false;
     m_server = std::make_unique<QLocalServer>();
     m_server->setSocketOptions(QLocalServer::UserAccessOption);
     connect(m_server.get(), &QLocalServer::newConnection, this, &QtSingleApplication::acceptSender);

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "app/userlock.h"
-
 #include <QApplication>
+#include <QLockFile>
 #include <QString>
 
 #include <memory>
@@ -39,6 +38,6 @@ private:
     bool deliver(const QString &message, const QDeadlineTimer &deadline) const;
 
     QString m_path; // without the endings of the lock's and the socket's names
-    UserLock m_lock;
+    QLockFile m_lock;
     std::unique_ptr<QLocalServer> m_server; // while this process is the instance; gone before the lock is
 };

@@ -34,7 +34,7 @@ void roundedRect(cairo_t *cairo, double x, double y, double width, double height
 void softShadow(cairo_t *cairo, double x, double y, double width, double height)
 {
     cairo_set_source_rgba(cairo, 0, 0, 0, 0.05);
-    for (double spread = 0; spread <= 14; spread += 2) {
+    for (int spread = 0; spread <= 14; spread += 2) {
         roundedRect(cairo, x - spread + 6, y - spread + 10, width + 2 * spread, height + 2 * spread,
                     4 + spread);
         cairo_fill(cairo);

@@ -10,7 +10,7 @@ namespace
 {
 
 // Six short lines; whatever is bigger was not written by us.
-constexpr qint64 kLargestSize = 1024 * 1024;
+constexpr qint64 kLargestSize = 1 << 20; // bytes
 
 QString filePath()
 {

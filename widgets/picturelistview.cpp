@@ -83,10 +83,14 @@ void PictureListView::AddPictureWithSelect(const QString &name)
 
 void PictureListView::ensureIconSize()
 {
-    if (!iconSize().isEmpty())
-        return;
-    const int iconHeight = height() / 3 * 2;
-    setIconSize(QSize(int(kIconAspectRatio * iconHeight), iconHeight));
+    if (iconSize().isEmpty()) {
+        const int iconHeight = height() / 3 * 2;
+        setIconSize(QSize(int(kIconAspectRatio * iconHeight), iconHeight));
+    }
+    if (m_placeholderSize != iconSize()) {
+        m_placeholderSize = iconSize();
+        m_placeholder = QIcon(QPixmap::fromImage(placeholderThumbnail(m_placeholderSize)));
+    }
 }
 
 QListWidgetItem *PictureListView::createItem(const QString &name)
@@ -95,7 +99,7 @@ QListWidgetItem *PictureListView::createItem(const QString &name)
     item->setBackground(Qt::black);
     item->setForeground(Qt::white);
     item->setSizeHint(QSize(height(), iconSize().width()));
-    item->setIcon(QIcon(QPixmap::fromImage(placeholderThumbnail(iconSize()))));
+    item->setIcon(m_placeholder);
     item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled);
     item->setText(m_movieMode ? movieOfPreview(name) : name);
     return item;

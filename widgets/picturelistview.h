@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QHash>
+#include <QIcon>
 #include <QListWidget>
 #include <QPersistentModelIndex>
 #include <QStringList>
@@ -79,6 +80,8 @@ private:
     bool m_movieMode = false;
     QString m_folder;
 
+    QIcon m_placeholder; // one for all, as long as they are of one size
+    QSize m_placeholderSize;
     ThumbnailLoader *m_loader;
     int m_lastRequest = 0;
     QHash<int, QPersistentModelIndex> m_awaited; // the item of each request under way

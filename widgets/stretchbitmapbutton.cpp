@@ -75,6 +75,8 @@ void CStretchBitmapButton::createCaption()
     m_caption = new QLabel(this);
     m_caption->setFont(QFont("Arial", captionPointSize(), QFont::Black, false));
     m_caption->setWordWrap(true);
+    // Over the bitmap it is the window's text colour that can be read, not that of a common button.
+    m_caption->setForegroundRole(QPalette::WindowText);
     const Qt::LayoutDirection captionDirection = m_caption->layoutDirection();
 
     auto *picturePart = new QLabel;

@@ -35,7 +35,6 @@ OrvaneTestCamera *self(gpointer object)
 
 } // namespace
 
-// NOLINTNEXTLINE(bugprone-macro-parentheses,clang-analyzer-*): GObject's own boilerplate
 G_DEFINE_TYPE(OrvaneTestCamera, orvane_test_camera, orvane_test_source_get_type())
 
 namespace

@@ -60,7 +60,7 @@ public:
             return {};
         GstMapInfo map;
         gst_buffer_map(gst_sample_get_buffer(sample.get()), &map, GST_MAP_READ);
-        const QByteArray bytes(reinterpret_cast<const char *>(map.data), int(map.size));
+        QByteArray bytes(reinterpret_cast<const char *>(map.data), int(map.size));
         gst_buffer_unmap(gst_sample_get_buffer(sample.get()), &map);
         return bytes;
     }

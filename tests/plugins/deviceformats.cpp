@@ -1,6 +1,5 @@
 #include "tests/plugins/deviceformats.h"
 
-#include <regex>
 #include <sstream>
 
 namespace
@@ -20,12 +19,19 @@ std::string asFraction(const std::string &rate)
     return rate.find('/') == std::string::npos ? rate + "/1" : rate;
 }
 
+// The text before and after the first of a mark; after is empty when there is none.
+std::pair<std::string, std::string> split(const std::string &text, char mark)
+{
+    const auto at = text.find(mark);
+    return {text.substr(0, at), at == std::string::npos ? std::string() : text.substr(at + 1)};
+}
+
 // "30" is a fraction, "30,15" a list, "5-30" a range.
 std::string rates(const std::string &text)
 {
-    const auto dash = text.find('-');
-    if (dash != std::string::npos)
-        return "[" + asFraction(text.substr(0, dash)) + "," + asFraction(text.substr(dash + 1)) + "]";
+    const auto [lowest, highest] = split(text, '-');
+    if (!highest.empty())
+        return "[" + asFraction(lowest) + "," + asFraction(highest) + "]";
     std::stringstream parts(text);
     std::string list;
     int count = 0;
@@ -39,17 +45,20 @@ std::string extent(const std::string &from, const std::string &to)
     return to.empty() ? from : "[" + from + "," + to + "]";
 }
 
-// Empty when the entry is not understood.
 std::string capsText(const std::string &entry)
 {
-    static const std::regex pattern(R"(\s*(\w+) (\d+)x(\d+)(?:-(\d+)x(\d+))?(?: ([\d/,-]+))?\s*)");
-    std::smatch part;
-    if (!std::regex_match(entry, part, pattern))
-        return {};
-    std::string text =
-        mediaType(part[1]) + ",width=" + extent(part[2], part[4]) + ",height=" + extent(part[3], part[5]);
-    if (part[6].matched)
-        text += ",framerate=" + rates(part[6]);
+    std::istringstream words(entry);
+    std::string format;
+    std::string sizes;
+    std::string rate;
+    words >> format >> sizes >> rate;
+    const auto [smallest, largest] = split(sizes, '-');
+    const auto from = split(smallest, 'x');
+    const auto to = split(largest, 'x');
+    std::string text = mediaType(format) + ",width=" + extent(from.first, to.first) +
+                       ",height=" + extent(from.second, to.second);
+    if (!rate.empty())
+        text += ",framerate=" + rates(rate);
     return text;
 }
 
@@ -60,8 +69,7 @@ GstCaps *cameraCaps(const DeviceSettings &camera)
     GstCaps *caps = gst_caps_new_empty();
     std::stringstream entries(camera.formats);
     for (std::string entry; std::getline(entries, entry, ';');) {
-        const std::string text = capsText(entry);
-        GstCaps *one = text.empty() ? nullptr : gst_caps_from_string(text.c_str());
+        GstCaps *one = gst_caps_from_string(capsText(entry).c_str());
         if (one)
             gst_caps_append(caps, one);
         else

@@ -35,7 +35,6 @@ OrvaneTestMicrophone *self(gpointer object)
 
 } // namespace
 
-// NOLINTNEXTLINE(bugprone-macro-parentheses,clang-analyzer-*): GObject's own boilerplate
 G_DEFINE_TYPE(OrvaneTestMicrophone, orvane_test_microphone, orvane_test_source_get_type())
 
 namespace

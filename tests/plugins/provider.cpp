@@ -102,11 +102,9 @@ const char *markOf(gpointer provider)
 
 } // namespace
 
-// NOLINTBEGIN(bugprone-macro-parentheses,clang-analyzer-*): GObject's own boilerplate
 G_DEFINE_ABSTRACT_TYPE(OrvaneTestProvider, orvane_test_provider, GST_TYPE_DEVICE_PROVIDER)
 G_DEFINE_TYPE(OrvaneTestProviderA, orvane_test_provider_a, orvane_test_provider_get_type())
 G_DEFINE_TYPE(OrvaneTestProviderB, orvane_test_provider_b, orvane_test_provider_get_type())
-// NOLINTEND(bugprone-macro-parentheses,clang-analyzer-*)
 
 namespace
 {

@@ -22,7 +22,6 @@ OrvaneTestDevice *self(gpointer object)
 
 } // namespace
 
-// NOLINTNEXTLINE(bugprone-macro-parentheses,clang-analyzer-*): GObject's own boilerplate
 G_DEFINE_TYPE(OrvaneTestDevice, orvane_test_device, GST_TYPE_DEVICE)
 
 namespace

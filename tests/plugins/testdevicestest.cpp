@@ -251,6 +251,14 @@ void TestDevicesTest::faults()
     QCOMPARE(opening.wait_for(changeLimit), std::future_status::ready);
     QVERIFY(opening.get());
 
+    devices.setFault("1", "hang-close");
+    auto closed = std::make_unique<Pipeline>("orvanetestcamera device=1 ! appsink name=out");
+    QVERIFY(closed->next());
+    auto closing = std::async(std::launch::async, [&closed] { closed.reset(); });
+    QCOMPARE(closing.wait_for(std::chrono::milliseconds(300)), std::future_status::timeout);
+    devices.setFault("1", "none");
+    QCOMPARE(closing.wait_for(changeLimit), std::future_status::ready);
+
     Pipeline pipeline("orvanetestcamera device=1 ! appsink name=out max-buffers=1 drop=true");
     QVERIFY(pipeline.next());
     devices.setFault("1", "stall");

@@ -4,7 +4,6 @@
 
 enum { PropDevice = 1 };
 
-// NOLINTNEXTLINE(bugprone-macro-parentheses,clang-analyzer-*): GObject's own boilerplate
 G_DEFINE_ABSTRACT_TYPE(OrvaneTestSource, orvane_test_source, GST_TYPE_PUSH_SRC)
 
 namespace

@@ -74,6 +74,8 @@ void TestStretchBitmapButton::captionAndAccessibleName()
     QVERIFY(caption->x() >= button.width() * 2 / 5 - 1);
     const int width = QGuiApplication::primaryScreen()->availableGeometry().width();
     QCOMPARE(caption->font().pointSize(), width < 1024 ? width * 11 / 1024 : 11);
+    // Readable on the black window, whatever colour common buttons have.
+    QCOMPARE(caption->foregroundRole(), QPalette::WindowText);
     // A press on the caption presses the button.
     QSignalSpy clicks(&button, &QPushButton::clicked);
     QVERIFY(QTest::qWaitForWindowExposed(&window));
