@@ -14,7 +14,7 @@ static fsblkcnt_t freeMiB = 100000;
 extern "C" int statvfs(const char *, struct statvfs *status)
 {
     *status = {};
-    status->f_bsize = 1024 * 1024;
+    status->f_bsize = status->f_frsize = 1024 * 1024;
     status->f_bavail = freeMiB;
     return 0;
 }
