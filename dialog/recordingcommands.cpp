@@ -103,7 +103,8 @@ void CPictorelDlg::setMovieTime()
     const QString total = minutesAndSeconds(m_movieView->totalTime());
     const QString current = minutesAndSeconds(m_movieView->currentTime() + kRounding);
     m_timerView->setText(current + "/" + total);
-    if (current == total)
+    // A player that has not yet found out how long the movie is says 0.
+    if (current == total && m_movieView->totalTime() > 0)
         m_timerView->Stop();
 }
 

@@ -2,8 +2,10 @@
 
 #include "dialog/pictoreldlg.h"
 #include "platform/livevideodata.h"
+#include "settings/setting.h"
 #include "tests/support/testdevices.h"
 #include "util/webcamutil.h"
+#include "widgets/picturewidget.h"
 #include "widgets/stretchbitmapbutton.h"
 
 #include <QApplication>
@@ -59,8 +61,16 @@ public:
         return window->findChild<Widget *>(QString(), Qt::FindDirectChildrenOnly);
     }
 
-    // The buttons that are shown, row by row from left to right, those that can be pressed with a "+". With
-    // places, each with its left edge.
+    // The photos of the grid that are shown. The first such child is the picture view.
+    QList<PictureWidget *> tiles() const
+    {
+        auto tiles = window->findChildren<PictureWidget *>(QString(), Qt::FindDirectChildrenOnly).mid(1);
+        tiles.erase(std::remove_if(tiles.begin(), tiles.end(), [](auto *tile) { return tile->isHidden(); }),
+                    tiles.end());
+        return tiles;
+    }
+
+    // The buttons that are shown, from left to right, those that can be pressed with a "+".
     QString buttons() const
     {
         QList<CStretchBitmapButton *> shown;
@@ -91,8 +101,8 @@ public:
     std::unique_ptr<CPictorelDlg> window;
 };
 
-// Answers the modal dialogs that come up while it lives, each by a press on the button with the next of the
-// texts, and keeps what they said.
+// Answers the modal dialogs, but for the settings, that come up while it lives, each by a press on the button
+// with the next of the texts, and keeps what they said.
 class Answers
 {
 public:
@@ -109,7 +119,7 @@ private:
     void answer()
     {
         QWidget *dialog = QApplication::activeModalWidget();
-        if (!dialog || !dialog->isVisible() || m_presses.isEmpty())
+        if (!dialog || !dialog->isVisible() || m_presses.isEmpty() || qobject_cast<Setting *>(dialog))
             return;
         for (auto *button : dialog->findChildren<QPushButton *>()) {
             if (button->text() != m_presses.first() || !button->isVisible())
