@@ -192,7 +192,7 @@ void TestWindowManagement::hiddenWindowIsNotMapped()
 
 void TestWindowManagement::findsProcesses()
 {
-    std::string own = "test_windowmanagement";
+    std::string own = "tst_windowmanagement";
     std::string nobody = "no-such-process-anywhere";
     QVERIFY(CWindowManagement::isRunning(own));
     QVERIFY(!CWindowManagement::isRunning(nobody));
@@ -271,4 +271,4 @@ void TestWindowManagement::boxes()
 }
 
 QTEST_MAIN(TestWindowManagement)
-#include "test_windowmanagement.moc"
+#include "tst_windowmanagement.moc"

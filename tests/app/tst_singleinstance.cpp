@@ -31,7 +31,7 @@ class Starter : public QProcess
 public:
     explicit Starter(int timeoutMs = 5000)
     {
-        start(QCoreApplication::applicationDirPath() + "/single_instance_starter",
+        start(QCoreApplication::applicationDirPath() + "/instancestarter",
               {QString::number(timeoutMs)});
     }
     ~Starter() override
@@ -155,4 +155,4 @@ void TestSingleInstance::endsCleanlyOnSignals()
 }
 
 QTEST_GUILESS_MAIN(TestSingleInstance)
-#include "test_singleinstance.moc"
+#include "tst_singleinstance.moc"

@@ -279,4 +279,4 @@ void TestWorkingSet::copyNeverReplaces()
 }
 
 QTEST_GUILESS_MAIN(TestWorkingSet)
-#include "test_workingset.moc"
+#include "tst_workingset.moc"

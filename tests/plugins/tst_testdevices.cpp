@@ -362,4 +362,4 @@ void TestDevicesTest::damagedFrames()
 }
 
 QTEST_GUILESS_MAIN(TestDevicesTest)
-#include "testdevicestest.moc"
+#include "tst_testdevices.moc"

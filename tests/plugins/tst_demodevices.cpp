@@ -129,4 +129,4 @@ void DemoDevicesTest::microphoneIsHeard()
 }
 
 QTEST_GUILESS_MAIN(DemoDevicesTest)
-#include "demodevicestest.moc"
+#include "tst_demodevices.moc"

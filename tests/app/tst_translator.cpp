@@ -94,4 +94,4 @@ void TestTranslator::layoutDirection()
 }
 
 QTEST_MAIN(TestTranslator)
-#include "test_translator.moc"
+#include "tst_translator.moc"

@@ -201,4 +201,4 @@ void TestPaths::launching()
 }
 
 QTEST_GUILESS_MAIN(TestPaths)
-#include "test_paths.moc"
+#include "tst_paths.moc"
