@@ -5,12 +5,13 @@
 namespace
 {
 
-// One on the screen, one just rendered, one that the window still paints from.
-constexpr size_t mostBuffers = 4;
+// The latest picture, the one before that the window may still paint from, and the one that is being made.
+constexpr size_t mostBuffers = 3;
 
+// Read as the matrix itself changes it, since the window lets go of a picture in another thread.
 bool isHeldElsewhere(const cv::Mat &buffer)
 {
-    return buffer.u && buffer.u->refcount > 1;
+    return buffer.u && CV_XADD(&buffer.u->refcount, 0) > 1;
 }
 
 BufferHandle wrap(cv::Mat &pixels)

@@ -19,13 +19,17 @@ bool isWhole(const CapturedFrame &frame)
     return whole;
 }
 
+// The first whole frame from now on. Of a camera that gives none in that time the last is better than
+// nothing.
 FramePtr nextWholeFrame(const NewestFrame &frames, std::chrono::steady_clock::time_point limit)
 {
-    FramePtr frame = frames.get();
-    if (!frame)
-        frame = frames.waitForOther(nullptr, limit);
-    while (frame && !isWhole(*frame))
-        frame = frames.waitForOther(frame, limit);
+    FramePtr frame = frames.waitForOther(nullptr, limit);
+    while (frame && !isWhole(*frame)) {
+        FramePtr next = frames.waitForOther(frame, limit);
+        if (!next)
+            return frame;
+        frame = std::move(next);
+    }
     return frame;
 }
 
