@@ -50,7 +50,6 @@ void CPictorelDlg::setThisPropaty()
     QPalette colours = palette();
     colours.setColor(QPalette::Window, Qt::black);
     colours.setColor(QPalette::WindowText, Qt::white);
-    colours.setColor(QPalette::ButtonText, Qt::white); // captions are texts of the window, too
     setPalette(colours);
 }
 
