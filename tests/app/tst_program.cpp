@@ -144,7 +144,7 @@ void TestProgram::playsALesson()
 
     // One of them large, pasted alone, and back.
     const int cell = 933 / 3;
-    Program::click(QPoint((1024 - 933) / 2 + cell * 2 - 30, 350 + 700 / 2 - 30));
+    Program::click(QPoint((1024 - 933) / 2 + cell * 2 - 30, 350 + 700 / 3 / 2 - 30));
     QTest::qWait(1100);
     Program::click(Program::row(1));
     QTRY_COMPARE(requests().size(), 3);
