@@ -5,10 +5,12 @@
 #include <QDir>
 #include <QLocalServer>
 #include <QLocalSocket>
+#include <QLockFile>
 #include <QStandardPaths>
 #include <QThread>
 
 #include <unistd.h>
+#include <utility>
 
 namespace
 {
@@ -18,15 +20,6 @@ constexpr qint64 kMaximumMessageBytes = 65536;       // above any message: no se
 constexpr char kTaken = '+';                         // the answer to a message
 constexpr unsigned long kRetryMs = 20; // between two looks for an instance that is just starting
 
-// A place that only this user can write to, if there is one; the name tells the users apart anyway.
-QString pathFor(const QString &appId)
-{
-    QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-    if (folder.isEmpty())
-        folder = QDir::tempPath();
-    return folder + "/" + appId + "-" + QString::number(geteuid());
-}
-
 int remaining(const QDeadlineTimer &deadline)
 {
     return static_cast<int>(deadline.remainingTime());
@@ -34,28 +27,51 @@ int remaining(const QDeadlineTimer &deadline)
 
 } // namespace
 
+// The runtime folder is one that only this user can write to; the name tells the users apart anyway.
 QtSingleApplication::QtSingleApplication(const QString &appId, int &argc, char **argv)
-    : QApplication(argc, argv), m_path(pathFor(appId)), m_lock(m_path + ".lock")
+    : QApplication(argc, argv), m_name(appId + "-" + QString::number(geteuid())), m_fallback(QDir::tempPath())
 {
-    // However long a lesson lasts: only a holder that has ended leaves a lock to be taken over.
-    m_lock.setStaleLockTime(0);
+    const QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    useFolder(runtime.isEmpty() ? std::exchange(m_fallback, QString()) : runtime);
     becomeInstance();
 }
 
 QtSingleApplication::~QtSingleApplication() = default;
 
-// With the lock in hand, a socket that is there is the leftover of an instance that was killed.
+void QtSingleApplication::useFolder(const QString &folder)
+{
+    m_path = folder + "/" + m_name;
+    m_lock = std::make_unique<QLockFile>(m_path + ".lock");
+    // However long a lesson lasts: only a holder that has ended leaves a lock to be taken over.
+    m_lock->setStaleLockTime(0);
+}
+
+// Every instance comes to the same folder, as what is wrong with the first is so for all of them.
 bool QtSingleApplication::becomeInstance()
 {
     if (m_server)
         return true;
-    if (!m_lock.tryLock())
+    const bool isLocked = m_lock->tryLock();
+    if (!isLocked && m_lock->error() == QLockFile::LockFailedError)
         return false;
-    m_server = std::make_unique<QLocalServer>();
-    m_server->setSocketOptions(QLocalServer::UserAccessOption);
-    connect(m_server.get(), &QLocalServer::newConnection, this, &QtSingleApplication::acceptSender);
+    if (isLocked && listen())
+        return true;
+    if (m_fallback.isNull())
+        return true;
+    useFolder(std::exchange(m_fallback, QString()));
+    return becomeInstance();
+}
+
+// With the lock in hand, a socket that is there is the leftover of an instance that was killed.
+bool QtSingleApplication::listen()
+{
+    auto server = std::make_unique<QLocalServer>();
+    server->setSocketOptions(QLocalServer::UserAccessOption);
     QLocalServer::removeServer(m_path + ".socket");
-    m_server->listen(m_path + ".socket");
+    if (!server->listen(m_path + ".socket"))
+        return false;
+    connect(server.get(), &QLocalServer::newConnection, this, &QtSingleApplication::acceptSender);
+    m_server = std::move(server);
     return true;
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QApplication>
-#include <QLockFile>
 #include <QString>
 
 #include <memory>
@@ -9,9 +8,12 @@
 class QDeadlineTimer;
 class QLocalServer;
 class QLocalSocket;
+class QLockFile;
 
 // An application of which each user runs one instance. Whoever gets the user's lock is the instance, and
-// listens from then on; everybody else can send it messages. GUI thread only.
+// listens from then on; everybody else can send it messages. Both stand in the user's runtime folder, or in
+// the system's temporary folder where the first cannot be written to or its path is too long for a socket.
+// Where neither will do, the instance runs all the same, but no other finds it. GUI thread only.
 class QtSingleApplication : public QApplication
 {
     Q_OBJECT
@@ -33,11 +35,15 @@ signals:
 
 private:
     bool becomeInstance();
+    void useFolder(const QString &folder);
+    bool listen();
     void acceptSender();
     void takeMessage(QLocalSocket *sender);
     bool deliver(const QString &message, const QDeadlineTimer &deadline) const;
 
-    QString m_path; // without the endings of the lock's and the socket's names
-    QLockFile m_lock;
+    QString m_name;     // of the lock and the socket, without their endings
+    QString m_fallback; // the second folder; null once it is in use
+    QString m_path;     // folder and name
+    std::unique_ptr<QLockFile> m_lock;
     std::unique_ptr<QLocalServer> m_server; // while this process is the instance; gone before the lock is
 };

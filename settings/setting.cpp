@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QShowEvent>
 
 Setting::Setting(QWidget *parent) : QDialog(parent), m_ui(std::make_unique<Ui_Setting>())
 {
@@ -63,6 +64,10 @@ void Setting::connectWidgets()
 
 void Setting::showEvent(QShowEvent *event)
 {
+    if (event->spontaneous()) { // back from its icon: what was entered stays
+        QDialog::showEvent(event);
+        return;
+    }
     readFile();
     setParam();
     QDialog::showEvent(event);

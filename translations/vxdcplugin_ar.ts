@@ -141,10 +141,6 @@ Capture</source>
         <translation>غير مدعوم</translation>
     </message>
     <message>
-        <source>Cannot find Video Devices.</source>
-        <translation>تعذّر العثور على جهاز فيديو.</translation>
-    </message>
-    <message>
         <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
         <translation>جهاز الفيديو وجهاز الصوت غير صالحين. يُرجى التأكد من توصيلهما بشكل صحيح. </translation>
     </message>
@@ -353,9 +349,19 @@ Capture</source>
         <translation>Zoom</translation>
     </message>
     <message>
+        <source>Zoom</source>
+        <comment>spoken</comment>
+        <translation>تكبير</translation>
+    </message>
+    <message>
         <source>Back</source>
         <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
         <translation>Back</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <comment>spoken</comment>
+        <translation>رجوع</translation>
     </message>
 </context>
 <context>

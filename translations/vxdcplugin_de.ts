@@ -141,10 +141,6 @@ aufnahme</translation>
         <translation>Nicht unterstützt</translation>
     </message>
     <message>
-        <source>Cannot find Video Devices.</source>
-        <translation>Keine Kamera gefunden.</translation>
-    </message>
-    <message>
         <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
         <translation>Kamera und Mikrofon sind nicht verfügbar. Bitte prüfen Sie, ob sie richtig angeschlossen sind. </translation>
     </message>
@@ -353,9 +349,19 @@ aufnahme</translation>
         <translation>Zoom</translation>
     </message>
     <message>
+        <source>Zoom</source>
+        <comment>spoken</comment>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
         <source>Back</source>
         <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
         <translation>Back</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <comment>spoken</comment>
+        <translation>Zurück</translation>
     </message>
 </context>
 <context>

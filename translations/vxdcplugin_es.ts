@@ -141,10 +141,6 @@ continua</translation>
         <translation>No compatible</translation>
     </message>
     <message>
-        <source>Cannot find Video Devices.</source>
-        <translation>No se encuentra ninguna cámara.</translation>
-    </message>
-    <message>
         <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
         <translation>La cámara y el micrófono no están disponibles. Compruebe que están bien conectados. </translation>
     </message>
@@ -353,9 +349,19 @@ continua</translation>
         <translation>Zoom</translation>
     </message>
     <message>
+        <source>Zoom</source>
+        <comment>spoken</comment>
+        <translation>Ampliar</translation>
+    </message>
+    <message>
         <source>Back</source>
         <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
         <translation>Back</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <comment>spoken</comment>
+        <translation>Volver</translation>
     </message>
 </context>
 <context>

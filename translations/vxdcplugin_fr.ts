@@ -141,10 +141,6 @@ en rafale</translation>
         <translation>Non pris en charge</translation>
     </message>
     <message>
-        <source>Cannot find Video Devices.</source>
-        <translation>Aucune caméra trouvée.</translation>
-    </message>
-    <message>
         <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
         <translation>La caméra et le microphone ne sont pas disponibles. Vérifiez qu’ils sont correctement branchés. </translation>
     </message>
@@ -353,9 +349,19 @@ en rafale</translation>
         <translation>Zoom</translation>
     </message>
     <message>
+        <source>Zoom</source>
+        <comment>spoken</comment>
+        <translation>Agrandir</translation>
+    </message>
+    <message>
         <source>Back</source>
         <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
         <translation>Back</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <comment>spoken</comment>
+        <translation>Retour</translation>
     </message>
 </context>
 <context>

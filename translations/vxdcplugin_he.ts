@@ -141,10 +141,6 @@ Capture</source>
         <translation>לא נתמך</translation>
     </message>
     <message>
-        <source>Cannot find Video Devices.</source>
-        <translation>לא נמצא התקן וידאו.</translation>
-    </message>
-    <message>
         <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
         <translation>התקן הווידאו והתקן השמע אינם תקינים. ודאו שההתקנים מחוברים כראוי. </translation>
     </message>
@@ -353,9 +349,19 @@ Capture</source>
         <translation>Zoom</translation>
     </message>
     <message>
+        <source>Zoom</source>
+        <comment>spoken</comment>
+        <translation>הגדלה</translation>
+    </message>
+    <message>
         <source>Back</source>
         <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
         <translation>Back</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <comment>spoken</comment>
+        <translation>חזרה</translation>
     </message>
 </context>
 <context>

@@ -141,10 +141,6 @@ Capture</source>
         <translation>サポートされていません</translation>
     </message>
     <message>
-        <source>Cannot find Video Devices.</source>
-        <translation>カメラが見つかりません。</translation>
-    </message>
-    <message>
         <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
         <translation>カメラとマイクを使用できません。正しく接続されているか確認してください。 </translation>
     </message>
@@ -353,9 +349,19 @@ Capture</source>
         <translation>Zoom</translation>
     </message>
     <message>
+        <source>Zoom</source>
+        <comment>spoken</comment>
+        <translation>拡大</translation>
+    </message>
+    <message>
         <source>Back</source>
         <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
         <translation>Back</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <comment>spoken</comment>
+        <translation>戻る</translation>
     </message>
 </context>
 <context>

@@ -141,10 +141,6 @@ opptak</translation>
         <translation>Støttes ikke</translation>
     </message>
     <message>
-        <source>Cannot find Video Devices.</source>
-        <translation>Finner ikke noe kamera.</translation>
-    </message>
-    <message>
         <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
         <translation>Kameraet og mikrofonen er ikke tilgjengelige. Kontroller at de er riktig tilkoblet. </translation>
     </message>
@@ -353,9 +349,19 @@ opptak</translation>
         <translation>Zoom</translation>
     </message>
     <message>
+        <source>Zoom</source>
+        <comment>spoken</comment>
+        <translation>Forstørr</translation>
+    </message>
+    <message>
         <source>Back</source>
         <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
         <translation>Back</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <comment>spoken</comment>
+        <translation>Tilbake</translation>
     </message>
 </context>
 <context>

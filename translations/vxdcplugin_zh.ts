@@ -141,10 +141,6 @@ Capture</source>
         <translation>不支持</translation>
     </message>
     <message>
-        <source>Cannot find Video Devices.</source>
-        <translation>找不到视频设备。</translation>
-    </message>
-    <message>
         <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
         <translation>视频设备和音频设备无效。请确认设备是否正确连接。 </translation>
     </message>
@@ -353,9 +349,19 @@ Capture</source>
         <translation>Zoom</translation>
     </message>
     <message>
+        <source>Zoom</source>
+        <comment>spoken</comment>
+        <translation>放大</translation>
+    </message>
+    <message>
         <source>Back</source>
         <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
         <translation>Back</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <comment>spoken</comment>
+        <translation>返回</translation>
     </message>
 </context>
 <context>

@@ -70,18 +70,9 @@ bool copyContents(int from, int to)
     return copyByBlocks(from, to);
 }
 
-// Some file systems cannot sync a folder; nothing better can be done there.
-void syncFolderOf(const QString &path)
-{
-    const Descriptor folder(
-        open(QFile::encodeName(QFileInfo(path).absolutePath()), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (folder >= 0)
-        fsync(folder);
-}
-
 enum class Copy {
     Plain,
-    // Keeps the time, and is on the disk before its name is: what is removed next is the only other copy.
+    // Keeps the time, and is on the disk before its name is: what has a name there counts as saved.
     Lasting
 };
 
@@ -99,10 +90,7 @@ bool copyFile(const QString &source, const QString &target, Copy kind)
         return file.publish();
     const timespec times[] = {status.st_atim, status.st_mtim};
     futimens(file.descriptor(), times); // a file system that keeps no times keeps the capture all the same
-    if (fdatasync(file.descriptor()) != 0 || !file.publish())
-        return false;
-    syncFolderOf(target);
-    return true;
+    return fdatasync(file.descriptor()) == 0 && file.publish();
 }
 
 } // namespace
@@ -122,4 +110,11 @@ bool placeFileWhole(const QString &source, const QString &target)
     if (errno == EEXIST)
         return false;
     return copyFile(source, target, Copy::Lasting);
+}
+
+bool syncFolder(const QString &path)
+{
+    const Descriptor folder(open(QFile::encodeName(path), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    // Some file systems cannot sync a folder; nothing better can be done there.
+    return folder >= 0 && (fsync(folder) == 0 || errno == EINVAL);
 }

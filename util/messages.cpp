@@ -3,12 +3,15 @@
 
 #include <QGuiApplication>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QScreen>
 
 static const Qt::WindowFlags kBoxFlags = Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint;
 
 static void showCentred(QMessageBox &box, QWidget *parent)
 {
+    // Qt knows fewer languages than the program does.
+    box.button(QMessageBox::Ok)->setText(WebcamUtil::tr("OK"));
     WebcamUtil::moveToCenter(&box, parent);
     box.exec();
 }

@@ -1,8 +1,13 @@
 #include "util/filemove.h"
 #include "util/webcamutil.h"
 
+#include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
+#include <QThread>
+
+#include <functional>
+#include <memory>
 
 namespace
 {
@@ -57,6 +62,36 @@ bool removeAll(const QStringList &names, const QString &folder)
     return true;
 }
 
+// The captures' units, one after the other from the newest on, up to the first that fails. Nothing is removed
+// before its name in the save folder is safe, for which one wait is enough for all.
+bool moveAll(QStringList captures, const QString &working, const QString &save)
+{
+    QStringList placed;
+    bool isComplete = true;
+    while (isComplete && !captures.isEmpty()) {
+        const QString newest = captures.takeLast();
+        const QStringList unit = withPartner(newest, captures);
+        isComplete = placeTogether(unit, working, save);
+        if (isComplete)
+            placed += unit;
+    }
+    return syncFolder(save) && removeAll(placed, working) && isComplete;
+}
+
+// Does the work on a thread of its own. The windows go on painting, and what the user presses meanwhile comes
+// afterwards.
+bool doAside(const std::function<bool()> &work)
+{
+    bool result = false;
+    const std::unique_ptr<QThread> worker(QThread::create([&] { result = work(); }));
+    QEventLoop loop;
+    QObject::connect(worker.get(), &QThread::finished, &loop, &QEventLoop::quit);
+    worker->start();
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+    worker->wait(); // the loop ends with the application, too
+    return result;
+}
+
 } // namespace
 
 bool WebcamUtil::saveData(const QString &dir)
@@ -68,14 +103,6 @@ bool WebcamUtil::saveData(const QString &dir)
     const QString save = CreateSavePath(dir);
     if (save.isEmpty())
         return false;
-    QStringList captures = getFileList({"photo*", "movie*"});
-    if (captures.isEmpty())
-        return false;
-    while (!captures.isEmpty()) {
-        const QString newest = captures.takeLast();
-        const QStringList unit = withPartner(newest, captures);
-        if (!placeTogether(unit, working, save) || !removeAll(unit, working))
-            return false;
-    }
-    return true;
+    const QStringList captures = getFileList({"photo*", "movie*"});
+    return !captures.isEmpty() && doAside([&] { return moveAll(captures, working, save); });
 }

@@ -89,7 +89,7 @@ public:
     // preview together or not at all. A file that is there already under the same name is kept and the
     // working copy removed. False when nothing was there to move, or at the first failure: what was moved
     // until then stays moved, the rest stays in the working folder, and nothing half written is left
-    // anywhere.
+    // anywhere. Returns when all is done; the windows are painted meanwhile, but take no input.
     static bool saveData(const QString &dir);
 
     // --- Messages ---

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <sys/stat.h>
 #include <tuple>
+#include <vector>
 
 namespace
 {

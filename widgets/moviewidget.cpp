@@ -1,6 +1,7 @@
 #include "widgets/moviewidget.h"
 
 #include <QLabel>
+#include <QShowEvent>
 #include <QTimer>
 #include <QUrl>
 
@@ -20,8 +21,8 @@ MovieWidget::MovieWidget(QWidget *parent) : Phonon::VideoPlayer(parent)
     colours.setColor(QPalette::WindowText, Qt::green);
     setPalette(colours);
 
-    // Phonon measures the window for the picture before it knows the movie's size, and a square is what it takes
-    // then. Given the whole widget, the sink keeps the movie's proportions itself.
+    // Phonon measures the window for the picture before it knows the movie's size, and a square is what it
+    // takes then. Given the whole widget, the sink keeps the movie's proportions itself.
     videoWidget()->setAspectRatio(Phonon::VideoWidget::AspectRatioWidget);
 
     auto *caption = new QLabel(tr("Movie"), this);
@@ -70,6 +71,8 @@ void MovieWidget::disp()
 void MovieWidget::showEvent(QShowEvent *event)
 {
     Phonon::VideoPlayer::showEvent(event);
+    if (event->spontaneous()) // the window comes back from its icon: what plays goes on
+        return;
     play();
     QTimer::singleShot(kFirstPictureMilliseconds, this, &MovieWidget::disp);
 }

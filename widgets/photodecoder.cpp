@@ -44,6 +44,11 @@ struct Head {
 
     qint64 rowBytes() const { return 1 + width * kBytesPerPixel; } // the filter's number comes first
     qint64 pixels() const { return width * height; }
+    // What the rows take where nothing could be compressed. More is no photo of ours, and is not read.
+    qint64 mostPackedBytes() const
+    {
+        return qint64(libdeflate_zlib_compress_bound(nullptr, size_t(rowBytes() * height)));
+    }
 };
 
 quint32 numberAt(const QByteArray &bytes, int position)
@@ -111,7 +116,7 @@ QImage decodePhoto(const QString &path, qint64 pixelBudget)
     Head head;
     if (!file.open(QIODevice::ReadOnly) || !parseHead(file.read(kHeadBytes), head))
         return {};
-    if (head.pixels() > pixelBudget || head.packedBytes > file.size())
+    if (head.pixels() > pixelBudget || head.packedBytes > head.mostPackedBytes())
         return {};
     const QByteArray packed = file.read(head.packedBytes);
     if (packed.size() != head.packedBytes ||

@@ -47,8 +47,9 @@ void PictureWidget::createButtons()
         m_zoom = new CStretchBitmapButton(tr("Zoom"), this);
     if (!m_back)
         m_back = new CStretchBitmapButton(tr("Back"), this);
-    m_zoom->setAccessibleName(tr("Zoom"));
-    m_back->setAccessibleName(tr("Back"));
+    // The words above name bitmaps and stay English in every language; these are read aloud.
+    m_zoom->setAccessibleName(tr("Zoom", "spoken"));
+    m_back->setAccessibleName(tr("Back", "spoken"));
 }
 
 // Both buttons take the place of the zoom button, so that pressing twice at one place zooms and goes back.
