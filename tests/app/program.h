@@ -34,8 +34,11 @@ public:
     }
     QProcess &process() { return m_process; }
 
-    // The program's windows that can be seen, its dialogs among them.
-    static int windows() { return xdotool({"search", "--onlyvisible", "--name", "^Orvane$"}).count('\n'); }
+    // The program's windows that can be seen, its dialogs among them; by the beginning of their title.
+    static int windows(const QString &title = "Orvane")
+    {
+        return xdotool({"search", "--onlyvisible", "--name", '^' + title}).count('\n');
+    }
     static QByteArray xdotool(const QStringList &arguments)
     {
         QProcess tool;

@@ -26,6 +26,7 @@ private:
     static void takePhoto();
     static void waitForNewSecond();
     static void recordMovie();
+    static void loadEarlierDay(const QStringList &photos);
     static QStringList readRequest(const QString &file);
     static QMap<QString, QByteArray> checksums(const QDir &folder);
     static QStringList requests()
@@ -88,6 +89,26 @@ void TestProgram::recordMovie()
     QTRY_VERIFY(QFileInfo(movie).size() > 4100000);
     Program::click(Program::liveRow(3));
     QTRY_COMPARE(Program::buttonsShown(), 3);
+}
+
+// Two photos of another day come in beside the lesson's own.
+void TestProgram::loadEarlierDay(const QStringList &photos)
+{
+    const QTemporaryDir earlier;
+    for (const QString &name : photos.mid(0, 2))
+        QFile::copy(Program::workingFolder().filePath(name),
+                    QDir(earlier.path()).filePath("photo1" + name.mid(5)));
+    Program::click(Program::row(2));
+    QTRY_COMPARE(Program::buttonsShown(), 4);
+    const int windows = Program::windows("");
+    Program::click(Program::row(2));
+    QTRY_VERIFY(Program::windows("Load Directory") == 1);
+    Program::type(earlier.path());
+    Program::press("Return");
+    QTRY_COMPARE(Program::captures({"photo*"}).size(), photos.size() + 2);
+    // The wait dialog stays until it was read.
+    QTRY_COMPARE(Program::windows(), 2);
+    QTRY_VERIFY_WITH_TIMEOUT((Program::press("Return"), Program::windows("") <= windows), 5000);
 }
 
 QStringList TestProgram::readRequest(const QString &file)
@@ -162,8 +183,12 @@ void TestProgram::playsALesson()
     QTRY_COMPARE(requests().size(), 3);
     QCOMPARE(readRequest(requests().last()), expected + photos.mid(first + 1, 1));
 
+    Program::click(QPoint((1024 + 933) / 2 - 30, 700 - 30));
+    QTRY_VERIFY(Program::brightness(QPoint(100, 50)) < 10);
+    loadEarlierDay(photos);
+
     const QMap<QString, QByteArray> taken = checksums(Program::workingFolder());
-    QCOMPARE(taken.size(), 10);
+    QCOMPARE(taken.size(), 12);
     Program::click(Program::exitButton());
     QTRY_COMPARE(Program::windows(), 2);
     Program::press("Return");
