@@ -72,12 +72,33 @@ void settle()
     QProcess::execute("sync", {});
 }
 
-double shell(const QString &command)
+// Seconds that a command takes to copy files into the folder, which is empty before and after.
+double timeOfCopy(const QString &command, const QString &folder)
 {
+    emptyFolder(folder);
+    settle();
     int status = 0;
     const double seconds = secondsOf([&] { status = QProcess::execute("sh", {"-c", command}); });
     if (status != 0)
         qFatal("%s fails", qPrintable(command));
+    emptyFolder(folder);
+    settle();
+    return seconds;
+}
+
+double timeOfLoading(const QString &from, const QString &to)
+{
+    emptyFolder(to);
+    settle();
+    FolderCopy copy(QDir(from).entryList(QDir::Files), from, to);
+    const double seconds = secondsOf([&copy] {
+        copy.start();
+        copy.wait();
+    });
+    if (!copy.isComplete())
+        qFatal("the captures were not loaded");
+    emptyFolder(to);
+    settle();
     return seconds;
 }
 
@@ -104,14 +125,9 @@ void compareSaving(const Captures &captures, const QString &from, const QString 
         emptyFolder(ours);
         captures.make(working);
 
-        emptyFolder(peers);
-        settle();
-        const double cp = shell("cp -p '" + working + "'/* '" + peers + "'");
-        emptyFolder(peers);
-        settle();
-        const double cpAndSync = shell("cp -p '" + working + "'/* '" + peers + "' && sync '" + peers + "'/*");
-        emptyFolder(peers);
-        settle();
+        const QString copy = "cp -p '" + working + "'/* '" + peers + "'";
+        const double cp = timeOfCopy(copy, peers);
+        const double cpAndSync = timeOfCopy(copy + " && sync '" + peers + "'/*", peers);
         bool isSaved = false;
         const double saving = secondsOf([&] { isSaved = WebcamUtil::saveData(ours); });
         if (!isSaved || !QDir(working).isEmpty())
@@ -130,23 +146,13 @@ void compareLoading(const Captures &captures, const QString &from, const QString
     const QString peers = to + "/peers";
     emptyFolder(source);
     captures.make(source);
-    const QStringList names = QDir(source).entryList(QDir::Files);
+    const QString copy = "cp '" + source + "'/* '" + peers + "'";
     Comparison loading({QString("loading %1, %2, against cp").arg(captures.name, where), "ms", 1.1});
+    // Reads the source and touches the target for the first time, as every later round finds them.
+    timeOfCopy(copy, peers);
     for (int round = 0; round < kRounds; ++round) {
-        emptyFolder(working);
-        emptyFolder(peers);
-        settle();
-        const double cp = shell("cp '" + source + "'/* '" + peers + "'");
-        emptyFolder(peers);
-        settle();
-        FolderCopy copy(names, source, working);
-        const double ours = secondsOf([&copy] {
-            copy.start();
-            copy.wait();
-        });
-        if (!copy.isComplete())
-            qFatal("the captures were not loaded");
-        loading.add(ours * 1000, cp * 1000);
+        const double ours = timeOfLoading(source, working);
+        loading.add(ours * 1000, timeOfCopy(copy, peers) * 1000);
     }
     emptyFolder(source);
     emptyFolder(working);

@@ -12,13 +12,12 @@ class TestTranslator : public QObject
 {
     Q_OBJECT
 
-    // Writes as the whiteboard software does; an invalid value takes the key away.
+    // As the whiteboard software does; null takes the key away.
     static void setBoardLocale(const QVariant &locale)
     {
         QSettings settings("Quenmark", "Veltrix Software");
-        if (locale.isValid())
-            settings.setValue("locale", locale);
-        else
+        settings.setValue("locale", locale);
+        if (locale.isNull())
             settings.remove("locale");
     }
 
@@ -26,8 +25,7 @@ private slots:
     void cleanup() { setBoardLocale(QVariant()); }
     void localeForFiles_data();
     void localeForFiles();
-    void instanceOperations();
-    void layoutDirection();
+    void textsAndDirection();
 };
 
 void TestTranslator::localeForFiles_data()
@@ -35,24 +33,16 @@ void TestTranslator::localeForFiles_data()
     QTest::addColumn<QVariant>("board");
     QTest::addColumn<QString>("files");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("nothing set") << QVariant() << "en ja"
-                                 << "en";
-    QTest::newRow("empty") << QVariant("") << "en"
-                           << "en";
-    QTest::newRow("whole") << QVariant("ja_JP") << "ja ja_JP"
-                           << "ja_JP";
-    QTest::newRow("cut") << QVariant("ja_JP") << "ja"
-                         << "ja";
-    QTest::newRow("plain cut") << QVariant("zh_TW") << "zh zh_CN"
-                               << "zh";
-    QTest::newRow("Norwegian, no file at all") << QVariant("nb_NO") << ""
-                                               << "no";
-    QTest::newRow("Norwegian with a file") << QVariant("nb_NO") << "nb no"
-                                           << "nb";
-    QTest::newRow("no file") << QVariant("de") << "en"
-                             << "en";
-    QTest::newRow("right to left") << QVariant("he") << "he"
-                                   << "he";
+    const auto row = [](const char *name, const QVariant &board, const char *files, const char *expected) {
+        QTest::newRow(name) << board << files << expected;
+    };
+    row("nothing set", QVariant(), "en ja", "en");
+    row("empty", "", "en", "en");
+    row("whole", "ja_JP", "ja ja_JP", "ja_JP");
+    row("plain cut", "zh_TW", "zh zh_CN", "zh");
+    row("Norwegian, no file at all", "nb_NO", "", "no");
+    row("Norwegian with a file", "nb_NO", "nb no", "nb");
+    row("no file", "de", "en", "en");
 }
 
 void TestTranslator::localeForFiles()
@@ -60,37 +50,45 @@ void TestTranslator::localeForFiles()
     QFETCH(QVariant, board);
     QFETCH(QString, files);
     QTemporaryDir dir;
-    const QStringList locales = files.split(' ', Qt::SkipEmptyParts);
-    for (const QString &locale : locales)
+    for (const QString &locale : files.split(' '))
         QVERIFY(QFile(dir.filePath("vxdcplugin_" + locale + ".qm")).open(QIODevice::WriteOnly));
     setBoardLocale(board);
     QTEST(CTranslator::getLocale(dir.path(), "vxdcplugin_"), "expected");
 }
 
-void TestTranslator::instanceOperations()
+void TestTranslator::textsAndDirection()
 {
     CTranslator translator("vxdcplugin");
     QCOMPARE(translator.getLocale(), QString("en"));
-    setBoardLocale("pt_BR");
-    QCOMPARE(translator.getLocale(), QString("pt_BR"));
-    QCOMPARE(translator.getFilenameFromLocaleString("_ja"), QString("vxdcplugin_ja.qm"));
-    QCOMPARE(translator.getLocaleStringFromFilename("vxdcplugin_zh_TW.qm"), QString("zh_TW"));
-    QCOMPARE(translator.getTranslationsDirPath(), QCoreApplication::applicationDirPath());
     QVERIFY(!translator.loadTranslations());
-}
+    const QString beside = QCoreApplication::applicationDirPath() + "/vxdcplugin_";
+    QStringList copies;
+    const auto remove = qScopeGuard([&copies] {
+        for (const QString &copy : qAsConst(copies))
+            QFile::remove(copy);
+    });
+    for (const QString locale : {"de", "ar"}) {
+        copies << beside + locale + ".qm";
+        QVERIFY(QFile::copy(CATALOGUE_FOLDER "/vxdcplugin_" + locale + ".qm", copies.last()));
+    }
+    setBoardLocale("de_CH");
+    QVERIFY(translator.loadTranslations());
+    QCOMPARE(translator.translate("SaveConfirmDlg", "Yes"), QString("Ja"));
 
-void TestTranslator::layoutDirection()
-{
-    const QString file = QCoreApplication::applicationDirPath() + "/vxdcplugin_ar.qm";
-    QVERIFY(QFile(file).open(QIODevice::WriteOnly));
-    const auto remove = qScopeGuard([&file] { QFile::remove(file); });
-    translate();
-    QCoreApplication::processEvents();
-    QCOMPARE(QApplication::layoutDirection(), Qt::LeftToRight);
-    setBoardLocale("ar_EG");
-    translate();
-    QCoreApplication::processEvents();
-    QCOMPARE(QApplication::layoutDirection(), Qt::RightToLeft);
+    const struct {
+        const char *board;
+        QString yes;
+        QString qtsCancel;
+        Qt::LayoutDirection direction;
+    } table[] = {{"de_CH", "Ja", "Abbrechen", Qt::LeftToRight}, {"ar_EG", "نعم", "ألغِ", Qt::RightToLeft}};
+    for (const auto &row : table) {
+        setBoardLocale(row.board);
+        translate();
+        QCoreApplication::processEvents();
+        QCOMPARE(QCoreApplication::translate("SaveConfirmDlg", "Yes"), row.yes);
+        QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), row.qtsCancel);
+        QCOMPARE(QApplication::layoutDirection(), row.direction);
+    }
 }
 
 QTEST_MAIN(TestTranslator)

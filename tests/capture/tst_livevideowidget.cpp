@@ -1,11 +1,10 @@
 #include "capture/boardgesture.h"
 #include "capture/livevideowidget.h"
+#include "tests/support/modalanswer.h"
 #include "tests/support/testdevices.h"
 #include "util/webcamutil.h"
 
-#include <QAbstractButton>
 #include <QLabel>
-#include <QMessageBox>
 #include <QtTest>
 
 class TestLiveVideoWidget : public QObject
@@ -25,12 +24,10 @@ private slots:
     void zoomsByClearSteps();
 
 private:
-    void answerNextBox();
     QStringList workingFiles() const { return QDir(WebcamUtil::getTemporaryPath()).entryList(QDir::Files); }
 
     std::unique_ptr<TestDevices> m_devices;
     std::unique_ptr<LiveVideoWidget> m_view;
-    QString m_boxText;
 };
 
 void TestLiveVideoWidget::init()
@@ -49,22 +46,6 @@ void TestLiveVideoWidget::cleanup()
     m_view.reset();
     m_devices.reset();
     WebcamUtil::deleteData();
-}
-
-// Keeps the text of the message box that comes up, and presses its button.
-void TestLiveVideoWidget::answerNextBox()
-{
-    m_boxText.clear();
-    auto *timer = new QTimer(this);
-    connect(timer, &QTimer::timeout, this, [this, timer] {
-        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        if (!box)
-            return;
-        m_boxText = box->text();
-        timer->deleteLater();
-        box->buttons().constFirst()->click();
-    });
-    timer->start(20);
 }
 
 void TestLiveVideoWidget::livesWithoutACamera()
@@ -145,9 +126,9 @@ void TestLiveVideoWidget::warnsOfDevicesThatAreMissing()
         QVERIFY(lost.wait());
     // What is pulled is seen within moments.
     QTest::qWait(200);
-    answerNextBox();
+    const ModalAnswer answer;
     QVERIFY(!m_view->Record());
-    QCOMPARE(m_boxText, text);
+    QCOMPARE(answer.text(), text);
     QCOMPARE(m_view->isVideoValid(), !pulled.contains("cam"));
     QCOMPARE(m_view->isAudioValid(), !pulled.contains("mic"));
     QCOMPARE(workingFiles().filter("movie"), QStringList());

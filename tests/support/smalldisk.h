@@ -25,6 +25,11 @@ public:
     bool isMounted() const { return m_isMounted; }
     QString path(const QString &name) const { return m_folder.filePath(name); }
 
+    bool makeReadOnly() const
+    {
+        return QProcess::execute("mount", {"-o", "remount,ro", m_folder.path()}) == 0;
+    }
+
     // Leaves that many bytes free.
     void fillUpTo(qint64 freeBytes, qint64 freeNow) const
     {

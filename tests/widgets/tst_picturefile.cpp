@@ -6,6 +6,7 @@
 #include <QtEndian>
 #include <QtTest>
 
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 class TestPictureFile : public QObject
@@ -14,7 +15,6 @@ class TestPictureFile : public QObject
 
 private slots:
     void initTestCase() { gst_init(nullptr, nullptr); }
-    void readsWhatTheCameraWrites_data();
     void readsWhatTheCameraWrites();
     void damagedPhotosGiveNothing();
     void otherFilesGiveAPictureOrNothing_data();
@@ -78,23 +78,17 @@ QByteArray TestPictureFile::claiming(quint32 width, quint32 height)
     return png;
 }
 
-void TestPictureFile::readsWhatTheCameraWrites_data()
-{
-    QTest::addColumn<QSize>("size");
-    for (const QSize &size : {QSize(1, 1), QSize(3, 5), QSize(641, 479), QSize(1920, 1080)})
-        QTest::addRow("%dx%d", size.width(), size.height()) << size;
-}
-
 void TestPictureFile::readsWhatTheCameraWrites()
 {
-    QFETCH(QSize, size);
-    const QImage image = gradient(size);
-    const QString path = writePhoto(image);
-    QCOMPARE(decodePhoto(path, 1LL << 30), image); // by the short way
-    QCOMPARE(QImage(path).convertToFormat(QImage::Format_RGB888), image);
-    QVERIFY(decodePhoto(path, size.width() * size.height() - 1).isNull());
-    const QSize box(260, 200);
-    QCOMPARE(readThumbnail(path, box), image.scaled(box, Qt::KeepAspectRatio, Qt::FastTransformation));
+    for (const QSize &size : {QSize(1, 1), QSize(3, 5), QSize(641, 479)}) {
+        const QImage image = gradient(size);
+        const QString path = writePhoto(image);
+        QCOMPARE(decodePhoto(path, 1LL << 30), image); // by the short way
+        QCOMPARE(QImage(path).convertToFormat(QImage::Format_RGB888), image);
+        QVERIFY(decodePhoto(path, size.width() * size.height() - 1).isNull());
+        const QSize box(260, 200);
+        QCOMPARE(readThumbnail(path, box), image.scaled(box, Qt::KeepAspectRatio, Qt::FastTransformation));
+    }
 }
 
 // Cut anywhere, or with any byte of its head changed, a photo is no picture or another one: never a crash.
@@ -123,17 +117,18 @@ void TestPictureFile::otherFilesGiveAPictureOrNothing_data()
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("kind");
     QTest::addColumn<QSize>("size"); // empty: no picture
-    QTest::newRow("jpeg named png") << encoded(gradient({64, 48}), "JPEG") << "" << QSize(64, 48);
-    QTest::newRow("text") << QByteArray("not a picture\n") << "" << QSize();
-    QTest::newRow("empty") << QByteArray() << "" << QSize();
-    QTest::newRow("30000x30000") << encoded(QImage(30000, 30000, QImage::Format_Mono), "PNG") << ""
-                                 << QSize();
-    QTest::newRow("claims 30000x30000") << claiming(30000, 30000) << "" << QSize();
-    QTest::newRow("largest") << claiming(0xffffffff, 0xffffffff) << "" << QSize();
-    QTest::newRow("7000x7000 without data") << claiming(7000, 7000) << "" << QSize();
-    QTest::newRow("folder") << QByteArray() << "folder" << QSize();
-    QTest::newRow("pipe") << QByteArray() << "pipe" << QSize();
-    QTest::newRow("missing") << QByteArray() << "missing" << QSize();
+    const auto row = [](const char *name, const QByteArray &content, const QSize &size = QSize()) {
+        QTest::newRow(name) << content << "file" << size;
+    };
+    row("jpeg named png", encoded(gradient({64, 48}), "JPEG"), {64, 48});
+    row("text", "not a picture\n");
+    row("empty", "");
+    row("30000x30000", encoded(QImage(30000, 30000, QImage::Format_Mono), "PNG"));
+    row("claims 30000x30000", claiming(30000, 30000));
+    row("largest", claiming(0xffffffff, 0xffffffff));
+    row("7000x7000 without data", claiming(7000, 7000));
+    for (const char *kind : {"folder", "pipe", "missing", "2 GB of data"})
+        QTest::newRow(kind) << QByteArray() << kind << QSize();
 }
 
 void TestPictureFile::otherFilesGiveAPictureOrNothing()
@@ -143,16 +138,28 @@ void TestPictureFile::otherFilesGiveAPictureOrNothing()
     QFETCH(QSize, size);
     QTemporaryDir dir;
     const QString path = dir.filePath(QString::fromUtf8("photo \u0635\u0648\u0631\u0629 \U0001F4F7.png"));
+    constexpr int kLength = 2000000000;
+    if (kind == "2 GB of data") {
+        QFile photo(writePhoto(gradient({40, 30})));
+        QVERIFY(photo.open(QIODevice::ReadOnly));
+        content = photo.readAll();
+        qToBigEndian(kLength, content.data() + 33);
+        content.replace(41, 2, "\x01\x01"); // no picture for any reader
+    }
     if (kind == "folder")
         QVERIFY(QDir().mkpath(path));
     else if (kind == "pipe")
         QCOMPARE(mkfifo(path.toUtf8().constData(), 0600), 0);
-    else if (kind.isEmpty())
+    else if (kind != "missing")
         put(path, content);
+    if (kind == "2 GB of data")
+        QVERIFY(QFile::resize(path, kLength + 1000LL));
     const QImage image = readPicture(path);
     QCOMPARE(image.isNull(), size.isEmpty());
     if (!size.isEmpty())
         QCOMPARE(image.size(), size);
+    rusage use = {};
+    QVERIFY(getrusage(RUSAGE_SELF, &use) == 0 && use.ru_maxrss < 1 << 20); // under a gigabyte at any time
 }
 
 QTEST_MAIN(TestPictureFile)

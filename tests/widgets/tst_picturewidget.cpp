@@ -13,16 +13,13 @@ class TestPictureWidget : public QObject
 
 private slots:
     void initTestCase();
-    void centresThePictureOnBlack_data();
     void centresThePictureOnBlack();
     void keepsWhatItPainted();
-    void rememberedNamesAndFolders();
     void listAndZoomMode();
 
 private:
     // Where the picture, all of one colour, is seen.
     static QRect seen(QWidget &widget, const QColor &colour);
-    static CStretchBitmapButton *button(const QWidget &widget, const QString &name);
 
     QTemporaryDir m_dir;
 };
@@ -31,11 +28,10 @@ void TestPictureWidget::initTestCase()
 {
     QImage red(400, 300, QImage::Format_RGB888);
     red.fill(Qt::red);
-    QVERIFY(red.save(m_dir.filePath("photo1.png")));
     QVERIFY(red.save(WebcamUtil::getTemporaryPath() + "/photo1.png"));
-    red.fill(Qt::blue);
-    QVERIFY(QDir(m_dir.path()).mkdir("other"));
-    QVERIFY(red.save(m_dir.filePath("other/photo1.png")));
+    QImage blue(red.size(), red.format());
+    blue.fill(Qt::blue);
+    QVERIFY(blue.save(m_dir.filePath("photo1.png")));
     QVERIFY(QDir(m_dir.path()).mkdir("photo9.png"));
 }
 
@@ -52,33 +48,25 @@ QRect TestPictureWidget::seen(QWidget &widget, const QColor &colour)
     return region.boundingRect();
 }
 
-CStretchBitmapButton *TestPictureWidget::button(const QWidget &widget, const QString &name)
-{
-    for (CStretchBitmapButton *candidate : widget.findChildren<CStretchBitmapButton *>()) {
-        if (candidate->accessibleName() == name)
-            return candidate;
-    }
-    return nullptr;
-}
-
-void TestPictureWidget::centresThePictureOnBlack_data()
-{
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<QRect>("picture");
-    QTest::newRow("wide") << QSize(101, 30) << QRect(30, 0, 40, 30);
-    QTest::newRow("tall") << QSize(40, 51) << QRect(0, 10, 40, 30);
-    QTest::newRow("natural") << QSize(400, 300) << QRect(0, 0, 400, 300);
-}
-
 void TestPictureWidget::centresThePictureOnBlack()
 {
-    QFETCH(QSize, size);
     PictureWidget widget;
     widget.labelVisible(false);
-    widget.resize(size);
-    widget.Loadbmp("photo1.png", m_dir.path());
-    QTEST(seen(widget, Qt::red), "picture");
+    const QPair<QSize, QRect> table[] = {{{101, 30}, {30, 0, 40, 30}}, {{40, 51}, {0, 10, 40, 30}}};
+    for (const auto &row : table) {
+        widget.resize(row.first);
+        widget.Loadbmp("photo1.png", QString()); // of the working folder
+        QCOMPARE(seen(widget, Qt::red), row.second);
+        widget.Loadbmp(QString(), m_dir.path()); // the same name
+        QCOMPARE(seen(widget, Qt::blue), row.second);
+        QCOMPARE(widget.fileName(), QString("photo1.png"));
+    }
+    for (const char *name : {"photo9.png", "gone.png"}) {
+        widget.Loadbmp(name, m_dir.path());
+        QCOMPARE(seen(widget, Qt::black), widget.rect());
+    }
     widget.Release();
+    widget.Loadbmp(QString(), QString());
     QCOMPARE(seen(widget, Qt::black), widget.rect());
 }
 
@@ -110,25 +98,6 @@ void TestPictureWidget::keepsWhatItPainted()
     QCOMPARE(colours(), 256);
 }
 
-void TestPictureWidget::rememberedNamesAndFolders()
-{
-    PictureWidget widget;
-    widget.labelVisible(false);
-    widget.resize(40, 30);
-    widget.Loadbmp("photo1.png", QString());
-    QVERIFY(!seen(widget, Qt::red).isNull());
-    widget.Loadbmp(QString(), m_dir.filePath("other"));
-    QCOMPARE(widget.fileName(), QString("photo1.png"));
-    QVERIFY(!seen(widget, Qt::blue).isNull());
-    for (const char *name : {"photo9.png", "gone.png"}) {
-        widget.Loadbmp(name, m_dir.path());
-        QCOMPARE(seen(widget, Qt::black), widget.rect());
-    }
-    widget.Release();
-    widget.Loadbmp(QString(), QString());
-    QCOMPARE(seen(widget, Qt::black), widget.rect());
-}
-
 void TestPictureWidget::listAndZoomMode()
 {
     PictureWidget widget;
@@ -138,8 +107,9 @@ void TestPictureWidget::listAndZoomMode()
     widget.show();
     widget.setLabelText("7");
     widget.ListMode();
-    CStretchBitmapButton *zoom = button(widget, "Zoom");
-    CStretchBitmapButton *back = button(widget, "Back");
+    auto *zoom = widget.findChildren<CStretchBitmapButton *>().at(0);
+    auto *back = widget.findChildren<CStretchBitmapButton *>().at(1);
+    QVERIFY(zoom->accessibleName() == "Zoom" && back->accessibleName() == "Back");
     QVERIFY(zoom->isVisible() && !back->isVisible() && caption->isVisible());
     QVERIFY(zoom->width() > 0);
     QCOMPARE(zoom->geometry().bottomRight(), QPoint(399, 299));
