@@ -107,7 +107,7 @@ QString workingFolderIn(const QString &place)
 {
     qputenv("TMPDIR", QFile::encodeName(place));
     WebcamUtil::setTemporaryPath();
-    const QString folder = WebcamUtil::getTemporaryPath();
+    QString folder = WebcamUtil::getTemporaryPath();
     if (!folder.startsWith(place))
         qFatal("there is no working folder in %s", qPrintable(place));
     return folder;

@@ -81,7 +81,8 @@ bool ScreenPixels::convertUsual(const GstVideoInfo &info, GstBuffer *picture, co
 ScreenPixels::Planes ScreenPixels::unpack(GstVideoFrame *frame, const QRect &part)
 {
     const auto *packed = static_cast<const uint8_t *>(GST_VIDEO_FRAME_PLANE_DATA(frame, 0)) +
-                         ptrdiff_t(part.y()) * GST_VIDEO_FRAME_PLANE_STRIDE(frame, 0) + part.x() * 2;
+                         ptrdiff_t(part.y()) * GST_VIDEO_FRAME_PLANE_STRIDE(frame, 0) +
+                         ptrdiff_t(part.x()) * 2;
     Planes planes;
     for (int i = 0; i < 3; ++i) {
         m_planes[i].create(part.height(), i == 0 ? part.width() : (part.width() + 1) / 2, CV_8UC1);
