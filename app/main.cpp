@@ -27,7 +27,9 @@ int main(int argc, char **argv)
 
     // Closed from outside, nobody is there to be asked: what was taken waits in the working folder.
     TerminationSignals signalsFromOutside;
-    QObject::connect(&signalsFromOutside, &TerminationSignals::requested, &dialog, [&dialog] {
+    bool isToEnd = false;
+    QObject::connect(&signalsFromOutside, &TerminationSignals::requested, &dialog, [&dialog, &isToEnd] {
+        isToEnd = true;
         dialog.close();
         QCoreApplication::quit();
     });
@@ -36,5 +38,8 @@ int main(int argc, char **argv)
     dialog.show();
     dialog.raise();
     dialog.chkdevice();
+    // A warning has an event loop of its own, which is all that a request during it has ended.
+    if (isToEnd)
+        return 0;
     return QApplication::exec();
 }

@@ -1,4 +1,4 @@
-// The live view's zoom by a drag with two contacts on the board.
+#include "capture/boardgesture.h"
 
 #include "capture/livevideowidget.h"
 
@@ -17,6 +17,14 @@ constexpr double leastRatio = 0.2;
 constexpr double mostRatio = 10;
 
 } // namespace
+
+ZoomStep zoomStep(int lastDistance, int distance, bool *isDecision)
+{
+    *isDecision = qAbs(distance - lastDistance) > leastChange;
+    if (!*isDecision || distance <= leastRatio * lastDistance || distance >= mostRatio * lastDistance)
+        return ZoomStep::None;
+    return distance < lastDistance ? ZoomStep::Out : ZoomStep::In;
+}
 
 bool LiveVideoWidget::eventFilter(QObject *watched, QEvent *event)
 {
@@ -65,15 +73,14 @@ void LiveVideoWidget::followGesture(int distance)
         setCursor(QCursor(QPixmap(QStringLiteral(":res/zoom_cursor.png"))));
         return;
     }
-    if (qAbs(distance - m_lastShadowDistance) <= leastChange)
-        return;
-    if (distance > leastRatio * m_lastShadowDistance && distance < mostRatio * m_lastShadowDistance) {
-        if (distance < m_lastShadowDistance)
-            Zoomout();
-        else
-            Zoomin();
-    }
-    m_lastShadowDistance = distance;
+    bool isDecision = false;
+    const ZoomStep step = zoomStep(m_lastShadowDistance, distance, &isDecision);
+    if (step == ZoomStep::Out)
+        Zoomout();
+    else if (step == ZoomStep::In)
+        Zoomin();
+    if (isDecision)
+        m_lastShadowDistance = distance;
 }
 
 void LiveVideoWidget::mouseReleaseEvent(QMouseEvent *event)

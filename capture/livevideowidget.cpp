@@ -209,8 +209,15 @@ bool LiveVideoWidget::Record()
     m_capture.Record(m_moviePath);
     if (warnOfInvalidDevices())
         return false;
+    if (!m_capture.IsRecording()) {
+        // With both devices at hand only the file can have been refused.
+        WebcamUtil::ShowDiskWorningMessage(this);
+        return false;
+    }
     QString previewPath = m_moviePath;
     previewPath.replace(QLatin1String(".mov"), QLatin1String("tmp.png"));
+    // A movie of the same second is replaced, and so is its preview.
+    WebcamUtil::deletetmpfile(previewPath);
     m_capture.SaveBitmap(previewPath);
     return true;
 }

@@ -50,7 +50,7 @@ void SelectDeviceDlg::setVideoDeviceList(const QStringList &names)
     QStringList rows;
     const auto addNames = [&](bool documentCameras) {
         for (int i = 0; i < names.size(); ++i) {
-            if (names.at(i).contains(kDocumentCamera) != documentCameras)
+            if (names.at(i).contains(kDocumentCamera) != documentCameras || m_indexOfRow.contains(i))
                 continue;
             rows << names.at(i);
             m_indexOfRow << i;

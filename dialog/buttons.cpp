@@ -2,8 +2,6 @@
 
 #include "widgets/stretchbitmapbutton.h"
 
-#include <QEvent>
-
 #include <algorithm>
 
 void CPictorelDlg::SetButtonInstance()
@@ -135,15 +133,6 @@ CPictorelDlg::buttonsExcept(std::initializer_list<const CStretchBitmapButton *> 
             buttons.append(button);
     }
     return buttons;
-}
-
-bool CPictorelDlg::eventFilter(QObject *watched, QEvent *event)
-{
-    if (event->type() == QEvent::KeyPress)
-        m_isKeyboardUsed = true;
-    else if (event->type() == QEvent::MouseButtonPress)
-        m_isKeyboardUsed = false;
-    return QWidget::eventFilter(watched, event);
 }
 
 // Whoever works with the keyboard sees where the focus went when the row changed under it. Nobody else is to

@@ -20,7 +20,9 @@ Cells cellsFor(const QSize &area, int count)
         return {1, count, double(area.width()) / count, double(area.height()) / count};
     const int columns = count == kSquare ? 2 : kMostInOneRow;
     const int rows = (count + columns - 1) / columns;
-    return {rows, columns, double(area.width() / columns), double(area.height() / columns)};
+    const int width = area.width() / columns;
+    const int height = area.height() / columns;
+    return {rows, columns, double(width), double(height)};
 }
 
 } // namespace

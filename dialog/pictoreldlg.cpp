@@ -9,6 +9,7 @@
 #include "widgets/picturelistview.h"
 #include "widgets/picturewidget.h"
 
+#include <QEvent>
 #include <QFile>
 #include <QGuiApplication>
 #include <QIcon>
@@ -50,7 +51,6 @@ void CPictorelDlg::setThisPropaty()
     QPalette colours = palette();
     colours.setColor(QPalette::Window, Qt::black);
     colours.setColor(QPalette::WindowText, Qt::white);
-    colours.setColor(QPalette::ButtonText, Qt::white); // captions are texts of the window, too
     setPalette(colours);
 }
 
@@ -80,6 +80,8 @@ void CPictorelDlg::SetChildInstance()
     m_waitDialog->hide();
     m_waitDialog->setLoadingTexts(tr("File is loading. Please wait..."), tr("File loaded successfully."),
                                   tr("Load failed."));
+    m_settingDialog->installEventFilter(this);
+    m_waitDialog->installEventFilter(this);
 }
 
 void CPictorelDlg::setWindowFrame()
@@ -139,6 +141,19 @@ void CPictorelDlg::SetLocalConnect()
     connect(this, &CPictorelDlg::loadcomp, m_waitDialog, &CWaiteMsgDlg::comp);
     connect(m_waitDialog, &CWaiteMsgDlg::OnShow, this, &CPictorelDlg::dirLoad);
     connect(m_liveView, &LiveVideoWidget::disconnectDevice, this, &CPictorelDlg::changeNodevicemode);
+}
+
+bool CPictorelDlg::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress)
+        m_isKeyboardUsed = true;
+    else if (event->type() == QEvent::MouseButtonPress)
+        m_isKeyboardUsed = false;
+    else if (event->type() == QEvent::Show && (watched == m_settingDialog || watched == m_waitDialog))
+        // Where no window manager looks after it, a window shown again lies as deep as it was made, and this
+        // one has been raised since.
+        static_cast<QWidget *>(watched)->raise();
+    return QWidget::eventFilter(watched, event);
 }
 
 void CPictorelDlg::SetPluginPath(const QString &dir)

@@ -2,6 +2,7 @@
 
 #include <QIcon>
 #include <QLabel>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -14,7 +15,8 @@ constexpr int kStartDelayMilliseconds = 100;
 
 CWaiteMsgDlg::CWaiteMsgDlg(QWidget *parent)
     : QDialog(parent), m_ok(new QPushButton(tr("OK"))),
-      m_text(new QLabel(tr("Pasting is processed. Please wait... \n"))), m_starter(new QTimer(this))
+      m_text(new QLabel(tr("Pasting is processed. Please wait... \n"))), m_work(new QProgressBar),
+      m_starter(new QTimer(this))
 {
     setAutoFillBackground(true);
     setWindowTitle(tr("Orvane"));
@@ -30,8 +32,12 @@ CWaiteMsgDlg::CWaiteMsgDlg(QWidget *parent)
     m_starter->setInterval(kStartDelayMilliseconds);
     connect(m_starter, &QTimer::timeout, this, &CWaiteMsgDlg::OnShow);
 
+    m_work->setRange(0, 0); // moves for as long as the program is alive
+    m_work->setTextVisible(false);
+
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_text);
+    layout->addWidget(m_work);
     layout->addWidget(m_ok);
     adjustSize();
 }
@@ -64,11 +70,13 @@ void CWaiteMsgDlg::showEvent(QShowEvent *event)
     showText(getWaitemsg(), m_wait);
     adjustPosition(parentWidget());
     m_ok->hide(); // the room for it stays, so that nothing jumps when it comes
+    m_work->show();
     m_starter->start();
 }
 
 void CWaiteMsgDlg::comp(bool ok)
 {
+    m_work->hide();
     m_ok->show();
     if (ok)
         showText(getCompletemsg(), m_complete);

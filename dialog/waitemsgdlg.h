@@ -3,6 +3,7 @@
 #include <QDialog>
 
 class QLabel;
+class QProgressBar;
 class QPushButton;
 class QTimer;
 
@@ -44,5 +45,6 @@ private:
     QString m_failed;
     QPushButton *m_ok;
     QLabel *m_text;
+    QProgressBar *m_work; // shown until the end
     QTimer *m_starter;
 };

@@ -9,10 +9,6 @@
 namespace
 {
 
-// Frames that may wait while the grabbing thread is busy with one; a movie gets them all. More would only
-// hold the driver's few buffers.
-constexpr guint waitingFrames = 8;
-
 // A decoder keeps hold of a frame or two; anything older was dropped by it.
 constexpr size_t rememberedJpegs = 8;
 
@@ -61,8 +57,9 @@ bool CameraPipeline::build(GstDevice *device, const CaptureMode &mode)
     const CapsHandle caps = fixedCaps(mode);
     g_object_set(filter, "caps", caps.get(), nullptr);
     const CapsHandle rawCaps(gst_caps_new_empty_simple("video/x-raw"));
-    g_object_set(m_sink, "caps", rawCaps.get(), "max-buffers", waitingFrames, "drop", TRUE, "sync", FALSE,
-                 "async", FALSE, "qos", FALSE, "enable-last-sample", FALSE, "wait-on-eos", FALSE, nullptr);
+    g_object_set(m_sink, "caps", rawCaps.get(), "max-buffers", guint(mostWaitingFrames), "drop", TRUE, "sync",
+                 FALSE, "async", FALSE, "qos", FALSE, "enable-last-sample", FALSE, "wait-on-eos", FALSE,
+                 nullptr);
 
     // No queue and no converter: the source's thread decodes, and what the formats need is done once for
     // each use, at the size of that use.

@@ -12,6 +12,10 @@
 class CameraPipeline
 {
 public:
+    // Frames that may wait while the grabbing thread is busy with one; a movie gets them all. More would only
+    // hold the driver's few buffers.
+    static constexpr int mostWaitingFrames = 8;
+
     // Opens nothing yet. The device is borrowed for the construction only.
     CameraPipeline(GstDevice *device, const CaptureMode &mode);
     // Closes the camera.

@@ -1,6 +1,7 @@
 #include "platform/capturedevice.h"
 
 #include "platform/capturemode.h"
+#include "platform/requiredelements.h"
 
 #include <algorithm>
 
@@ -58,6 +59,11 @@ bool namesInfrared(const QString &name)
     return name.endsWith(QLatin1String(" IR")) || name.contains(QLatin1String(" IR "));
 }
 
+bool isSameMake(const CaptureDevice &a, const CaptureDevice &b)
+{
+    return a.name == b.name && a.vendor == b.vendor && a.product == b.product && a.serial == b.serial;
+}
+
 // A sound server mixes, resamples and survives an unplugged device, which the bare card does not.
 int microphonePreference(const CaptureDevice &device)
 {
@@ -108,7 +114,7 @@ bool isUsableCamera(const CaptureDevice &device)
     const CapsHandle caps(gst_device_get_caps(device.device.get()));
     if (!caps || gst_caps_is_any(caps.get()) || isGreyOnly(caps.get()) || namesInfrared(device.name))
         return false;
-    return !captureModes(caps.get(), true).empty();
+    return !captureModes(caps.get(), !RequiredElements::h264Decoder().isEmpty()).empty();
 }
 
 bool isSameDevice(const CaptureDevice &a, const CaptureDevice &b)
@@ -127,10 +133,24 @@ bool isSameDevice(const CaptureDevice &a, const CaptureDevice &b)
     return a.provider != b.provider && a.name == b.name;
 }
 
-bool isSameHardware(const CaptureDevice &a, const CaptureDevice &b)
+const CaptureDevice *findAgain(const std::vector<CaptureDevice> &listed, const CaptureDevice &chosen)
 {
-    return a.name == b.name && a.vendor == b.vendor && a.product == b.product && a.serial == b.serial &&
-           a.busPath == b.busPath;
+    const CaptureDevice *inSameSocket = nullptr;
+    const CaptureDevice *ofSameMake = nullptr;
+    int countOfMake = 0;
+    for (const CaptureDevice &device : listed) {
+        if (device.device == chosen.device)
+            return &device;
+        if (!isSameMake(device, chosen))
+            continue;
+        ++countOfMake;
+        ofSameMake = &device;
+        if (device.busPath == chosen.busPath && !inSameSocket)
+            inSameSocket = &device;
+    }
+    if (inSameSocket)
+        return inSameSocket;
+    return countOfMake == 1 ? ofSameMake : nullptr;
 }
 
 std::vector<CaptureDevice> mergeCameras(const std::vector<CaptureDevice> &listed)

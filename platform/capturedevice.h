@@ -31,9 +31,10 @@ bool isUsableCamera(const CaptureDevice &device);
 // Whether both are the same piece of hardware, seen through different providers or listed again.
 bool isSameDevice(const CaptureDevice &a, const CaptureDevice &b);
 
-// Whether both are the same camera although it may have been pulled out and put back in between: its node may
-// have changed, its make and its place have not.
-bool isSameHardware(const CaptureDevice &a, const CaptureDevice &b);
+// The camera of the list that was chosen once: that very device; else the one of the same make and serial
+// number in the same socket, since a camera that was pulled out and put back may have another node; else the
+// only one of that make and number, in whatever socket. Null when it is not there.
+const CaptureDevice *findAgain(const std::vector<CaptureDevice> &listed, const CaptureDevice &chosen);
 
 // The cameras of all providers, in the order given, each piece of hardware once. Where the kernel's own
 // device and a server's view of it are both there, the kernel's stands.

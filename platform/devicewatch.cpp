@@ -92,10 +92,13 @@ std::vector<CaptureDevice> DeviceWatch::listed(const char *deviceClass)
 void DeviceWatch::setAside(const CaptureDevice &camera, QThread *opening)
 {
     m_setAside.push_back(camera.device);
-    connect(opening, &QThread::finished, this, [this, device = camera.device] {
+    const auto takeBack = [this, device = camera.device] {
         m_setAside.erase(std::remove(m_setAside.begin(), m_setAside.end(), device), m_setAside.end());
         emit changed();
-    });
+    };
+    connect(opening, &QThread::finished, this, takeBack);
+    if (opening->isFinished())
+        takeBack();
 }
 
 // The sound cards' provider announces nothing, so the kernel's folder of them is what tells.

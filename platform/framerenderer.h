@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/capturedframe.h"
-#include "platform/frameconverter.h"
+#include "platform/screenpixels.h"
 #include "platform/zoom.h"
 
 #include <opencv2/core/mat.hpp>
@@ -18,11 +18,8 @@ public:
 
 private:
     cv::Mat freeBuffer(const QSize &size);
-    bool scale(const CapturedFrame &frame, const QRect &part, const QSize &size);
 
-    FrameConverter m_scaler{GST_VIDEO_RESAMPLER_METHOD_LINEAR};
-    FrameConverter m_colours{GST_VIDEO_RESAMPLER_METHOD_NEAREST};
-    GstVideoInfo m_scaledInfo{};
-    BufferHandle m_scaled;
+    ScreenPixels m_colours;
+    cv::Mat m_unscaled;
     std::vector<cv::Mat> m_buffers;
 };

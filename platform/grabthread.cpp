@@ -96,6 +96,9 @@ void GrabThread::grabUntilStopped(CameraPipeline &pipeline)
         if (isPaused != m_isPaused) {
             isPaused = m_isPaused;
             pipeline.setPaused(isPaused);
+            // What lay under the camera before a pause is no picture of now.
+            if (!isPaused)
+                m_newest.put(nullptr);
         }
         const FramePtr frame = grabAllWaiting(pipeline);
         // A changed view shows the frame that is there already rather than wait for the next.
@@ -107,8 +110,15 @@ void GrabThread::grabUntilStopped(CameraPipeline &pipeline)
 // Hands on every frame that has come and returns the last: the window never gets behind.
 FramePtr GrabThread::grabAllWaiting(CameraPipeline &pipeline)
 {
-    FramePtr last;
-    for (FramePtr frame = pipeline.nextFrame(frameWait); frame; frame = pipeline.nextFrame(0ms)) {
+    FramePtr last = pipeline.nextFrame(frameWait);
+    if (!last)
+        return last;
+    deliver(last);
+    // No more than can have been waiting: the picture must go on even when handing on takes a frame's time.
+    for (int waiting = 1; waiting < CameraPipeline::mostWaitingFrames; ++waiting) {
+        const FramePtr frame = pipeline.nextFrame(0ms);
+        if (!frame)
+            break;
         deliver(frame);
         last = frame;
     }

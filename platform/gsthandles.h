@@ -34,9 +34,7 @@ using ElementHandle = std::unique_ptr<GstElement, GstObjectRelease>;
 using PadHandle = std::unique_ptr<GstPad, GstObjectRelease>;
 using BusHandle = std::unique_ptr<GstBus, GstObjectRelease>;
 using ClockHandle = std::unique_ptr<GstClock, GstObjectRelease>;
-using DeviceHandle = std::unique_ptr<GstDevice, GstObjectRelease>;
 using ProviderHandle = std::unique_ptr<GstDeviceProvider, GstObjectRelease>;
-using FeatureHandle = std::unique_ptr<GstPluginFeature, GstObjectRelease>;
 using CapsHandle = std::unique_ptr<GstCaps, GstMiniObjectRelease>;
 using SampleHandle = std::unique_ptr<GstSample, GstMiniObjectRelease>;
 using BufferHandle = std::unique_ptr<GstBuffer, GstMiniObjectRelease>;
@@ -50,18 +48,6 @@ using ErrorHandle = std::unique_ptr<GError, GErrorFree>;
 inline BufferHandle retain(GstBuffer *buffer)
 {
     return BufferHandle(gst_buffer_ref(buffer));
-}
-inline SampleHandle retain(GstSample *sample)
-{
-    return SampleHandle(gst_sample_ref(sample));
-}
-inline CapsHandle retain(GstCaps *caps)
-{
-    return CapsHandle(gst_caps_ref(caps));
-}
-inline DeviceHandle retain(GstDevice *device)
-{
-    return DeviceHandle(static_cast<GstDevice *>(gst_object_ref(device)));
 }
 
 // A video frame mapped for as long as this object lives.

@@ -2,6 +2,7 @@
 
 #include <cstdio>
 
+#include <jerror.h>
 #include <jpeglib.h>
 
 #include <csetjmp>
@@ -20,10 +21,16 @@ struct ErrorManager {
     std::longjmp(reinterpret_cast<ErrorManager *>(info->err)->giveUp, 1);
 }
 
+// Some cameras leave out the end marker or fill up with a few bytes of their own, and lose no pixel by that.
+bool isHarmless(int warning)
+{
+    return warning == JWRN_JPEG_EOF || warning == JWRN_EXTRANEOUS_DATA;
+}
+
 // Counts as libjpeg does, without its words on stderr.
 void countWarning(j_common_ptr info, int level)
 {
-    if (level < 0)
+    if (level < 0 && !isHarmless(info->err->msg_code))
         ++info->err->num_warnings;
 }
 
@@ -46,18 +53,19 @@ void readAll(jpeg_decompress_struct *jpeg)
 
 bool isWholeJpeg(const unsigned char *data, std::size_t bytes)
 {
-    jpeg_decompress_struct jpeg;
+    // Zeroed, since an error can come before libjpeg has made it its own.
+    jpeg_decompress_struct jpeg{};
     ErrorManager errors;
     jpeg.err = jpeg_std_error(&errors.base);
     errors.base.error_exit = leave;
     errors.base.emit_message = countWarning;
-    jpeg_create_decompress(&jpeg);
     // NOLINTNEXTLINE(bugprone-*,cert-err52-cpp): libjpeg knows no other way out, and no destructor is jumped
     // over.
     if (setjmp(errors.giveUp) != 0) {
         jpeg_destroy_decompress(&jpeg);
         return false;
     }
+    jpeg_create_decompress(&jpeg);
     jpeg_mem_src(&jpeg, data, static_cast<unsigned long>(bytes));
     readAll(&jpeg);
     const bool isWhole = errors.base.num_warnings == 0;

@@ -93,7 +93,8 @@ bool LiveVideoData::chooseCamera()
     const std::vector<CaptureDevice> cameras = DeviceWatch::instance().cameras();
     if (cameras.empty())
         return false;
-    const CaptureDevice camera = chosenOf(cameras);
+    const CaptureDevice *chosen = m_chosen ? findAgain(cameras, *m_chosen) : nullptr;
+    const CaptureDevice &camera = chosen ? *chosen : cameras.front();
     // A camera that still hangs must not keep another one waiting.
     if (camera.device != m_camera.device)
         m_cameraInUse = std::make_shared<std::timed_mutex>();
@@ -101,21 +102,6 @@ bool LiveVideoData::chooseCamera()
     m_modes = modesOf(camera);
     m_mode = nativeMode(m_modes);
     return m_mode.isValid();
-}
-
-// The listed device that was chosen; else the same camera put back; else the first.
-CaptureDevice LiveVideoData::chosenOf(const std::vector<CaptureDevice> &cameras) const
-{
-    if (!m_chosen)
-        return cameras.front();
-    auto found = std::find_if(cameras.begin(), cameras.end(), [this](const CaptureDevice &camera) {
-        return camera.device == m_chosen->device;
-    });
-    if (found == cameras.end())
-        found = std::find_if(cameras.begin(), cameras.end(), [this](const CaptureDevice &camera) {
-            return isSameHardware(camera, *m_chosen);
-        });
-    return found == cameras.end() ? cameras.front() : *found;
 }
 
 void LiveVideoData::openCamera()
@@ -142,6 +128,8 @@ void LiveVideoData::Release()
     closeCamera();
     m_target.setPicture(QImage());
     created = false;
+    m_isStarted = false;
+    m_isStopped = false;
     m_wantedSize = QSize();
     m_zoom = Zoom();
 }
@@ -172,9 +160,11 @@ void LiveVideoData::closeCameraAndWait()
 
 void LiveVideoData::Start()
 {
+    m_isStarted = true;
     m_isStopped = false;
     if (m_grabThread)
         m_grabThread->setPaused(false);
+    updateView();
 }
 
 void LiveVideoData::Stop()
@@ -204,7 +194,7 @@ void LiveVideoData::ZoomOut()
 void LiveVideoData::updateView()
 {
     if (m_grabThread)
-        m_grabThread->setView(m_target.box(), m_zoom);
+        m_grabThread->setView(m_isStarted ? m_target.box() : QSize(), m_zoom);
 }
 
 void LiveVideoData::SetResolution(int width, int height)
@@ -270,10 +260,16 @@ void LiveVideoData::Record(const QString &path)
     MovieSettings settings;
     settings.path = path;
     settings.picture = frame->info;
-    settings.framesPerSecond = qMax(1, qRound(m_mode.framesPerSecond()));
+    if (m_mode.rateNumerator > 0)
+        settings.framesPerSecond = qMax(1, qRound(m_mode.framesPerSecond()));
     settings.microphone = microphone->device;
     m_movie = MovieRecorder::start(settings, *frame, m_zoom);
     m_grabThread->setSink(m_movie);
+}
+
+bool LiveVideoData::IsRecording() const
+{
+    return m_movie != nullptr;
 }
 
 void LiveVideoData::RecordStop()
@@ -290,6 +286,9 @@ void LiveVideoData::finishMovie()
         return;
     if (m_grabThread)
         m_grabThread->setSink(nullptr);
+    m_unfinished.erase(std::remove_if(m_unfinished.begin(), m_unfinished.end(),
+                                      [](const auto &movie) { return movie->finish(0ms); }),
+                       m_unfinished.end());
     if (!m_movie->finish(movieStopWait))
         m_unfinished.push_back(m_movie);
     m_movie.reset();

@@ -39,8 +39,9 @@ public:
     // Shows the live picture on this widget, which stays the caller's.
     void SetTarget(QWidget *target);
 
-    // Takes the chosen camera, or the first one while that is not there. Where a GStreamer element is
-    // missing, supported is false and stderr names it. With no camera, hasVideoDevice and created are false.
+    // Opens the chosen camera, or the first one while that is not there; what it gives is shown from Start()
+    // on. Where a GStreamer element is missing, supported is false and stderr names it. With no camera,
+    // hasVideoDevice and created are false.
     void Create();
     // Finishes a running movie and closes the camera; the closing goes on in the background.
     void Release();
@@ -74,6 +75,8 @@ public:
     // Starts a movie with the default microphone's sound. Without a camera that gives pictures or without a
     // microphone nothing starts and no file is made. A camera just started is waited for, up to a second.
     void Record(const QString &path);
+    // Whether a movie runs.
+    bool IsRecording() const;
     // Ends the movie. The file is finished within half a second, or in the background where the disk is
     // slower. Without a movie nothing happens.
     void RecordStop();
@@ -101,7 +104,6 @@ public slots:
 
 private:
     bool chooseCamera();
-    CaptureDevice chosenOf(const std::vector<CaptureDevice> &cameras) const;
     void openCamera();
     void closeCamera();
     void closeCameraAndWait();
@@ -125,6 +127,7 @@ private:
     std::unique_ptr<GrabThread> m_grabThread;
     std::shared_ptr<MovieRecorder> m_movie;
     std::vector<std::shared_ptr<MovieRecorder>> m_unfinished; // whose disk was slow
-    bool m_isStopped = false;
+    bool m_isStarted = false;
+    bool m_isStopped = false; // held by Stop()
     bool m_isLost = false;
 };

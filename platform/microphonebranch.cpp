@@ -1,5 +1,7 @@
 #include "platform/microphonebranch.h"
 
+#include <mutex>
+
 namespace
 {
 
@@ -14,20 +16,33 @@ GstElement *addTo(GstElement *pipeline, const char *element)
     return made;
 }
 
-void open(GstElement *source, gpointer)
-{
-    gst_element_set_state(source, GST_STATE_PLAYING);
-}
-
-void close(GstElement *source, gpointer)
-{
-    gst_element_set_state(source, GST_STATE_NULL);
-}
-
 } // namespace
 
+// What the opening and the closing of one microphone share: GStreamer's threads may take them in any order,
+// and one that was closed must not be opened any more.
+struct MicrophoneBranch::Opening {
+    std::mutex mutex;
+    bool isClosed = false;
+
+    static void open(GstElement *source, gpointer data)
+    {
+        const auto &opening = *static_cast<std::shared_ptr<Opening> *>(data);
+        const std::lock_guard<std::mutex> lock(opening->mutex);
+        if (!opening->isClosed)
+            gst_element_set_state(source, GST_STATE_PLAYING);
+    }
+    static void close(GstElement *source, gpointer data)
+    {
+        const auto &opening = *static_cast<std::shared_ptr<Opening> *>(data);
+        const std::lock_guard<std::mutex> lock(opening->mutex);
+        opening->isClosed = true;
+        gst_element_set_state(source, GST_STATE_NULL);
+    }
+    static void release(gpointer data) { delete static_cast<std::shared_ptr<Opening> *>(data); }
+};
+
 MicrophoneBranch::MicrophoneBranch(GstElement *pipeline, GstElement *mixer, GstDevice *device)
-    : m_pipeline(pipeline)
+    : m_pipeline(pipeline), m_opening(std::make_shared<Opening>())
 {
     GstElement *source = gst_device_create_element(device, sourceName);
     if (!source)
@@ -41,7 +56,8 @@ MicrophoneBranch::MicrophoneBranch(GstElement *pipeline, GstElement *mixer, GstD
     gst_bin_add(GST_BIN(pipeline), source);
     gst_element_set_base_time(source, gst_element_get_base_time(pipeline));
     if (connectTo(mixer))
-        gst_element_call_async(source, open, nullptr, nullptr);
+        gst_element_call_async(source, Opening::open, new std::shared_ptr<Opening>(m_opening),
+                               Opening::release);
 }
 
 bool MicrophoneBranch::connectTo(GstElement *mixer)
@@ -65,7 +81,8 @@ MicrophoneBranch::~MicrophoneBranch()
         return;
     gst_bin_remove(GST_BIN(m_pipeline), m_source.get());
     // GStreamer keeps the element until the call is done.
-    gst_element_call_async(m_source.get(), close, nullptr, nullptr);
+    gst_element_call_async(m_source.get(), Opening::close, new std::shared_ptr<Opening>(m_opening),
+                           Opening::release);
 }
 
 bool MicrophoneBranch::isSender(GstMessage *message)

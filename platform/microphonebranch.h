@@ -21,6 +21,9 @@ public:
 private:
     bool connectTo(GstElement *mixer);
 
+    struct Opening;
+
     GstElement *const m_pipeline;
     ElementHandle m_source;
+    std::shared_ptr<Opening> m_opening;
 };

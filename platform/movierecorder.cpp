@@ -118,10 +118,8 @@ void MovieRecorder::take(const FramePtr &frame, const Zoom &zoom)
 void MovieRecorder::push(const CapturedFrame &frame, const Zoom &zoom, GstClockTime time)
 {
     auto *pictures = GST_APP_SRC(m_movie.pictures);
-    if (gst_app_src_get_current_level_buffers(pictures) >= mostWaitingFrames) {
-        ++m_droppedFrames;
+    if (gst_app_src_get_current_level_buffers(pictures) >= mostWaitingFrames)
         return;
-    }
     BufferHandle buffer = shown(frame, zoom);
     if (!buffer)
         return;

@@ -5,7 +5,6 @@
 #include "platform/microphonebranch.h"
 #include "platform/moviepipeline.h"
 
-#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <memory>
@@ -33,9 +32,6 @@ public:
     // Also called when recording has failed; later calls only wait.
     bool finish(std::chrono::milliseconds wait);
 
-    // Frames left out because the encoder was behind.
-    int droppedFrames() const { return m_droppedFrames; }
-
 private:
     enum class State { Recording, Failed, Finishing, Finished };
 
@@ -54,7 +50,6 @@ private:
     std::chrono::steady_clock::time_point m_startedAt;
     GstClockTime m_startTime = 0; // on GStreamer's system clock, as the frames' times are
     FrameConverter m_zoomer{GST_VIDEO_RESAMPLER_METHOD_LINEAR};
-    std::atomic<int> m_droppedFrames{0};
 
     mutable std::mutex m_mutex; // guards all below
     std::condition_variable m_changed;

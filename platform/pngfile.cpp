@@ -1,5 +1,6 @@
 #include "platform/pngfile.h"
 
+#include "platform/largebytes.h"
 #include "util/wholefile.h"
 
 #include <libdeflate.h>
@@ -65,7 +66,7 @@ std::string imageHeader(const GstVideoInfo &rgb)
 }
 
 // Each row as its difference from the row above: cheap, and what a page leaves is mostly small numbers.
-std::vector<unsigned char> filterUp(GstVideoFrame *frame)
+LargeBytes filterUp(GstVideoFrame *frame)
 {
     const size_t rowBytes = size_t(GST_VIDEO_FRAME_WIDTH(frame)) * 3;
     const int rows = GST_VIDEO_FRAME_HEIGHT(frame);
@@ -73,7 +74,9 @@ std::vector<unsigned char> filterUp(GstVideoFrame *frame)
     const auto *pixels = static_cast<const unsigned char *>(GST_VIDEO_FRAME_PLANE_DATA(frame, 0));
     const std::vector<unsigned char> blackRow(rowBytes, 0);
 
-    std::vector<unsigned char> filtered((rowBytes + 1) * size_t(rows));
+    LargeBytes filtered((rowBytes + 1) * size_t(rows));
+    if (filtered.size() == 0)
+        return filtered;
     unsigned char *out = filtered.data();
     const unsigned char *above = blackRow.data();
     for (int row = 0; row < rows; ++row) {
@@ -87,23 +90,22 @@ std::vector<unsigned char> filterUp(GstVideoFrame *frame)
     return filtered;
 }
 
-std::vector<unsigned char> compress(const std::vector<unsigned char> &bytes)
+// Of no size when there is no memory for the work, or no input.
+LargeBytes compress(const LargeBytes &bytes)
 {
     const Compressor compressor(libdeflate_alloc_compressor(compressionLevel));
-    if (!compressor)
-        return {};
-    std::vector<unsigned char> packed(libdeflate_zlib_compress_bound(compressor.get(), bytes.size()));
-    packed.resize(
+    if (!compressor || bytes.size() == 0)
+        return LargeBytes(0);
+    LargeBytes packed(libdeflate_zlib_compress_bound(compressor.get(), bytes.size()));
+    packed.truncate(
         libdeflate_zlib_compress(compressor.get(), bytes.data(), bytes.size(), packed.data(), packed.size()));
     return packed;
 }
 
-std::vector<unsigned char> packedPixels(const GstVideoInfo &rgb, GstBuffer *picture)
+LargeBytes packedPixels(const GstVideoInfo &rgb, GstBuffer *picture)
 {
     MappedFrame frame(rgb, picture, GST_MAP_READ);
-    if (!frame.isValid())
-        return {};
-    return compress(filterUp(frame.get()));
+    return frame.isValid() ? compress(filterUp(frame.get())) : LargeBytes(0);
 }
 
 bool writeAll(int file, std::string_view bytes)
@@ -132,8 +134,8 @@ bool writeWholeFile(const QString &path, std::initializer_list<std::string_view>
 
 bool writePng(const QString &path, const GstVideoInfo &rgb, GstBuffer *picture)
 {
-    const std::vector<unsigned char> packed = packedPixels(rgb, picture);
-    if (packed.empty())
+    const LargeBytes packed = packedPixels(rgb, picture);
+    if (packed.size() == 0)
         return false;
     const std::string header = imageHeader(rgb);
     const std::string_view pixels = asText(packed.data(), packed.size());

@@ -7,6 +7,12 @@
 namespace
 {
 constexpr char relistCommand[] = "orvane-relist";
+
+auto isDevice(GstDevice *device)
+{
+    return [device](const CaptureDevice &listed) { return listed.device.get() == device; };
+}
+
 } // namespace
 
 ProviderWatch::ProviderWatch(ProviderHandle provider, GstDeviceProviderFactory *factory,
@@ -68,12 +74,14 @@ void ProviderWatch::run()
 
 void ProviderWatch::listAll()
 {
+    std::vector<CaptureDevice> listed;
     GList *devices = gst_device_provider_get_devices(m_provider.get());
     for (GList *link = devices; link; link = link->next)
-        add(GST_DEVICE(link->data));
+        listed.push_back(describe(GST_DEVICE(link->data)));
     g_list_free_full(devices, gst_object_unref);
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
+        m_listed = std::move(listed);
         m_isFirstListingDone = true;
         m_firstListingDone.notify_all();
     }
@@ -92,49 +100,60 @@ void ProviderWatch::follow()
 
 void ProviderWatch::react(GstMessage *message)
 {
+    GstDevice *device = nullptr;
+    GstDevice *replaced = nullptr;
     if (gst_message_has_name(message, relistCommand)) {
         // Only a fresh start makes a provider without announcements look again.
         gst_device_provider_stop(m_provider.get());
-        {
-            const std::lock_guard<std::mutex> lock(m_mutex);
-            m_listed.clear();
-        }
-        if (gst_device_provider_start(m_provider.get()))
-            listAll();
+        gst_device_provider_start(m_provider.get());
+        listAll();
         return;
     }
-    GstDevice *device = nullptr;
-    if (GST_MESSAGE_TYPE(message) == GST_MESSAGE_DEVICE_ADDED) {
+    switch (GST_MESSAGE_TYPE(message)) {
+    case GST_MESSAGE_DEVICE_ADDED:
         gst_message_parse_device_added(message, &device);
         add(device);
-    } else if (GST_MESSAGE_TYPE(message) == GST_MESSAGE_DEVICE_REMOVED) {
+        break;
+    case GST_MESSAGE_DEVICE_REMOVED:
         gst_message_parse_device_removed(message, &device);
         remove(device);
-    } else {
+        break;
+    case GST_MESSAGE_DEVICE_CHANGED:
+        // So a sound server tells of the new default microphone, and of the one that it no longer is.
+        gst_message_parse_device_changed(message, &device, &replaced);
+        replace(device, replaced);
+        gst_object_unref(replaced);
+        break;
+    default:
         return;
     }
     gst_object_unref(device);
     m_changed();
 }
 
+CaptureDevice ProviderWatch::describe(GstDevice *device) const
+{
+    return describeDevice(device, QString::fromLatin1(gst_plugin_feature_get_name(m_factory.get())));
+}
+
 void ProviderWatch::add(GstDevice *device)
 {
-    const CaptureDevice described =
-        describeDevice(device, QString::fromLatin1(gst_plugin_feature_get_name(m_factory.get())));
+    const CaptureDevice described = describe(device);
     const std::lock_guard<std::mutex> lock(m_mutex);
     // The first listing can come once more as announcements.
-    const bool isKnown = std::any_of(m_listed.begin(), m_listed.end(), [device](const CaptureDevice &known) {
-        return known.device.get() == device;
-    });
-    if (!isKnown)
+    if (std::none_of(m_listed.begin(), m_listed.end(), isDevice(device)))
         m_listed.push_back(described);
 }
 
 void ProviderWatch::remove(GstDevice *device)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    m_listed.erase(
-        std::remove_if(m_listed.begin(), m_listed.end(),
-                       [device](const CaptureDevice &known) { return known.device.get() == device; }),
-        m_listed.end());
+    m_listed.erase(std::remove_if(m_listed.begin(), m_listed.end(), isDevice(device)), m_listed.end());
+}
+
+void ProviderWatch::replace(GstDevice *device, GstDevice *replaced)
+{
+    const CaptureDevice described = describe(device);
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    std::replace_if(m_listed.begin(), m_listed.end(), isDevice(replaced), described);
 }

@@ -37,10 +37,12 @@ public:
 private:
     void run();
     void listAll();
+    CaptureDevice describe(GstDevice *device) const;
     void follow();
     void react(GstMessage *message);
     void add(GstDevice *device);
     void remove(GstDevice *device);
+    void replace(GstDevice *device, GstDevice *replaced);
 
     const ProviderHandle m_provider;
     const BusHandle m_bus;

@@ -2,6 +2,7 @@
 
 #include "platform/frameconverter.h"
 #include "platform/jpegcheck.h"
+#include "platform/largebytes.h"
 #include "platform/pngfile.h"
 
 namespace
@@ -19,13 +20,17 @@ bool isWhole(const CapturedFrame &frame)
     return whole;
 }
 
+// The first whole frame from now on. Of a camera that gives none in that time the last is better than
+// nothing.
 FramePtr nextWholeFrame(const NewestFrame &frames, std::chrono::steady_clock::time_point limit)
 {
-    FramePtr frame = frames.get();
-    if (!frame)
-        frame = frames.waitForOther(nullptr, limit);
-    while (frame && !isWhole(*frame))
-        frame = frames.waitForOther(frame, limit);
+    FramePtr frame = frames.waitForOther(nullptr, limit);
+    while (frame && !isWhole(*frame)) {
+        FramePtr next = frames.waitForOther(frame, limit);
+        if (!next)
+            return frame;
+        frame = std::move(next);
+    }
     return frame;
 }
 
@@ -39,9 +44,12 @@ bool saveStill(const NewestFrame &frames, const Zoom &zoom, const QString &path,
         return false;
     const QSize size(GST_VIDEO_INFO_WIDTH(&frame->info), GST_VIDEO_INFO_HEIGHT(&frame->info));
     const GstVideoInfo rgb = pictureInfo(GST_VIDEO_FORMAT_RGB, size);
-    const BufferHandle picture(gst_buffer_new_allocate(nullptr, GST_VIDEO_INFO_SIZE(&rgb), nullptr));
+    LargeBytes pixels(GST_VIDEO_INFO_SIZE(&rgb));
+    if (pixels.size() == 0)
+        return false;
+    const BufferHandle picture(gst_buffer_new_wrapped_full(GstMemoryFlags(0), pixels.data(), pixels.size(), 0,
+                                                           pixels.size(), nullptr, nullptr));
     FrameConverter converter(GST_VIDEO_RESAMPLER_METHOD_CUBIC);
-    return picture &&
-           converter.convert(frame->info, frame->picture.get(), zoom.shownPart(size), rgb, picture.get()) &&
+    return converter.convert(frame->info, frame->picture.get(), zoom.shownPart(size), rgb, picture.get()) &&
            writePng(path, rgb, picture.get());
 }

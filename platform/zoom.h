@@ -12,7 +12,6 @@ public:
     void out() { m_factor = qMax(m_factor / step, least); }
 
     bool isNone() const { return m_factor <= least; }
-    double factor() const { return m_factor; }
 
     // The part of a picture of that size which is shown: around its centre, in the picture's proportions,
     // on even pixels, since most cameras share their colours between two pixels.

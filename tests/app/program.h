@@ -25,7 +25,7 @@ public:
     {
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         m_process.start(ORVANE_PROGRAM, QStringList());
-        return m_process.waitForStarted() && QTest::qWaitFor([&] { return hasWindow("^Orvane$"); }, 10000) &&
+        return m_process.waitForStarted() && QTest::qWaitFor([] { return windows() > 0; }, 10000) &&
                (!withPicture || QTest::qWaitFor([] { return brightness(QPoint(400, 300)) > 30; }, 10000));
     }
     bool waitForEnd(int milliseconds = 10000)
@@ -34,16 +34,16 @@ public:
     }
     QProcess &process() { return m_process; }
 
-    static bool hasWindow(const QString &name)
+    // The program's windows that can be seen, its dialogs among them; by the beginning of their title.
+    static int windows(const QString &title = "Orvane")
     {
-        return xdotool({"search", "--onlyvisible", "--name", name}) == 0;
+        return xdotool({"search", "--onlyvisible", "--name", '^' + title}).count('\n');
     }
-    static int xdotool(const QStringList &arguments)
+    static QByteArray xdotool(const QStringList &arguments)
     {
         QProcess tool;
-        tool.setStandardOutputFile(QProcess::nullDevice());
         tool.start("xdotool", arguments);
-        return tool.waitForFinished() ? tool.exitCode() : -1;
+        return tool.waitForFinished() ? tool.readAllStandardOutput() : QByteArray();
     }
     static void click(const QPoint &point)
     {
@@ -58,11 +58,25 @@ public:
     // The buttons' places on a screen of 1024x768, counted from the left.
     static QPoint liveRow(int place) { return {85 + 2 + 170 * place, 734}; }
     static QPoint row(int place) { return {172 + 85 + 170 * place, 734}; }
-    static QPoint listRow(int place) { return row(place); }
     static QPoint exitButton() { return {939, 751}; }
     static QPoint settingsButton() { return {939, 717}; }
     static QPoint acceptButton() { return {512 - 85, 666}; }
     static QPoint retryButton() { return {512 + 85, 666}; }
+
+    // What the row holds: -5 for the live row's five buttons, else the number of buttons from the other rows'
+    // left.
+    static int buttonsShown()
+    {
+        const QImage image = screen();
+        const auto isLit = [&image](int x) { return qGray(image.pixel(x, 734)) > 10; };
+        if (isLit(10))
+            return -5;
+        int count = 0;
+        while (count < 4 && isLit(172 + 8 + 170 * count))
+            ++count;
+        return count;
+    }
+    static bool showsPreview() { return brightness(acceptButton() - QPoint(78, 0)) > 10; }
 
     static QDir workingFolder()
     {

@@ -1,3 +1,4 @@
+#include "capture/boardgesture.h"
 #include "capture/livevideowidget.h"
 #include "tests/support/modalanswer.h"
 #include "tests/support/testdevices.h"
@@ -19,6 +20,8 @@ private slots:
     void warnsOfDevicesThatAreMissing_data();
     void warnsOfDevicesThatAreMissing();
     void takesASeriesOfItsOwn();
+    void zoomsByClearSteps_data();
+    void zoomsByClearSteps();
 
 private:
     QStringList workingFiles() const { return QDir(WebcamUtil::getTemporaryPath()).entryList(QDir::Files); }
@@ -148,6 +151,29 @@ void TestLiveVideoWidget::takesASeriesOfItsOwn()
     QVERIFY(complete.wait(1500));
     QCOMPARE(QDir().entryList({"photo*.png"}).size(), 1);
     QDir::setCurrent(before);
+}
+
+void TestLiveVideoWidget::zoomsByClearSteps_data()
+{
+    QTest::addColumn<int>("last");
+    QTest::addColumn<int>("distance");
+    QTest::addColumn<int>("step");
+    QTest::addColumn<bool>("isDecision");
+    QTest::newRow("too small a change") << 200 << 299 << int(ZoomStep::None) << false;
+    QTest::newRow("apart") << 200 << 300 << int(ZoomStep::In) << true;
+    QTest::newRow("together") << 300 << 200 << int(ZoomStep::Out) << true;
+    QTest::newRow("to a quarter, but no clear change") << 100 << 25 << int(ZoomStep::None) << false;
+    QTest::newRow("a contact lost") << 500 << 100 << int(ZoomStep::None) << true;
+    QTest::newRow("a contact found") << 20 << 200 << int(ZoomStep::None) << true;
+}
+
+void TestLiveVideoWidget::zoomsByClearSteps()
+{
+    QFETCH(int, last);
+    QFETCH(int, distance);
+    bool isDecision = false;
+    QTEST(int(zoomStep(last, distance, &isDecision)), "step");
+    QTEST(isDecision, "isDecision");
 }
 
 QTEST_MAIN(TestLiveVideoWidget)

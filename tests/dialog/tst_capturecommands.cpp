@@ -14,7 +14,7 @@ static fsblkcnt_t freeMiB = 100000;
 extern "C" int statvfs(const char *, struct statvfs *status)
 {
     *status = {};
-    status->f_bsize = status->f_frsize = 1024 * 1024;
+    status->f_bsize = status->f_frsize = 1048576;
     status->f_bavail = freeMiB;
     return 0;
 }
@@ -248,11 +248,11 @@ void TestCaptureCommands::settingsTakeEffectAtOnce()
     MainWindow main("PhotoPreview=1\n");
     auto *settings = main.window->findChild<Setting *>();
     for (const bool accepted : {false, true}) {
-        QTimer::singleShot(100, settings, [&] {
-            for (auto *box : settings->findChildren<QAbstractButton *>("chbPhotoPreview"))
-                box->setChecked(false);
+        const auto uncheckAndLeave = [&] {
+            settings->findChild<QAbstractButton *>("chbPhotoPreview")->setChecked(false);
             settings->done(accepted ? QDialog::Accepted : QDialog::Rejected);
-        });
+        };
+        QMetaObject::invokeMethod(settings, uncheckAndLeave, Qt::QueuedConnection);
         main.press("Settings");
         main.press("Photo");
         QCOMPARE(main.button("Apply")->isVisible(), !accepted);

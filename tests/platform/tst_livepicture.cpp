@@ -130,7 +130,8 @@ void TestLivePicture::staysUnderTwoFramesBehind()
     std::sort(delays.begin(), delays.end());
     qInfo("delay in ms after a busy GUI thread: median %lld, most %lld", delays[7] / 1000,
           delays.last() / 1000);
-    QVERIFY2(delays[7] < 2 * 33333, "the picture is more than two frames old");
+    // One is left out: another process may have had the processor.
+    QVERIFY2(delays[13] < 2 * 33333, "the picture is more than two frames old");
 }
 
 void TestLivePicture::zoomsAroundTheCentre()

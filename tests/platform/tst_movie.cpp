@@ -74,7 +74,7 @@ void TestMovie::recordsPictureAndSoundInSync()
     QVERIFY(movie.isReadToItsEnd);
     QVERIFY(movie.length() > 4.0 && movie.length() < 4.6);
     QVERIFY(movie.soundLength > 4.0 && movie.soundLength < 4.6);
-    QVERIFY2(movie.frames.size() >= 120, qPrintable(QString::number(movie.frames.size())));
+    QVERIFY2(movie.frames.size() >= 125, qPrintable(QString::number(movie.frames.size())));
 
     std::vector<double> flashes;
     for (size_t i = 1; i < movie.frames.size(); ++i) {

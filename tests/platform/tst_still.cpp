@@ -107,11 +107,10 @@ void TestStill::passesOverDamagedFrames()
         QVERIFY(CameraWindow::read(image, image.rect(), &reading));
         QTest::qWait(11);
     }
+    // A camera that never sends a whole one still gives a photo.
     devices.camera("cam").damaged("1");
     devices.write();
-    QTest::qWait(200);
-    QVERIFY(!camera.capture.SaveBitmap(path("photo-bad.png")));
-    QVERIFY(!QFileInfo::exists(path("photo-bad.png")));
+    QTRY_VERIFY(camera.capture.SaveBitmap(path(QString("bad%1.png").arg(nowMicroseconds()))));
 }
 
 void TestStill::waitsForTheFirstFrame()

@@ -1,0 +1,94 @@
+// The live view alone, for the benchmarks: `liveprogram show WIDTHxHEIGHT` shows it in a window of that size
+// and tells twice a second how many frames were painted; `liveprogram record PATH` records a movie with the
+// window hidden. Both go on until SIGINT.
+
+#include "capture/livevideowidget.h"
+#include "platform/livevideodata.h"
+
+#include <QApplication>
+#include <QFrame>
+#include <QTimer>
+
+#include <csignal>
+#include <cstdio>
+
+namespace
+{
+
+volatile std::sig_atomic_t isInterrupted = 0;
+
+class PaintCounter : public QObject
+{
+public:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        painted += event->type() == QEvent::Paint;
+        return QObject::eventFilter(watched, event);
+    }
+    int painted = 0;
+};
+
+// The frame that the picture is painted on; a label is a frame, too.
+QFrame *pictureFrame(const LiveVideoWidget &view)
+{
+    for (QFrame *frame : view.findChildren<QFrame *>()) {
+        if (qstrcmp(frame->metaObject()->className(), "QFrame") == 0)
+            return frame;
+    }
+    qFatal("the live view has no picture");
+}
+
+int show(const QString &size)
+{
+    LiveVideoWidget view;
+    view.setWindowFlags(Qt::FramelessWindowHint);
+    view.setFixedSize(size.section('x', 0, 0).toInt(), size.section('x', 1, 1).toInt());
+    view.Create();
+    view.Start();
+    view.show();
+
+    PaintCounter counter;
+    pictureFrame(view)->installEventFilter(&counter);
+    QTimer report;
+    QObject::connect(&report, &QTimer::timeout, [&counter] {
+        std::printf("rendered: %d\n", counter.painted);
+        std::fflush(stdout);
+    });
+    constexpr int kReportEveryMilliseconds = 500;
+    report.start(kReportEveryMilliseconds);
+    return QApplication::exec();
+}
+
+int record(const QString &path)
+{
+    LiveVideoData capture;
+    capture.Create();
+    capture.Start();
+    bool isRecording = false;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, [&] {
+        if (!isRecording && capture.IsValidVideoDevice() && capture.IsValidAudioDevice()) {
+            capture.Record(path);
+            isRecording = true;
+        }
+        if (isInterrupted) {
+            capture.RecordStop();
+            QApplication::quit();
+        }
+    });
+    constexpr int kLookEveryMilliseconds = 50;
+    look.start(kLookEveryMilliseconds);
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    const QStringList arguments = QApplication::arguments();
+    if (arguments.value(1) == "show")
+        return show(arguments.value(2));
+    std::signal(SIGINT, [](int) { isInterrupted = 1; });
+    return record(arguments.value(2));
+}

@@ -1,0 +1,137 @@
+// What the teacher waits for in the main window: from the press of List to the strip and to its last
+// thumbnail, from the press of Photo to the photo on the screen. The peer does the same work with Qt's means,
+// one after the other.
+
+#include "bench/comparison.h"
+#include "tests/dialog/mainwindow.h"
+#include "widgets/picturelistview.h"
+#include "widgets/picturewidget.h"
+#include "widgets/thumbnailloader.h"
+
+namespace
+{
+
+constexpr int kRounds = 5;
+constexpr int kPhotos = 50;
+constexpr double kMostStripMilliseconds = 100;
+constexpr int kMostWaitMilliseconds = 20000;
+
+// Whether a widget was painted since the last look.
+class PaintWatch : public QObject
+{
+public:
+    explicit PaintWatch(QWidget *widget) { widget->installEventFilter(this); }
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        m_isPainted |= event->type() == QEvent::Paint;
+        return QObject::eventFilter(watched, event);
+    }
+    // Until the next painting is on the screen.
+    void waitForPaint()
+    {
+        m_isPainted = false;
+        waitFor([this] { return m_isPainted; });
+    }
+    static void waitFor(const std::function<bool()> &condition)
+    {
+        const QDeadlineTimer limit(kMostWaitMilliseconds);
+        while (!condition()) {
+            if (limit.hasExpired())
+                qFatal("the window does not follow");
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 10);
+        }
+    }
+
+private:
+    bool m_isPainted = false;
+};
+
+QString workingFile(const QString &name)
+{
+    return WebcamUtil::getTemporaryPath() + "/" + name;
+}
+
+// The camera's photo, so many times.
+void multiplyPhoto()
+{
+    const QString photo = workingFile(MainWindow::captures("photo*").first());
+    for (int i = 1; i < kPhotos; ++i)
+        QFile::copy(photo, workingFile(QString("photo2024010112000%1.png").arg(i, 4, 10, QChar('0'))));
+}
+
+void readAllInTurn(const QSize &size)
+{
+    for (const QString &name : MainWindow::captures("photo*")) {
+        const QImage photo(workingFile(name));
+        if (QPixmap::fromImage(photo.scaled(size, Qt::KeepAspectRatio)).isNull())
+            qFatal("%s is no photo", qPrintable(name));
+    }
+}
+
+void comparePhoto(const MainWindow &main)
+{
+    auto *view = main.view<PictureWidget>();
+    PaintWatch watch(view);
+    Comparison review({"press of Photo to the photo on the screen", "ms"});
+    for (int round = 0; round < kRounds; ++round) {
+        const double ours = secondsOf([&] {
+            main.press("Photo");
+            watch.waitForPaint();
+        });
+        const QString last = MainWindow::captures("photo*").last();
+        const QImage photo = QImage(workingFile(last)).convertToFormat(QImage::Format_RGB888);
+        const double peers = secondsOf([&] {
+            photo.save(workingFile("peer.png"), "PNG");
+            QPixmap::fromImage(QImage(workingFile("peer.png")).scaled(view->size(), Qt::KeepAspectRatio));
+        });
+        review.add(ours * 1000, peers * 1000);
+        QFile::remove(workingFile("peer.png"));
+        QFile::remove(workingFile(last));
+        main.press("Live");
+        QTest::qWait(100);
+    }
+    review.print();
+}
+
+void compareStrip(const MainWindow &main)
+{
+    auto *list = main.view<PictureListView>();
+    auto *loader = list->findChild<ThumbnailLoader *>();
+    int loaded = 0;
+    QObject::connect(loader, &ThumbnailLoader::loaded, list, [&loaded] { ++loaded; });
+    PaintWatch watch(list->viewport());
+
+    std::vector<double> standing;
+    Comparison filled({QString("press of List to the last of %1 thumbnails").arg(kPhotos), "ms", 0.5});
+    for (int round = 0; round < kRounds; ++round) {
+        loaded = 0;
+        const double ours = secondsOf([&] {
+            standing.push_back(1000 * secondsOf([&] {
+                                   main.press("List");
+                                   watch.waitForPaint();
+                               }));
+            PaintWatch::waitFor([&loaded] { return loaded == kPhotos; });
+            // Those that are in sight are painted.
+            QCoreApplication::processEvents();
+        });
+        const double peers = secondsOf([list] { readAllInTurn(list->iconSize()); });
+        filled.add(ours * 1000, peers * 1000);
+        main.press("Live");
+        QTest::qWait(100);
+    }
+    printValue("press of List to the strip", standing, "ms", kMostStripMilliseconds);
+    filled.print();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    const MainWindow main("PhotoPreview=false\n", "YUY2 1920x1080 30");
+    comparePhoto(main);
+    main.press("Photo");
+    main.press("Live");
+    multiplyPhoto();
+    compareStrip(main);
+}

@@ -1,0 +1,8 @@
+#pragma once
+
+// What a change of the distance between two contacts on the board means for the zoom.
+enum class ZoomStep { None, In, Out };
+
+// The step from the distance at the last decision to the distance now, both in pixels. `isDecision` tells
+// whether the distance now is to be remembered as the last.
+ZoomStep zoomStep(int lastDistance, int distance, bool *isDecision);
