@@ -206,6 +206,7 @@ void TestPictureListView::choosingFromOutside()
     list.UnSelect(m_ten.at(3));
     list.OnSelect(m_ten.last());
     QCOMPARE(list.selectionList().last(), m_ten.last());
+    list.UnSelect(m_ten.last());
     list.setMovieMode(true);
     list.OnSelect("movie7.mov");
     QCOMPARE(list.selectionList(), QStringList{"movie7tmp.png"});
