@@ -29,23 +29,23 @@ private:
         void layOver(uint8_t *picture, const GstVideoInfo &info) const;
 
     private:
-        Surface surface_;
-        GstVideoInfo rgb_ = {};
-        GstVideoInfo yuv_ = {};
-        std::unique_ptr<GstVideoConverter, FreeConverter> converter_;
-        std::vector<uint8_t> pixels_;
-        int x_ = 0;
-        int y_ = 0;
+        Surface m_surface;
+        GstVideoInfo m_rgb = {};
+        GstVideoInfo m_yuv = {};
+        std::unique_ptr<GstVideoConverter, FreeConverter> m_converter;
+        std::vector<uint8_t> m_pixels;
+        int m_x = 0;
+        int m_y = 0;
     };
     void drawClock(std::time_t now);
     void drawPencil(double seconds);
 
-    GstVideoInfo info_;
-    DeskScene scene_;
-    Surface still_;
-    std::vector<uint8_t> stillPixels_;
-    Patch clock_;
-    Patch pencil_;
-    std::time_t clockShows_ = -1;
-    std::tm time_ = {};
+    GstVideoInfo m_info;
+    DeskScene m_scene;
+    Surface m_still;
+    std::vector<uint8_t> m_stillPixels;
+    Patch m_clock;
+    Patch m_pencil;
+    std::time_t m_clockShows = -1;
+    std::tm m_time = {};
 };

@@ -94,14 +94,14 @@ Surface newSurface(int width, int height)
 }
 
 DeskScene::DeskScene(int width, int height)
-    : pixelsPerUnit_(height / sceneHeight), width_(width / pixelsPerUnit_),
-      pageWidth_(width_ - pageLeft - clockColumn)
+    : m_pixelsPerUnit(height / sceneHeight), m_width(width / m_pixelsPerUnit),
+      m_pageWidth(m_width - pageLeft - clockColumn)
 {
 }
 
 void DeskScene::scale(cairo_t *cairo) const
 {
-    cairo_scale(cairo, pixelsPerUnit_, pixelsPerUnit_);
+    cairo_scale(cairo, m_pixelsPerUnit, m_pixelsPerUnit);
 }
 
 void DeskScene::toPage(cairo_t *cairo) const
@@ -126,10 +126,10 @@ void DeskScene::drawDesk(cairo_t *cairo) const
     for (int plank = 0; plank < planks; ++plank) {
         const double shade = 0.05 * (plank * 5 % 3);
         cairo_set_source_rgb(cairo, 0.50 + shade, 0.36 + shade, 0.25 + shade);
-        cairo_rectangle(cairo, 0, plank * sceneHeight / planks, width_, sceneHeight / planks);
+        cairo_rectangle(cairo, 0, plank * sceneHeight / planks, m_width, sceneHeight / planks);
         cairo_fill(cairo);
         cairo_set_source_rgba(cairo, 0, 0, 0, 0.25);
-        cairo_rectangle(cairo, 0, plank * sceneHeight / planks, width_, 2);
+        cairo_rectangle(cairo, 0, plank * sceneHeight / planks, m_width, 2);
         cairo_fill(cairo);
     }
     cairo_restore(cairo);
@@ -139,11 +139,11 @@ void DeskScene::drawPage(cairo_t *cairo) const
 {
     cairo_save(cairo);
     toPage(cairo);
-    softShadow(cairo, 0, 0, pageWidth_, worksheetHeight);
-    cairo_rectangle(cairo, 0, 0, pageWidth_, worksheetHeight);
+    softShadow(cairo, 0, 0, m_pageWidth, worksheetHeight);
+    cairo_rectangle(cairo, 0, 0, m_pageWidth, worksheetHeight);
     cairo_set_source_rgb(cairo, 0.97, 0.96, 0.93);
     cairo_fill(cairo);
-    drawWorksheet(cairo, pageWidth_);
+    drawWorksheet(cairo, m_pageWidth);
     cairo_restore(cairo);
 }
 
@@ -152,7 +152,7 @@ void DeskScene::drawClockFace(cairo_t *cairo) const
     constexpr int hours = 12;
     cairo_save(cairo);
     scale(cairo);
-    cairo_translate(cairo, width_ - clockColumn / 2, clockY);
+    cairo_translate(cairo, m_width - clockColumn / 2, clockY);
     softShadow(cairo, -clockRadius, -clockRadius, 2 * clockRadius, 2 * clockRadius + 110);
     roundedRect(cairo, -clockRadius - 15, -clockRadius - 15, 2 * clockRadius + 30, 2 * clockRadius + 130, 24);
     cairo_set_source_rgb(cairo, 0.16, 0.30, 0.42);
@@ -176,7 +176,7 @@ void DeskScene::drawTime(cairo_t *cairo, const std::tm &time) const
 {
     cairo_save(cairo);
     scale(cairo);
-    cairo_translate(cairo, width_ - clockColumn / 2, clockY);
+    cairo_translate(cairo, m_width - clockColumn / 2, clockY);
     cairo_set_line_cap(cairo, CAIRO_LINE_CAP_ROUND);
     cairo_set_source_rgb(cairo, 0.15, 0.16, 0.20);
     drawHand(cairo, (time.tm_hour % 12 + time.tm_min / 60.0) / 12, clockRadius * 0.52, 10);
@@ -217,9 +217,9 @@ DeskScene::Point DeskScene::pencilTip(double seconds) const
 {
     double x = 0;
     double y = 0;
-    pointOfTrace(traceFrame(pageWidth_), std::fmod(seconds / pencilRound, 1), &x, &y);
+    pointOfTrace(traceFrame(m_pageWidth), std::fmod(seconds / pencilRound, 1), &x, &y);
     cairo_matrix_t page;
-    cairo_matrix_init_scale(&page, pixelsPerUnit_, pixelsPerUnit_);
+    cairo_matrix_init_scale(&page, m_pixelsPerUnit, m_pixelsPerUnit);
     cairo_matrix_translate(&page, pageLeft, pageTop);
     cairo_matrix_rotate(&page, pageTilt);
     cairo_matrix_transform_point(&page, &x, &y);
@@ -228,16 +228,16 @@ DeskScene::Point DeskScene::pencilTip(double seconds) const
 
 PixelRect DeskScene::clockArea() const
 {
-    const auto pixels = [this](double units) { return int(units * pixelsPerUnit_); };
-    return {pixels(width_ - clockColumn), pixels(clockY - clockRadius), pixels(clockColumn),
+    const auto pixels = [this](double units) { return int(units * m_pixelsPerUnit); };
+    return {pixels(m_width - clockColumn), pixels(clockY - clockRadius), pixels(clockColumn),
             pixels(2 * clockRadius + 110)};
 }
 
 PixelRect DeskScene::pencilArea(double seconds) const
 {
     // The tip is at the lower left, the rest reaches up and to the right by less than the pencil's length.
-    const double around = (pencilThickness + shadowDistance) * pixelsPerUnit_;
-    const double reach = pencilLength * pixelsPerUnit_;
+    const double around = (pencilThickness + shadowDistance) * m_pixelsPerUnit;
+    const double reach = pencilLength * m_pixelsPerUnit;
     const Point tip = pencilTip(seconds);
     return {int(tip.x - around), int(tip.y - reach), int(reach + 2 * around), int(reach + around)};
 }

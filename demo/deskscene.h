@@ -49,7 +49,7 @@ private:
     Point pencilTip(double seconds) const;
 
     // Lengths below and in the drawing are in units of which the picture is 900 high.
-    double pixelsPerUnit_;
-    double width_;
-    double pageWidth_;
+    double m_pixelsPerUnit;
+    double m_width;
+    double m_pageWidth;
 };

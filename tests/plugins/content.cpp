@@ -12,12 +12,12 @@ constexpr uint32_t grey = 0x808080;
 class SolidContent : public Content
 {
 public:
-    explicit SolidContent(uint32_t rgb) : rgb_(rgb) {}
+    explicit SolidContent(uint32_t rgb) : m_rgb(rgb) {}
     int variant(const Moment &) const override { return 0; }
-    void draw(Picture *picture, const Moment &) override { picture->fill(picture->colour(rgb_)); }
+    void draw(Picture *picture, const Moment &) override { picture->fill(picture->colour(m_rgb)); }
 
 private:
-    uint32_t rgb_;
+    uint32_t m_rgb;
 };
 
 // White in the first frame of each second of the monotonic clock, when the microphones beep.

@@ -110,7 +110,8 @@ std::shared_ptr<const ControlFile> ControlFile::read()
         for (const auto &[prefix, kind] : kinds) {
             const std::string name = *group;
             if (name.compare(0, prefix.size(), prefix) == 0)
-                control->devices_.push_back(readDevice(file.get(), *group, kind, name.substr(prefix.size())));
+                control->m_devices.push_back(
+                    readDevice(file.get(), *group, kind, name.substr(prefix.size())));
         }
     }
     return control;
@@ -118,7 +119,7 @@ std::shared_ptr<const ControlFile> ControlFile::read()
 
 std::shared_ptr<const DeviceSettings> ControlFile::find(DeviceKind kind, const std::string &id) const
 {
-    for (const auto &device : devices_) {
+    for (const auto &device : m_devices) {
         if (device->kind == kind && device->id == id)
             return device;
     }

@@ -55,10 +55,10 @@ public:
     // default.
     static std::shared_ptr<const ControlFile> read();
 
-    const std::vector<std::shared_ptr<const DeviceSettings>> &devices() const { return devices_; }
+    const std::vector<std::shared_ptr<const DeviceSettings>> &devices() const { return m_devices; }
     // nullptr when there is no such device.
     std::shared_ptr<const DeviceSettings> find(DeviceKind kind, const std::string &id) const;
 
 private:
-    std::vector<std::shared_ptr<const DeviceSettings>> devices_;
+    std::vector<std::shared_ptr<const DeviceSettings>> m_devices;
 };

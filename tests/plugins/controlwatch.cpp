@@ -39,31 +39,31 @@ ControlWatch::ControlWatch()
 
 std::shared_ptr<const ControlFile> ControlWatch::listen(const std::weak_ptr<ControlListener> &listener)
 {
-    const std::lock_guard lock(mutex_);
+    const std::lock_guard lock(m_mutex);
     const auto same = [&listener](const std::weak_ptr<ControlListener> &other) {
         return !listener.owner_before(other) && !other.owner_before(listener);
     };
-    if (std::none_of(listeners_.begin(), listeners_.end(), same))
-        listeners_.push_back(listener);
-    listenerCame_.notify_all();
+    if (std::none_of(m_listeners.begin(), m_listeners.end(), same))
+        m_listeners.push_back(listener);
+    m_listenerCame.notify_all();
     return ControlFile::read();
 }
 
 std::vector<std::shared_ptr<ControlListener>> ControlWatch::waitForListeners()
 {
-    std::unique_lock lock(mutex_);
+    std::unique_lock lock(m_mutex);
     std::vector<std::shared_ptr<ControlListener>> present;
     while (present.empty()) {
         std::vector<std::weak_ptr<ControlListener>> kept;
-        for (const auto &listener : listeners_) {
+        for (const auto &listener : m_listeners) {
             if (auto alive = listener.lock()) {
                 present.push_back(std::move(alive));
                 kept.push_back(listener);
             }
         }
-        listeners_ = std::move(kept);
+        m_listeners = std::move(kept);
         if (present.empty())
-            listenerCame_.wait(lock);
+            m_listenerCame.wait(lock);
     }
     return present;
 }

@@ -35,7 +35,7 @@ private:
     void watch();
     std::vector<std::shared_ptr<ControlListener>> waitForListeners();
 
-    std::mutex mutex_;
-    std::condition_variable listenerCame_;
-    std::vector<std::weak_ptr<ControlListener>> listeners_;
+    std::mutex m_mutex;
+    std::condition_variable m_listenerCame;
+    std::vector<std::weak_ptr<ControlListener>> m_listeners;
 };

@@ -34,14 +34,14 @@ private:
     bool waitForOpening(std::unique_lock<std::mutex> *lock);
     void tellLoss();
 
-    std::mutex mutex_;
-    std::condition_variable changed_;
-    GstElement *owner_ = nullptr; // not owned
-    DeviceKind kind_ = DeviceKind::Camera;
-    std::string id_;
-    std::shared_ptr<const DeviceSettings> settings_;
-    bool present_ = false;
-    bool unplugged_ = false; // stays, whatever is plugged in later, until it is opened anew
-    bool lossTold_ = false;
-    bool flushing_ = false;
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    GstElement *m_owner = nullptr; // not owned
+    DeviceKind m_kind = DeviceKind::Camera;
+    std::string m_id;
+    std::shared_ptr<const DeviceSettings> m_settings;
+    bool m_present = false;
+    bool m_unplugged = false; // stays, whatever is plugged in later, until it is opened anew
+    bool m_lossTold = false;
+    bool m_flushing = false;
 };

@@ -8,28 +8,28 @@ namespace
 class RawCoder : public FrameCoder
 {
 public:
-    explicit RawCoder(const GstVideoInfo &info) : info_(info)
+    explicit RawCoder(const GstVideoInfo &info) : m_info(info)
     {
         // The converter refuses two pictures of different rates; a drawn picture has none.
-        info_.fps_n = 0;
-        info_.fps_d = 1;
+        m_info.fps_n = 0;
+        m_info.fps_d = 1;
     }
     GstVideoColorimetry colorimetry() const override
     {
         // RGB has no matrix to draw in.
-        return GST_VIDEO_INFO_IS_YUV(&info_) ? info_.colorimetry : jpegColorimetry();
+        return GST_VIDEO_INFO_IS_YUV(&m_info) ? m_info.colorimetry : jpegColorimetry();
     }
     GstBuffer *encode(Picture *picture) override
     {
-        if (!converter_)
-            converter_.reset(gst_video_converter_new(&picture->info(), &info_, nullptr));
+        if (!m_converter)
+            m_converter.reset(gst_video_converter_new(&picture->info(), &m_info, nullptr));
         GstBuffer *drawn = picture->wrapped();
-        GstBuffer *converted = gst_buffer_new_allocate(nullptr, info_.size, nullptr);
+        GstBuffer *converted = gst_buffer_new_allocate(nullptr, m_info.size, nullptr);
         GstVideoFrame from;
         GstVideoFrame to;
         if (gst_video_frame_map(&from, &picture->info(), drawn, GST_MAP_READ)) {
-            if (gst_video_frame_map(&to, &info_, converted, GST_MAP_WRITE)) {
-                gst_video_converter_frame(converter_.get(), &from, &to);
+            if (gst_video_frame_map(&to, &m_info, converted, GST_MAP_WRITE)) {
+                gst_video_converter_frame(m_converter.get(), &from, &to);
                 gst_video_frame_unmap(&to);
             }
             gst_video_frame_unmap(&from);
@@ -42,8 +42,8 @@ private:
     struct FreeConverter {
         void operator()(GstVideoConverter *converter) const { gst_video_converter_free(converter); }
     };
-    GstVideoInfo info_;
-    std::unique_ptr<GstVideoConverter, FreeConverter> converter_;
+    GstVideoInfo m_info;
+    std::unique_ptr<GstVideoConverter, FreeConverter> m_converter;
 };
 
 } // namespace

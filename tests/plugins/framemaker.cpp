@@ -11,7 +11,7 @@ std::unique_ptr<FrameMaker> FrameMaker::make(const DeviceSettings &camera, const
         !gst_structure_get_int(format, "height", &height))
         return nullptr;
     std::unique_ptr<FrameMaker> maker(new FrameMaker(Content::make(camera), std::move(coder), width, height));
-    maker->isJpeg_ = gst_structure_has_name(format, "image/jpeg");
+    maker->m_isJpeg = gst_structure_has_name(format, "image/jpeg");
     GstBuffer *first = maker->wholeFrame({0, 0, 1});
     if (!first)
         return nullptr;
@@ -21,13 +21,14 @@ std::unique_ptr<FrameMaker> FrameMaker::make(const DeviceSettings &camera, const
 
 FrameMaker::FrameMaker(std::unique_ptr<Content> content, std::unique_ptr<FrameCoder> coder, int width,
                        int height)
-    : content_(std::move(content)), coder_(std::move(coder)), picture_(width, height, coder_->colorimetry())
+    : m_content(std::move(content)), m_coder(std::move(coder)),
+      m_picture(width, height, m_coder->colorimetry())
 {
 }
 
 FrameMaker::~FrameMaker()
 {
-    for (const auto &[variant, buffer] : kept_)
+    for (const auto &[variant, buffer] : m_kept)
         gst_buffer_unref(buffer);
 }
 
@@ -36,24 +37,24 @@ GstBuffer *FrameMaker::frame(const Moment &moment, const DamagedFrames &damaged)
     GstBuffer *whole = wholeFrame(moment);
     const bool damage =
         moment.frame < damaged.first || (damaged.every && (moment.frame + 1) % damaged.every == 0);
-    if (!whole || !isJpeg_ || !damage)
+    if (!whole || !m_isJpeg || !damage)
         return whole;
-    GstBuffer *bad = damagedCount_++ % 2 == 0 ? truncatedFrame(whole) : corruptedFrame(whole);
+    GstBuffer *bad = m_damagedCount++ % 2 == 0 ? truncatedFrame(whole) : corruptedFrame(whole);
     gst_buffer_unref(whole);
     return bad;
 }
 
 GstBuffer *FrameMaker::wholeFrame(const Moment &moment)
 {
-    const int variant = content_->variant(moment);
-    const auto kept = kept_.find(variant);
+    const int variant = m_content->variant(moment);
+    const auto kept = m_kept.find(variant);
     // A new buffer over the same memory: time stamps differ, pixels are not copied.
-    if (kept != kept_.end())
+    if (kept != m_kept.end())
         return gst_buffer_copy(kept->second);
-    content_->draw(&picture_, moment);
-    GstBuffer *buffer = coder_->encode(&picture_);
+    m_content->draw(&m_picture, moment);
+    GstBuffer *buffer = m_coder->encode(&m_picture);
     if (variant == Content::alwaysNew || !buffer)
         return buffer;
-    kept_[variant] = buffer;
+    m_kept[variant] = buffer;
     return gst_buffer_copy(buffer);
 }

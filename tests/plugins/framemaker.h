@@ -22,10 +22,10 @@ private:
     FrameMaker(std::unique_ptr<Content> content, std::unique_ptr<FrameCoder> coder, int width, int height);
     GstBuffer *wholeFrame(const Moment &moment);
 
-    std::unique_ptr<Content> content_;
-    std::unique_ptr<FrameCoder> coder_;
-    Picture picture_;
-    std::map<int, GstBuffer *> kept_; // owned, by variant
-    bool isJpeg_ = false;
-    unsigned damagedCount_ = 0;
+    std::unique_ptr<Content> m_content;
+    std::unique_ptr<FrameCoder> m_coder;
+    Picture m_picture;
+    std::map<int, GstBuffer *> m_kept; // owned, by variant
+    bool m_isJpeg = false;
+    unsigned m_damagedCount = 0;
 };

@@ -11,7 +11,7 @@ class FramePacer
 public:
     // backlog: how many frames the device keeps for a reader that is late; older ones are dropped.
     FramePacer(int rateNumerator, int rateDenominator, int64_t backlog)
-        : numerator_(rateNumerator), denominator_(rateDenominator), backlog_(backlog)
+        : m_numerator(rateNumerator), m_denominator(rateDenominator), m_backlog(backlog)
     {
     }
 
@@ -19,37 +19,37 @@ public:
     int64_t timeOf(int64_t frame) const
     {
         return int64_t(
-            gst_util_uint64_scale(guint64(frame), guint64(denominator_) * GST_SECOND, guint64(numerator_)));
+            gst_util_uint64_scale(guint64(frame), guint64(m_denominator) * GST_SECOND, guint64(m_numerator)));
     }
 
-    int64_t oldestKept(int64_t now) const { return newest(now) - backlog_ + 1; }
+    int64_t oldestKept(int64_t now) const { return newest(now) - m_backlog + 1; }
     // The frame to give next: the one after the last, or the oldest that is still kept, or the first after
     // now.
     int64_t next(int64_t now) const
     {
-        return last_ < 0 ? newest(now) + 1 : std::max(last_ + 1, oldestKept(now));
+        return m_last < 0 ? newest(now) + 1 : std::max(m_last + 1, oldestKept(now));
     }
     // Whether frames were dropped before this one.
-    bool isGap(int64_t frame) const { return frame != last_ + 1; }
+    bool isGap(int64_t frame) const { return frame != m_last + 1; }
     void given(int64_t frame)
     {
-        if (last_ < 0)
-            first_ = frame;
-        last_ = frame;
+        if (m_last < 0)
+            m_first = frame;
+        m_last = frame;
     }
     // Counted from the first frame given.
-    int64_t number(int64_t frame) const { return frame - (last_ < 0 ? frame : first_); }
+    int64_t number(int64_t frame) const { return frame - (m_last < 0 ? frame : m_first); }
 
 private:
     int64_t newest(int64_t now) const
     {
         return int64_t(
-            gst_util_uint64_scale(guint64(now), guint64(numerator_), guint64(denominator_) * GST_SECOND));
+            gst_util_uint64_scale(guint64(now), guint64(m_numerator), guint64(m_denominator) * GST_SECOND));
     }
 
-    int64_t numerator_;
-    int64_t denominator_;
-    int64_t backlog_;
-    int64_t first_ = -1;
-    int64_t last_ = -1;
+    int64_t m_numerator;
+    int64_t m_denominator;
+    int64_t m_backlog;
+    int64_t m_first = -1;
+    int64_t m_last = -1;
 };

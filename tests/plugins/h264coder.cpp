@@ -21,12 +21,12 @@ constexpr const char *description = "appsrc name=in format=time ! videoconvert !
 
 H264Coder::~H264Coder()
 {
-    if (!pipeline_)
+    if (!m_pipeline)
         return;
-    gst_element_set_state(pipeline_, GST_STATE_NULL);
-    gst_object_unref(in_);
-    gst_object_unref(out_);
-    gst_object_unref(pipeline_);
+    gst_element_set_state(m_pipeline, GST_STATE_NULL);
+    gst_object_unref(m_in);
+    gst_object_unref(m_out);
+    gst_object_unref(m_pipeline);
 }
 
 GstVideoColorimetry H264Coder::colorimetry() const
@@ -37,29 +37,29 @@ GstVideoColorimetry H264Coder::colorimetry() const
 
 bool H264Coder::start(const Picture &picture)
 {
-    pipeline_ = gst_parse_launch(description, nullptr);
-    if (!pipeline_)
+    m_pipeline = gst_parse_launch(description, nullptr);
+    if (!m_pipeline)
         return false;
-    in_ = gst_bin_get_by_name(GST_BIN(pipeline_), "in");
-    out_ = gst_bin_get_by_name(GST_BIN(pipeline_), "out");
+    m_in = gst_bin_get_by_name(GST_BIN(m_pipeline), "in");
+    m_out = gst_bin_get_by_name(GST_BIN(m_pipeline), "out");
     GstCaps *caps = gst_video_info_to_caps(&picture.info());
     gst_caps_set_simple(caps, "framerate", GST_TYPE_FRACTION, 30, 1, nullptr);
-    gst_app_src_set_caps(GST_APP_SRC(in_), caps);
+    gst_app_src_set_caps(GST_APP_SRC(m_in), caps);
     gst_caps_unref(caps);
-    gst_element_set_state(pipeline_, GST_STATE_PLAYING);
+    gst_element_set_state(m_pipeline, GST_STATE_PLAYING);
     return true;
 }
 
 GstBuffer *H264Coder::encode(Picture *picture)
 {
-    if (!pipeline_ && !start(*picture))
+    if (!m_pipeline && !start(*picture))
         return nullptr;
     GstBuffer *drawn = picture->wrapped();
-    GST_BUFFER_PTS(drawn) = time_;
+    GST_BUFFER_PTS(drawn) = m_time;
     GST_BUFFER_DURATION(drawn) = nominalPeriod;
-    time_ += nominalPeriod;
-    gst_app_src_push_buffer(GST_APP_SRC(in_), drawn);
-    GstSample *sample = gst_app_sink_try_pull_sample(GST_APP_SINK(out_), encodeLimit);
+    m_time += nominalPeriod;
+    gst_app_src_push_buffer(GST_APP_SRC(m_in), drawn);
+    GstSample *sample = gst_app_sink_try_pull_sample(GST_APP_SINK(m_out), encodeLimit);
     if (!sample)
         return nullptr;
     GstBuffer *encoded = gst_buffer_copy(gst_sample_get_buffer(sample));

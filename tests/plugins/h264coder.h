@@ -13,8 +13,8 @@ public:
 private:
     bool start(const Picture &picture);
 
-    GstElement *pipeline_ = nullptr;
-    GstElement *in_ = nullptr;
-    GstElement *out_ = nullptr;
-    GstClockTime time_ = 0;
+    GstElement *m_pipeline = nullptr;
+    GstElement *m_in = nullptr;
+    GstElement *m_out = nullptr;
+    GstClockTime m_time = 0;
 };

@@ -99,20 +99,20 @@ int PageContent::variant(const Moment &moment) const
 
 void PageContent::draw(Picture *picture, const Moment &moment)
 {
-    if (!page_) {
-        page_ = std::make_unique<Picture>(picture->width(), picture->height(), picture->info().colorimetry);
-        drawPage(page_.get());
+    if (!m_page) {
+        m_page = std::make_unique<Picture>(picture->width(), picture->height(), picture->info().colorimetry);
+        drawPage(m_page.get());
     }
     const int width = picture->width();
     std::minstd_rand random(1 + variant(moment));
     for (int row = 0; row < picture->height(); ++row) {
-        const uint8_t *clean = page_->planeRow(0, row);
+        const uint8_t *clean = m_page->planeRow(0, row);
         uint8_t *noisy = picture->planeRow(0, row);
         const int8_t *grain = noise().data() + random() % (noise().size() - size_t(width));
         for (int x = 0; x < width; ++x)
             noisy[x] = static_cast<uint8_t>(clean[x] + grain[x]);
         for (int plane : {1, 2})
-            std::memcpy(picture->planeRow(plane, row), page_->planeRow(plane, row), size_t(width + 1) / 2);
+            std::memcpy(picture->planeRow(plane, row), m_page->planeRow(plane, row), size_t(width + 1) / 2);
     }
 }
 

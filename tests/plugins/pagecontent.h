@@ -12,5 +12,5 @@ public:
 private:
     void drawPage(Picture *picture);
 
-    std::unique_ptr<Picture> page_; // without noise, drawn once
+    std::unique_ptr<Picture> m_page; // without noise, drawn once
 };

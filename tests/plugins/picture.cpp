@@ -19,17 +19,17 @@ uint8_t rounded(double value)
 
 Picture::Picture(int width, int height, const GstVideoColorimetry &colorimetry)
 {
-    gst_video_info_set_format(&info_, GST_VIDEO_FORMAT_Y42B, width, height);
-    info_.colorimetry = colorimetry;
+    gst_video_info_set_format(&m_info, GST_VIDEO_FORMAT_Y42B, width, height);
+    m_info.colorimetry = colorimetry;
     const int stride = (width + strideUnit - 1) / strideUnit * strideUnit;
     const gsize lumaSize = gsize(stride) * height;
-    info_.stride[0] = stride;
-    info_.stride[1] = info_.stride[2] = stride / 2;
-    info_.offset[0] = 0;
-    info_.offset[1] = lumaSize;
-    info_.offset[2] = lumaSize + lumaSize / 2;
-    info_.size = 2 * lumaSize;
-    data_.resize(info_.size + strideUnit);
+    m_info.stride[0] = stride;
+    m_info.stride[1] = m_info.stride[2] = stride / 2;
+    m_info.offset[0] = 0;
+    m_info.offset[1] = lumaSize;
+    m_info.offset[2] = lumaSize + lumaSize / 2;
+    m_info.size = 2 * lumaSize;
+    m_data.resize(m_info.size + strideUnit);
 }
 
 Yuv Picture::colour(uint32_t rgb) const
@@ -39,10 +39,10 @@ Yuv Picture::colour(uint32_t rgb) const
     const double b = (rgb & 0xff) / 255.0;
     double kr = 0.299;
     double kb = 0.114;
-    gst_video_color_matrix_get_Kr_Kb(info_.colorimetry.matrix, &kr, &kb);
+    gst_video_color_matrix_get_Kr_Kb(m_info.colorimetry.matrix, &kr, &kb);
     std::array<gint, GST_VIDEO_MAX_COMPONENTS> offset = {};
     std::array<gint, GST_VIDEO_MAX_COMPONENTS> scale = {};
-    gst_video_color_range_offsets(info_.colorimetry.range, info_.finfo, offset.data(), scale.data());
+    gst_video_color_range_offsets(m_info.colorimetry.range, m_info.finfo, offset.data(), scale.data());
     const double y = kr * r + (1 - kr - kb) * g + kb * b;
     return {rounded(offset[0] + scale[0] * y), rounded(offset[1] + scale[1] * (b - y) / (2 * (1 - kb))),
             rounded(offset[2] + scale[2] * (r - y) / (2 * (1 - kr)))};
@@ -66,14 +66,14 @@ void Picture::fillRect(int x, int y, int width, int height, Yuv colour)
 
 uint8_t *Picture::planeRow(int plane, int row)
 {
-    return data_.data() + info_.offset[plane] + size_t(row) * info_.stride[plane];
+    return m_data.data() + m_info.offset[plane] + size_t(row) * m_info.stride[plane];
 }
 
 GstBuffer *Picture::wrapped()
 {
-    GstBuffer *buffer = gst_buffer_new_wrapped_full(GST_MEMORY_FLAG_READONLY, data_.data(), info_.size, 0,
-                                                    info_.size, nullptr, nullptr);
+    GstBuffer *buffer = gst_buffer_new_wrapped_full(GST_MEMORY_FLAG_READONLY, m_data.data(), m_info.size, 0,
+                                                    m_info.size, nullptr, nullptr);
     gst_buffer_add_video_meta_full(buffer, GST_VIDEO_FRAME_FLAG_NONE, GST_VIDEO_FORMAT_Y42B, width(),
-                                   height(), 3, info_.offset, info_.stride);
+                                   height(), 3, m_info.offset, m_info.stride);
     return buffer;
 }

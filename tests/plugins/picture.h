@@ -15,8 +15,8 @@ class Picture
 public:
     Picture(int width, int height, const GstVideoColorimetry &colorimetry);
 
-    int width() const { return GST_VIDEO_INFO_WIDTH(&info_); }
-    int height() const { return GST_VIDEO_INFO_HEIGHT(&info_); }
+    int width() const { return GST_VIDEO_INFO_WIDTH(&m_info); }
+    int height() const { return GST_VIDEO_INFO_HEIGHT(&m_info); }
 
     // 0xRRGGBB in this picture's colorimetry.
     Yuv colour(uint32_t rgb) const;
@@ -29,9 +29,9 @@ public:
 
     // Borrows the picture's memory: it must outlive the buffer.
     GstBuffer *wrapped();
-    const GstVideoInfo &info() const { return info_; }
+    const GstVideoInfo &info() const { return m_info; }
 
 private:
-    GstVideoInfo info_ = {};
-    std::vector<uint8_t> data_;
+    GstVideoInfo m_info = {};
+    std::vector<uint8_t> m_data;
 };

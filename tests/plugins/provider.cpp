@@ -11,10 +11,10 @@ namespace
 class Listing : public ControlListener
 {
 public:
-    Listing(GstDeviceProvider *provider, std::string mark) : provider_(provider), mark_(std::move(mark)) {}
+    Listing(GstDeviceProvider *provider, std::string mark) : m_provider(provider), m_mark(std::move(mark)) {}
     ~Listing() override
     {
-        for (GstDevice *device : devices_)
+        for (GstDevice *device : m_devices)
             gst_object_unref(device);
     }
     Listing(const Listing &) = delete;
@@ -22,37 +22,37 @@ public:
 
     static void start(const std::shared_ptr<Listing> &listing)
     {
-        const std::lock_guard lock(listing->mutex_);
+        const std::lock_guard lock(listing->m_mutex);
         listing->update(*ControlWatch::instance().listen(listing));
     }
     // After this the provider hears nothing more.
     void stop()
     {
-        const std::lock_guard lock(mutex_);
-        provider_ = nullptr;
+        const std::lock_guard lock(m_mutex);
+        m_provider = nullptr;
     }
     void listing(const ControlFile &file) override
     {
-        const std::lock_guard lock(mutex_);
-        if (provider_)
+        const std::lock_guard lock(m_mutex);
+        if (m_provider)
             update(file);
     }
 
 private:
     void update(const ControlFile &file)
     {
-        const auto gone = std::stable_partition(devices_.begin(), devices_.end(), [&file](GstDevice *device) {
-            return staysListed(device, file);
-        });
-        std::for_each(gone, devices_.end(), [this](GstDevice *device) {
-            gst_device_provider_device_remove(provider_, device);
+        const auto gone =
+            std::stable_partition(m_devices.begin(), m_devices.end(),
+                                  [&file](GstDevice *device) { return staysListed(device, file); });
+        std::for_each(gone, m_devices.end(), [this](GstDevice *device) {
+            gst_device_provider_device_remove(m_provider, device);
             gst_object_unref(device);
         });
-        devices_.erase(gone, devices_.end());
+        m_devices.erase(gone, m_devices.end());
         for (const auto &settings : file.devices()) {
-            if (settings->provider == mark_ && !isListed(*settings)) {
-                devices_.push_back(GST_DEVICE(gst_object_ref_sink(newTestDevice(settings))));
-                gst_device_provider_device_add(provider_, devices_.back());
+            if (settings->provider == m_mark && !isListed(*settings)) {
+                m_devices.push_back(GST_DEVICE(gst_object_ref_sink(newTestDevice(settings))));
+                gst_device_provider_device_add(m_provider, m_devices.back());
             }
         }
     }
@@ -64,15 +64,15 @@ private:
     }
     bool isListed(const DeviceSettings &settings) const
     {
-        return std::any_of(devices_.begin(), devices_.end(), [&settings](GstDevice *device) {
+        return std::any_of(m_devices.begin(), m_devices.end(), [&settings](GstDevice *device) {
             return listedAlike(settingsOf(device), settings);
         });
     }
 
-    std::mutex mutex_;
-    GstDeviceProvider *provider_; // not owned
-    const std::string mark_;
-    std::vector<GstDevice *> devices_;
+    std::mutex m_mutex;
+    GstDeviceProvider *m_provider; // not owned
+    const std::string m_mark;
+    std::vector<GstDevice *> m_devices;
 };
 
 struct OrvaneTestProvider {

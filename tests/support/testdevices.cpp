@@ -15,7 +15,7 @@ QString controlFile()
 
 TestDevices::Section &TestDevices::Section::set(const QString &key, const QString &value)
 {
-    values_[key] = value;
+    m_values[key] = value;
     return *this;
 }
 
@@ -36,19 +36,19 @@ TestDevices::Section &TestDevices::microphone(const QString &id)
 
 TestDevices::Section &TestDevices::section(const QString &kind, const QString &id)
 {
-    Section &section = sections_[id];
-    section.group_ = kind + ' ' + id;
+    Section &section = m_sections[id];
+    section.m_group = kind + ' ' + id;
     return section;
 }
 
 void TestDevices::write() const
 {
     QByteArray text;
-    for (const Section &section : sections_) {
-        if (!section.plugged_)
+    for (const Section &section : m_sections) {
+        if (!section.m_plugged)
             continue;
-        text += '[' + section.group_.toUtf8() + "]\n";
-        for (auto value = section.values_.begin(); value != section.values_.end(); ++value)
+        text += '[' + section.m_group.toUtf8() + "]\n";
+        for (auto value = section.m_values.begin(); value != section.m_values.end(); ++value)
             text += value.key().toUtf8() + '=' + value.value().toUtf8() + '\n';
     }
     QSaveFile file(controlFile());
@@ -58,18 +58,18 @@ void TestDevices::write() const
 
 void TestDevices::pull(const QString &id)
 {
-    sections_[id].plugged_ = false;
+    m_sections[id].m_plugged = false;
     write();
 }
 
 void TestDevices::plug(const QString &id)
 {
-    sections_[id].plugged_ = true;
+    m_sections[id].m_plugged = true;
     write();
 }
 
 void TestDevices::setFault(const QString &id, const QString &word)
 {
-    sections_[id].fault(word);
+    m_sections[id].fault(word);
     write();
 }

@@ -33,9 +33,9 @@ public:
 
     private:
         friend class TestDevices;
-        QString group_;
-        QMap<QString, QString> values_;
-        bool plugged_ = true;
+        QString m_group;
+        QMap<QString, QString> m_values;
+        bool m_plugged = true;
     };
 
     TestDevices() = default;
@@ -60,5 +60,5 @@ public:
 private:
     Section &section(const QString &kind, const QString &id);
 
-    QMap<QString, Section> sections_;
+    QMap<QString, Section> m_sections;
 };
