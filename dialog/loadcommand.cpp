@@ -25,6 +25,8 @@ void CPictorelDlg::OnDirLoad()
 
 void CPictorelDlg::dirLoad()
 {
+    if (m_folderCopy)
+        return;
     const QStringList names = m_isMovieShown ? WebcamUtil::getLoadMovieFile(m_loadFolder)
                                              : WebcamUtil::getFileListFromDir(m_loadFolder, {"photo*"});
     m_folderCopy = new FolderCopy(names, m_loadFolder, WebcamUtil::getTemporaryPath(), this);
