@@ -50,6 +50,7 @@ void CPictorelDlg::OnList()
     m_listView->AddPicture(names);
     m_listView->clearSelectionList();
     m_listView->show();
+    m_timerView->Stop(); // or a timed series would go on behind the list
     m_timerView->hide();
     if (!names.isEmpty())
         focusOn(m_listView);
