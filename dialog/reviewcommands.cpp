@@ -128,6 +128,11 @@ void CPictorelDlg::OnZoom(PictureWidget *pict)
     pict->setGeometry(m_viewRect);
     pict->ZoomMode();
     pict->show();
+    // The button that was pressed is gone; without this the focus would jump to the row.
+    for (CStretchBitmapButton *button : pict->findChildren<CStretchBitmapButton *>()) {
+        if (!button->isHidden())
+            focusOn(button);
+    }
 }
 
 void CPictorelDlg::OnBack(PictureWidget *)
