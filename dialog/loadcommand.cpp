@@ -15,6 +15,7 @@ void CPictorelDlg::OnDirLoad()
     chooser.setOptions(QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks |
                        QFileDialog::DontUseNativeDialog | QFileDialog::ReadOnly);
     chooser.setWindowFlags(Qt::Dialog | Qt::WindowSystemMenuHint | Qt::WindowStaysOnTopHint);
+    chooser.setModal(true); // before it is shown: exec() comes too late for that
     chooser.show();
     chooser.raise();
     if (chooser.exec() != QDialog::Accepted)
