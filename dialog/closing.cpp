@@ -37,6 +37,8 @@ void CPictorelDlg::closeEvent(QCloseEvent *event)
         // Closed from outside while a message is open, a command still stands in the middle of its work and
         // the message may be the live view's child: it then goes with the window.
         if (!QApplication::activeModalWidget()) {
+            // What was pressed while the program saved comes only now, and must find nothing left to command.
+            setEnabled(false);
             delete m_liveView;
             m_liveView = nullptr;
         }

@@ -18,14 +18,15 @@ FolderCopy::~FolderCopy()
 
 void FolderCopy::run()
 {
+    const auto isToStop = [this] { return isInterruptionRequested(); };
     bool isComplete = true;
     for (const QString &name : qAsConst(m_names)) {
-        if (isInterruptionRequested())
+        if (isToStop())
             return;
         const QString from = m_source + "/" + name;
         const QString to = m_target + "/" + name;
         if (QFile::exists(from) && !QFile::exists(to))
-            isComplete = copyFileWhole(from, to) && isComplete;
+            isComplete = copyFileWhole(from, to, isToStop) && isComplete;
     }
     m_isComplete = isComplete;
 }

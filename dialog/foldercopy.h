@@ -13,7 +13,7 @@ class FolderCopy : public QThread
 public:
     FolderCopy(const QStringList &names, const QString &source, const QString &target,
                QObject *parent = nullptr);
-    // Gives up after the file that is being copied.
+    // Gives up in the middle of a file, which then does not appear.
     ~FolderCopy() override;
 
     // Once finished: whether every file stands in the target folder. A file that has vanished from the

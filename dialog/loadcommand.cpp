@@ -15,6 +15,7 @@ void CPictorelDlg::OnDirLoad()
     chooser.setOptions(QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks |
                        QFileDialog::DontUseNativeDialog | QFileDialog::ReadOnly);
     chooser.setWindowFlags(Qt::Dialog | Qt::WindowSystemMenuHint | Qt::WindowStaysOnTopHint);
+    chooser.setModal(true); // before it is shown: exec() comes too late for that
     chooser.show();
     chooser.raise();
     if (chooser.exec() != QDialog::Accepted)
@@ -25,6 +26,8 @@ void CPictorelDlg::OnDirLoad()
 
 void CPictorelDlg::dirLoad()
 {
+    if (m_folderCopy)
+        return;
     const QStringList names = m_isMovieShown ? WebcamUtil::getLoadMovieFile(m_loadFolder)
                                              : WebcamUtil::getFileListFromDir(m_loadFolder, {"photo*"});
     m_folderCopy = new FolderCopy(names, m_loadFolder, WebcamUtil::getTemporaryPath(), this);

@@ -32,6 +32,8 @@ CPictorelDlg::CPictorelDlg(QWidget *parent, Qt::WindowFlags flags)
     setWindowFrame();
     openCamera();
     m_liveView->setGeometry(m_viewRect);
+    // A camera may be lost as soon as it runs: a warning of the first screen leaves time for it.
+    connect(m_liveView, &LiveVideoWidget::disconnectDevice, this, &CPictorelDlg::changeNodevicemode);
     m_liveView->Start();
     TransitionMode(DisplayMode::Live);
     m_movieView->setGeometry(m_viewRect);
@@ -140,7 +142,6 @@ void CPictorelDlg::SetLocalConnect()
     connect(m_listView, &PictureListView::selectedPhoto, this, &CPictorelDlg::PictureSelected);
     connect(this, &CPictorelDlg::loadcomp, m_waitDialog, &CWaiteMsgDlg::comp);
     connect(m_waitDialog, &CWaiteMsgDlg::OnShow, this, &CPictorelDlg::dirLoad);
-    connect(m_liveView, &LiveVideoWidget::disconnectDevice, this, &CPictorelDlg::changeNodevicemode);
 }
 
 bool CPictorelDlg::eventFilter(QObject *watched, QEvent *event)
@@ -164,7 +165,6 @@ void CPictorelDlg::SetPluginPath(const QString &dir)
         m_soundCommand = WebcamUtil::playsound();
 }
 
-// The resolution is only kept for the user: the camera's native size serves the board best.
 void CPictorelDlg::GetSetting()
 {
     m_continuousCount = m_settingDialog->getContinuousShooting();
@@ -172,6 +172,8 @@ void CPictorelDlg::GetSetting()
     m_isAutoShooting = m_settingDialog->getAutoShooting();
     m_hasPhotoPreview = m_settingDialog->getPhotoPreview();
     m_saveDirectory = m_settingDialog->getSaveDirectory();
+    // Only kept for the user: the camera's native size serves the board best.
+    static_cast<void>(m_settingDialog->getResolution());
 }
 
 void CPictorelDlg::OnSettingDlg()

@@ -50,6 +50,7 @@ void CPictorelDlg::OnList()
     m_listView->AddPicture(names);
     m_listView->clearSelectionList();
     m_listView->show();
+    m_timerView->Stop(); // or a timed series would go on behind the list
     m_timerView->hide();
     if (!names.isEmpty())
         focusOn(m_listView);
@@ -63,8 +64,15 @@ void CPictorelDlg::PictureSelected()
     const int previewHeight = m_viewRect.height() - m_listView->height();
     const int previewWidth = m_viewRect.width() * previewHeight / qMax(1, m_viewRect.height());
     const int left = int((width() - previewWidth) * 0.5);
-    m_pictureView->setGeometry(left, 0, previewWidth, previewHeight);
-    showInPictureView(m_listView->currentName(), m_listView->folder());
+    const QSize size(previewWidth, previewHeight);
+    const bool isResized = m_pictureView->size() != size;
+    m_pictureView->setGeometry(QRect(QPoint(left, 0), size));
+    // A click comes here by two ways, and reading a photo takes its time. The list's folder need not be
+    // compared: whatever changes it empties the viewer. When nothing is chosen any more the preview is black,
+    // for a photo in it would be taken for a chosen one.
+    const QString name = m_listView->currentName();
+    if (isResized || name.isEmpty() || m_pictureView->fileName() != name)
+        showInPictureView(name, m_listView->folder());
     m_pictureView->show();
 }
 
@@ -127,6 +135,11 @@ void CPictorelDlg::OnZoom(PictureWidget *pict)
     pict->setGeometry(m_viewRect);
     pict->ZoomMode();
     pict->show();
+    // The button that was pressed is gone; without this the focus would jump to the row.
+    for (CStretchBitmapButton *button : pict->findChildren<CStretchBitmapButton *>()) {
+        if (!button->isHidden())
+            focusOn(button);
+    }
 }
 
 void CPictorelDlg::OnBack(PictureWidget *)

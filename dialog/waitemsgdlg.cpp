@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QShowEvent>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -67,9 +68,11 @@ QString CWaiteMsgDlg::getFailedmsg() const
 void CWaiteMsgDlg::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
+    if (event->spontaneous()) // only brought back, by the window manager: the work runs or is done
+        return;
     showText(getWaitemsg(), m_wait);
     adjustPosition(parentWidget());
-    m_ok->hide(); // the room for it stays, so that nothing jumps when it comes
+    m_ok->hide();
     m_work->show();
     m_starter->start();
 }

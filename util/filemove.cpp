@@ -45,11 +45,13 @@ bool writeAll(int to, const char *data, ssize_t length)
     return true;
 }
 
-bool copyByBlocks(int from, int to)
+using StopTest = std::function<bool()>;
+
+bool copyByBlocks(int from, int to, const StopTest &isToStop)
 {
     constexpr size_t kBlockBytes = size_t{256} * 1024; // past this, larger blocks gain nothing
     std::vector<char> block(kBlockBytes);
-    for (;;) {
+    while (!isToStop()) {
         const ssize_t length = read(from, block.data(), block.size());
         if (length == 0)
             return true;
@@ -58,16 +60,18 @@ bool copyByBlocks(int from, int to)
         if (length < 0 || !writeAll(to, block.data(), length))
             return false;
     }
+    return false;
 }
 
 // The kernel copies where it can, between most file systems of one kind, and may even share the blocks. What
 // it leaves, up to all of the file, goes by blocks, and so does finding out why.
-bool copyContents(int from, int to)
+bool copyContents(int from, int to, const StopTest &isToStop)
 {
-    constexpr size_t kKernelStepBytes = 1U << 30;
-    while (copy_file_range(from, nullptr, to, nullptr, kKernelStepBytes, 0) > 0) {
+    // A fraction of a second even on a slow disk, after which stopping is possible.
+    constexpr size_t kKernelStepBytes = size_t{16} * 1024 * 1024;
+    while (!isToStop() && copy_file_range(from, nullptr, to, nullptr, kKernelStepBytes, 0) > 0) {
     }
-    return copyByBlocks(from, to);
+    return copyByBlocks(from, to, isToStop);
 }
 
 enum class Copy {
@@ -76,7 +80,7 @@ enum class Copy {
     Lasting
 };
 
-bool copyFile(const QString &source, const QString &target, Copy kind)
+bool copyFile(const QString &source, const QString &target, Copy kind, const StopTest &isToStop)
 {
     // Without waiting, as opening a named pipe would.
     const Descriptor from(open(QFile::encodeName(source), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
@@ -84,7 +88,7 @@ bool copyFile(const QString &source, const QString &target, Copy kind)
     if (from < 0 || fstat(from, &status) != 0 || !S_ISREG(status.st_mode))
         return false;
     WholeFile file(target, status.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO));
-    if (file.descriptor() < 0 || !copyContents(from, file.descriptor()))
+    if (file.descriptor() < 0 || !copyContents(from, file.descriptor(), isToStop))
         return false;
     if (kind == Copy::Plain)
         return file.publish();
@@ -95,9 +99,9 @@ bool copyFile(const QString &source, const QString &target, Copy kind)
 
 } // namespace
 
-bool copyFileWhole(const QString &source, const QString &target)
+bool copyFileWhole(const QString &source, const QString &target, const StopTest &isToStop)
 {
-    return copyFile(source, target, Copy::Plain);
+    return copyFile(source, target, Copy::Plain, isToStop);
 }
 
 bool placeFileWhole(const QString &source, const QString &target)
@@ -109,7 +113,7 @@ bool placeFileWhole(const QString &source, const QString &target)
         return true;
     if (errno == EEXIST)
         return false;
-    return copyFile(source, target, Copy::Lasting);
+    return copyFile(source, target, Copy::Lasting, [] { return false; });
 }
 
 bool syncFolder(const QString &path)

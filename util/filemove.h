@@ -2,13 +2,17 @@
 
 #include <QString>
 
+#include <functional>
+
 // The copying operations take plain files only, never replace anything under the target's name, and make the
 // target appear whole or not at all, whenever the program or the disk gives up. The target's folder must
 // exist. They may be called from any thread.
 
 // Copies source to target, which gets the time of the copying. False when the target's name is taken, the
-// source cannot be read or the copy cannot be written.
-bool copyFileWhole(const QString &source, const QString &target);
+// source cannot be read, the copy cannot be written, or isToStop, asked again and again, said so.
+bool copyFileWhole(
+    const QString &source, const QString &target,
+    const std::function<bool()> &isToStop = [] { return false; });
 
 // Makes source's contents, with their modification time, stand at target too: on one file system as a second
 // name, which costs nothing of the size, else as a copy that is on the disk before its name is. False as

@@ -79,7 +79,7 @@ public:
             if (candidate->isVisible())
                 shown << candidate;
         }
-        std::sort(shown.begin(), shown.end(), [](const QWidget *a, const QWidget *b) {
+        std::sort(shown.begin(), shown.end(), [](auto *a, auto *b) {
             return std::make_pair(a->x(), a->y()) < std::make_pair(b->x(), b->y());
         });
         QStringList names;
@@ -88,13 +88,10 @@ public:
         return names.join(' ');
     }
 
-    static QStringList filesIn(const QString &folder)
+    static QStringList captures(const QString &filter = "*",
+                                const QString &folder = WebcamUtil::getTemporaryPath())
     {
-        return QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::Name);
-    }
-    static QStringList captures(const QString &filter = "*")
-    {
-        return QDir(WebcamUtil::getTemporaryPath()).entryList({filter}, QDir::Files, QDir::Name);
+        return QDir(folder).entryList({filter}, QDir::Files | QDir::Hidden, QDir::Name);
     }
 
     TestDevices devices;

@@ -1,4 +1,5 @@
 #include "capture/livevideowidget.h"
+#include "capture/timerwidget.h"
 #include "tests/dialog/mainwindow.h"
 #include "widgets/moviewidget.h"
 #include "widgets/picturewidget.h"
@@ -64,8 +65,6 @@ void TestDisplayModes::everyScreenHasItsButtons()
     const std::initializer_list<Step> walk = {
         {"", live, 5},
         {"Photo", "Live Photo Apply+ PhotoMulti Retry+ Movie List Settings Close", 5},
-        {"Retry", live, 5},
-        {"Photo", "Live Photo Apply+ PhotoMulti Retry+ Movie List Settings Close", 5},
         {"Apply", "Live+ PutPhoto+ List+ Close+", 3},
         {"Live", live, 5},
         {"Movie", "Live Photo PhotoMulti MovieStop+ List Settings Close", 5},
@@ -88,7 +87,7 @@ void TestDisplayModes::everyScreenHasItsButtons()
         QCOMPARE(main.buttons(), QString(step.buttons));
         checkRow(main, step.rowLength);
         if (qstrcmp(step.press, "Movie") == 0)
-            QTest::qWait(1200); // the movie needs a length for play and pause
+            QTRY_COMPARE(main.view<TimerWidget>()->text(), QString("00:01")); // long enough to be played
     }
 
     // A mode that is none shows the live screen; the list after it is not one of movies.
@@ -97,13 +96,6 @@ void TestDisplayModes::everyScreenHasItsButtons()
     QCOMPARE(int(main.window->currentMode()), 7);
     main.press("List");
     QCOMPARE(main.buttons(), QString("Live+ Show Load+ SwitchMovie+ Close+"));
-
-    // Without a camera.
-    main.press("Live");
-    Answers answers({"OK"});
-    main.devices.pull("cam");
-    QTRY_COMPARE(main.buttons(), QString("Live Photo PhotoMulti Movie List+ Settings Close+"));
-    checkRow(main, 5);
 }
 
 void TestDisplayModes::everyScreenHasItsPictures()
@@ -129,7 +121,6 @@ void TestDisplayModes::everyScreenHasItsPictures()
     QCOMPARE(live->geometry(), size.view);
     QVERIFY(live->isVisible() && !picture->isVisible());
     main.press("PhotoMulti");
-    QVERIFY(live->isVisible() && picture->isVisible());
     QCOMPARE(live->geometry(), size.seriesView);
     QCOMPARE(picture->geometry(), size.seriesView.translated(middle, 0));
 }

@@ -1,3 +1,4 @@
+#include "capture/timerwidget.h"
 #include "dialog/gridlayout.h"
 #include "dialog/waitemsgdlg.h"
 #include "tests/dialog/mainwindow.h"
@@ -12,14 +13,12 @@ class TestReviewCommands : public QObject
     Q_OBJECT
 
 private slots:
-    void gridPlaces_data();
     void gridPlaces();
     void listKeepsTheLatest();
     void photosAreChosenShownAndPasted();
     void movieIsChosenShownAndPasted();
-    void pastedPhotoIsTheOneJustTaken();
     void folderIsLoaded();
-    void nothingIsLoadedWithoutAFolder();
+    void waitDialogLastsAsLongAsTheWork();
 
 private:
     static void makePhoto(const QString &path);
@@ -55,7 +54,7 @@ void TestReviewCommands::choose(const MainWindow &main, int row)
     QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, list->visualItemRect(item).center());
 }
 
-// The lines of the only request, as the whiteboard software would read them; the request is gone then.
+// The lines of the only request; the request is gone then.
 QStringList TestReviewCommands::takeRequest()
 {
     const QDir folder(WebcamUtil::getTemporaryPath() + "/tmp");
@@ -70,31 +69,27 @@ QStringList TestReviewCommands::takeRequest()
     return text.endsWith('\n') ? text.chopped(1).split('\n') : QStringList{"cut: " + text};
 }
 
-void TestReviewCommands::gridPlaces_data()
-{
-    // In an area of 933x700 at 45, worked out by hand: the corners of all, then their size.
-    QTest::addColumn<QVector<QPoint>>("corners");
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("none") << QVector<QPoint>{} << QSize();
-    QTest::newRow("one") << QVector<QPoint>{{45, 0}} << QSize(933, 700);
-    QTest::newRow("two") << QVector<QPoint>{{45, 175}, {511, 175}} << QSize(466, 350);
-    QTest::newRow("three") << QVector<QPoint>{{45, 233}, {356, 233}, {667, 233}} << QSize(311, 233);
-    QTest::newRow("four") << QVector<QPoint>{{45, 0}, {511, 0}, {45, 350}, {511, 350}} << QSize(466, 350);
-    QTest::newRow("five") << QVector<QPoint>{{45, 117}, {356, 117}, {667, 117}, {45, 350}, {356, 350}}
-                          << QSize(311, 233);
-    QTest::newRow("seven") << QVector<QPoint>{{45, 0},    {356, 0},   {667, 0}, {45, 233},
-                                              {356, 233}, {667, 233}, {45, 466}}
-                           << QSize(311, 233);
-}
-
 void TestReviewCommands::gridPlaces()
 {
-    QFETCH(QVector<QPoint>, corners);
-    QFETCH(QSize, size);
-    QVector<QRect> expected;
-    for (const QPoint &corner : qAsConst(corners))
-        expected << QRect(corner, size);
-    QCOMPARE(gridTiles(QRect(45, 0, 933, 700), corners.size()), expected);
+    // In an area of 933x700 at 45, worked out by hand.
+    const QRect area(45, 0, 933, 700);
+    const auto rects = [](const QVector<QPoint> &corners, const QSize &size) {
+        QVector<QRect> places;
+        for (const QPoint &corner : corners)
+            places << QRect(corner, size);
+        return places;
+    };
+    const QSize half(466, 350);
+    const QSize third(311, 233);
+    QCOMPARE(gridTiles(area, 0), rects({}, half));
+    QCOMPARE(gridTiles(area, 1), QVector<QRect>{area});
+    QCOMPARE(gridTiles(area, 2), rects({{45, 175}, {511, 175}}, half));
+    QCOMPARE(gridTiles(area, 4), rects({{45, 0}, {511, 0}, {45, 350}, {511, 350}}, half));
+    const QVector<QPoint> five = {{45, 117}, {356, 117}, {667, 117}, {45, 350}, {356, 350}};
+    QCOMPARE(gridTiles(area, 3), rects({{45, 233}, {356, 233}, {667, 233}}, third));
+    QCOMPARE(gridTiles(area, 5), rects(five, third));
+    const QVector<QPoint> seven = {{45, 0}, {356, 0}, {667, 0}, {45, 233}, {356, 233}, {667, 233}, {45, 466}};
+    QCOMPARE(gridTiles(area, 7), rects(seven, third));
 }
 
 void TestReviewCommands::listKeepsTheLatest()
@@ -116,60 +111,63 @@ void TestReviewCommands::listKeepsTheLatest()
 
 void TestReviewCommands::photosAreChosenShownAndPasted()
 {
-    MainWindow main;
+    MainWindow main("PhotoPreview=0\n");
     const QString folder = WebcamUtil::getTemporaryPath();
+    const QStringList head = {"0", "933x700", folder};
+    main.press("Photo");
+    const QString taken = MainWindow::captures().first();
+    main.press("PutPhoto");
+    QCOMPARE(takeRequest(), head + QStringList(taken));
+
     const QString forged = "photo1\n1.png"; // would be two lines
     const QString arabic = QString::fromUtf8("photoصورة😀.png");
-    makePhoto(folder + "/photo0.png");
-    makePhoto(folder + "/" + forged);
-    makePhoto(folder + "/" + arabic);
-    makePhoto(folder + "/photo3.png");
+    for (const QString &name : {QString("photo0.png"), forged, arabic})
+        makePhoto(folder + "/" + name);
     main.press("List");
     choose(main, 3);
     QVERIFY(main.button("Show")->isEnabled());
-    QVERIFY(main.view<PictureWidget>()->isVisible());
+    auto *preview = main.view<PictureWidget>();
+    QCOMPARE(preview->fileName(), arabic);
+    const auto middle = [preview] { return preview->grab().toImage().pixelColor(preview->rect().center()); };
+    QCOMPARE(middle(), QColor(Qt::white));
     choose(main, 3);
     QVERIFY(!main.button("Show")->isEnabled());
+    QCOMPARE(middle(), QColor(Qt::black));
     for (int row : {3, 1, 0, 2})
         choose(main, row);
     main.press("Show");
     QCOMPARE(main.tiles().size(), 4);
     QCOMPARE(main.buttons(), QString("Live+ PutPhoto+ List+ Close+"));
-
-    const QStringList head = {"0", "933x700", folder};
     main.press("PutPhoto");
-    QCOMPARE(takeRequest(), head + QStringList({"photo3.png", "photo0.png", arabic}));
-    const auto pressOn = [&main](PictureWidget *tile, const char *button) {
-        for (auto *candidate : tile->findChildren<CStretchBitmapButton *>()) {
-            if (candidate->accessibleName() == button)
-                QTest::mouseClick(candidate, Qt::LeftButton);
+    QCOMPARE(takeRequest(), head + QStringList({arabic, "photo0.png", taken}));
+
+    // The button for going back comes under the finger, and under the key, that zoomed.
+    const auto keyOn = [&](PictureWidget *tile, const QString &name) {
+        for (auto *button : tile->findChildren<CStretchBitmapButton *>()) {
+            if (button->accessibleName() == name)
+                button->setFocus(Qt::TabFocusReason);
         }
+        QTest::keyClick(main.window->focusWidget(), Qt::Key_Space);
     };
-    pressOn(main.tiles().at(2), "Zoom");
+    keyOn(main.tiles().at(1), "Zoom");
     QCOMPARE(main.tiles().size(), 1);
     QCOMPARE(main.tiles().first()->geometry(), QRect(45, 0, 933, 700));
-    // A second one within the second takes the place of the first.
+    QCOMPARE(main.window->focusWidget()->accessibleName(), QString("Back"));
+    // A second request within the second takes the place of the first.
     QTRY_VERIFY(QTime::currentTime().msec() < 300);
     main.press("PutPhoto");
     main.press("PutPhoto");
     QCOMPARE(takeRequest(), head + QStringList("photo0.png"));
-    pressOn(main.tiles().first(), "Back");
+    keyOn(main.tiles().first(), "Back");
     QCOMPARE(main.tiles().size(), 4);
-    QCOMPARE(main.tiles().first()->fileName(), QString("photo3.png"));
-
-    main.press("List");
-    QVERIFY(main.tiles().isEmpty());
-    choose(main, 0);
-    main.press("Show");
-    QCOMPARE(main.tiles().size(), 1);
-    QVERIFY(main.tiles().first()->findChildren<CStretchBitmapButton *>().isEmpty());
+    QCOMPARE(main.tiles().first()->fileName(), arabic);
 }
 
 void TestReviewCommands::movieIsChosenShownAndPasted()
 {
     MainWindow main;
     main.press("Movie");
-    QTest::qWait(1200);
+    QTRY_COMPARE(main.view<TimerWidget>()->text(), QString("00:01"));
     main.press("MovieStop");
     const QString movie = MainWindow::captures("*.mov").first();
     main.press("List");
@@ -181,28 +179,24 @@ void TestReviewCommands::movieIsChosenShownAndPasted()
     QCOMPARE(takeRequest(), QStringList({"1", "XXX", WebcamUtil::getTemporaryPath(), "/" + movie}));
 }
 
-void TestReviewCommands::pastedPhotoIsTheOneJustTaken()
-{
-    MainWindow main("PhotoPreview=0\n");
-    makePhotos(2);
-    main.press("Photo");
-    main.press("PutPhoto");
-    QCOMPARE(takeRequest(), QStringList({"0", "933x700", WebcamUtil::getTemporaryPath(),
-                                         MainWindow::captures("photo2*").first()}));
-}
-
+// The wait dialog stands when this returns; the work begins afterwards.
 void TestReviewCommands::load(const MainWindow &main, const QString &folder)
 {
-    QTimer::singleShot(200, main.window.get(), [&] {
-        auto *chooser = main.window->findChild<QFileDialog *>();
+    QTimer look;
+    connect(&look, &QTimer::timeout, [&] {
+        auto *chooser = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        if (!chooser)
+            return;
         if (folder.isEmpty()) {
             chooser->reject();
             return;
         }
-        chooser->findChild<QLineEdit *>("fileNameEdit")->setText(folder);
-        chooser->findChild<QLineEdit *>("fileNameEdit")->setFocus();
-        QTest::keyClick(chooser->findChild<QLineEdit *>("fileNameEdit"), Qt::Key_Return);
+        auto *name = chooser->findChild<QLineEdit *>("fileNameEdit");
+        name->setText(folder);
+        name->setFocus();
+        QTest::keyClick(name, Qt::Key_Return);
     });
+    look.start(50); // until it is accepted: it may still be reading the folder
     main.press("Load");
 }
 
@@ -217,24 +211,23 @@ void TestReviewCommands::folderIsLoaded()
         MainWindow::writeFile(earlier + "/" + name, name);
     MainWindow::writeFile(working + "/photo001.png", "kept");
     main.press("List");
-    const auto *wait = main.view<CWaiteMsgDlg>();
-    {
+    load(main, QString());
+    QVERIFY(!main.view<CWaiteMsgDlg>()->isVisible());
+    const auto loadAndRead = [&](const QString &told) {
         Answers answers({"OK"});
         load(main, earlier);
-        QTRY_COMPARE(answers.told(), QStringList("Complete"));
-        QVERIFY(!wait->isVisible());
-    }
+        if (told == "Vanished")
+            QDir(earlier).removeRecursively();
+        QTRY_COMPARE(answers.told(), QStringList(told == "Vanished" ? "Failed." : told));
+    };
+    loadAndRead("Complete");
     QCOMPARE(MainWindow::captures(), QStringList({"photo000.png", "photo001.png", "photo002.png"}));
     QCOMPARE(QFileInfo(working + "/photo001.png").size(), 4);
     QCOMPARE(main.view<PictureListView>()->nameList().size(), 3);
 
     // Movies come with their previews, and the list of them still leads back to the photos.
     main.press("SwitchMovie");
-    {
-        Answers answers({"OK"});
-        load(main, earlier);
-        QTRY_COMPARE(answers.told(), QStringList("Complete"));
-    }
+    loadAndRead("Complete");
     QCOMPARE(MainWindow::captures("movie*"), QStringList({"movie1.mov", "movie1tmp.png"}));
     QCOMPARE(main.view<PictureListView>()->nameList(), QStringList("movie1tmp.png"));
     main.press("SwitchPhoto");
@@ -243,29 +236,36 @@ void TestReviewCommands::folderIsLoaded()
     QFile::remove(working + "/photo000.png");
     QVERIFY(QFile::link("/nowhere", working + "/photo000.png"));
     QFile::remove(working + "/photo002.png");
-    {
-        Answers answers({"OK"});
-        load(main, earlier);
-        QTRY_COMPARE(answers.told(), QStringList("Failed."));
-    }
+    loadAndRead("Failed.");
     QVERIFY(QFile::exists(working + "/photo002.png"));
+    loadAndRead("Vanished");
 }
 
-void TestReviewCommands::nothingIsLoadedWithoutAFolder()
+void TestReviewCommands::waitDialogLastsAsLongAsTheWork()
 {
-    MainWindow main;
-    main.press("List");
-    const auto *wait = main.view<CWaiteMsgDlg>();
-    load(main, QString());
-    QTest::qWait(200);
-    QVERIFY(!wait->isVisible());
-
-    // From the working folder itself nothing is to be copied.
-    makePhotos(2);
-    Answers answers({"OK"});
-    load(main, WebcamUtil::getTemporaryPath());
-    QTRY_COMPARE(answers.told(), QStringList("Complete"));
-    QCOMPARE(MainWindow::captures().size(), 2);
+    CWaiteMsgDlg dialog;
+    const auto *text = dialog.findChild<QLabel *>();
+    dialog.setLoadingTexts("Loading it.", "Loaded it.", "Could not load it.");
+    QSignalSpy starts(&dialog, &CWaiteMsgDlg::OnShow);
+    for (bool success : {true, false}) {
+        dialog.show();
+        QCOMPARE(text->text(), QString("Please Waite.."));
+        QCOMPARE(text->accessibleDescription(), QString("Loading it."));
+        QVERIFY(starts.wait(1000));
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+        QVERIFY(!dialog.close());
+        dialog.comp(success);
+        // Brought back by the window manager.
+        QShowEvent again;
+        QSpontaneKeyEvent::setSpontaneous(&again);
+        qApp->notify(&dialog, &again);
+        QVERIFY(!starts.wait(150));
+        QCOMPARE(text->text(), QString(success ? "Complete" : "Failed."));
+        QCOMPARE(text->accessibleDescription(), QString(success ? "Loaded it." : "Could not load it."));
+        QTest::mouseClick(dialog.findChild<QPushButton *>(), Qt::LeftButton);
+        QVERIFY(!dialog.isVisible());
+    }
+    QCOMPARE(starts.count(), 2);
 }
 
 QTEST_MAIN(TestReviewCommands)
