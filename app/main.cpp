@@ -10,12 +10,13 @@ int main(int argc, char **argv)
     // Keeping windows on top and embedding the live picture speak to the X server. In a Wayland session the
     // program runs through that session's X server; elsewhere this is what Qt takes anyway.
     qputenv("QT_QPA_PLATFORM", "xcb");
-    // Nothing is drawn with OpenGL, and loading its drivers would take a fifth of the way to the first picture.
+    // Nothing is drawn with OpenGL, and loading its drivers would take a fifth of the way to the first
+    // picture.
     qputenv("QT_XCB_GL_INTEGRATION", "none");
 
     QtSingleApplication application("Orvane", argc, argv);
-    constexpr int kWakeUpTimeoutMs = 5000;
-    if (application.sendMessage("Wake up!", kWakeUpTimeoutMs))
+    constexpr int wakeUpTimeoutMs = 5000;
+    if (application.sendMessage("Wake up!", wakeUpTimeoutMs))
         return 0;
     application.isRunning();
 

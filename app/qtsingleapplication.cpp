@@ -15,10 +15,10 @@
 namespace
 {
 
-constexpr auto kStreamVersion = QDataStream::Qt_5_0; // instances of two builds must understand each other
-constexpr qint64 kMaximumMessageBytes = 65536;       // above any message: no sender may fill the memory
-constexpr char kTaken = '+';                         // the answer to a message
-constexpr unsigned long kRetryMs = 20; // between two looks for an instance that is just starting
+constexpr auto streamVersion = QDataStream::Qt_5_0; // instances of two builds must understand each other
+constexpr qint64 maximumMessageBytes = 65536;       // above any message: no sender may fill the memory
+constexpr char taken = '+';                         // the answer to a message
+constexpr unsigned long retryMs = 20;               // between two looks for an instance that is just starting
 
 int remaining(const QDeadlineTimer &deadline)
 {
@@ -89,7 +89,7 @@ bool QtSingleApplication::sendMessage(const QString &message, int timeoutMs)
             return true;
         if (deadline.hasExpired())
             return false;
-        QThread::msleep(kRetryMs);
+        QThread::msleep(retryMs);
     }
     return false;
 }
@@ -101,7 +101,7 @@ bool QtSingleApplication::deliver(const QString &message, const QDeadlineTimer &
     if (!socket.waitForConnected(remaining(deadline)))
         return false;
     QDataStream stream(&socket);
-    stream.setVersion(kStreamVersion);
+    stream.setVersion(streamVersion);
     stream << message;
     while (socket.bytesToWrite() > 0) {
         if (!socket.waitForBytesWritten(remaining(deadline)))
@@ -109,13 +109,13 @@ bool QtSingleApplication::deliver(const QString &message, const QDeadlineTimer &
     }
     // Written is not taken: an instance that hangs would never read it.
     char answer = 0;
-    return socket.waitForReadyRead(remaining(deadline)) && socket.getChar(&answer) && answer == kTaken;
+    return socket.waitForReadyRead(remaining(deadline)) && socket.getChar(&answer) && answer == taken;
 }
 
 void QtSingleApplication::acceptSender()
 {
     while (QLocalSocket *sender = m_server->nextPendingConnection()) {
-        sender->setReadBufferSize(kMaximumMessageBytes);
+        sender->setReadBufferSize(maximumMessageBytes);
         connect(sender, &QLocalSocket::disconnected, sender, &QObject::deleteLater);
         connect(sender, &QLocalSocket::readyRead, this, [this, sender] { takeMessage(sender); });
         takeMessage(sender); // it may be there already
@@ -125,13 +125,13 @@ void QtSingleApplication::acceptSender()
 void QtSingleApplication::takeMessage(QLocalSocket *sender)
 {
     QDataStream stream(sender);
-    stream.setVersion(kStreamVersion);
+    stream.setVersion(streamVersion);
     stream.startTransaction();
     QString message;
     stream >> message;
     if (!stream.commitTransaction())
         return; // not whole yet
-    sender->putChar(kTaken);
+    sender->putChar(taken);
     sender->flush();
     emit messageReceived(message);
 }

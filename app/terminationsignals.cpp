@@ -11,7 +11,7 @@
 namespace
 {
 
-constexpr int kSignals[] = {SIGTERM, SIGINT, SIGHUP};
+constexpr int handledSignals[] = {SIGTERM, SIGINT, SIGHUP};
 
 std::atomic<int> wakeUpPipe{-1};
 
@@ -30,7 +30,7 @@ void handleWith(void (*handler)(int))
     action.sa_handler = handler;
     action.sa_flags = SA_RESTART;
     sigemptyset(&action.sa_mask);
-    for (int number : kSignals)
+    for (int number : handledSignals)
         sigaction(number, &action, nullptr);
 }
 

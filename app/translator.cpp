@@ -4,8 +4,8 @@
 #include <QLocale>
 #include <QSettings>
 
-static const QString kSuffix = QStringLiteral(".qm");
-constexpr int kLanguageLetters = 2; // of a locale such as "de_CH"
+static const QString suffix = QStringLiteral(".qm");
+constexpr int languageLetters = 2; // of a locale such as "de_CH"
 
 // What the whiteboard software has set; empty when it has set nothing.
 static QString boardLocale()
@@ -22,10 +22,10 @@ QString CTranslator::getLocale(const QString &dir, const QString &prefix)
     if (locale.isEmpty())
         return "en";
     const QDir folder(dir);
-    if (folder.exists(prefix + locale + kSuffix))
+    if (folder.exists(prefix + locale + suffix))
         return locale;
-    QString language = locale.left(kLanguageLetters);
-    if (folder.exists(prefix + language + kSuffix))
+    QString language = locale.left(languageLetters);
+    if (folder.exists(prefix + language + suffix))
         return language;
     return language == "nb" ? "no" : "en";
 }
@@ -48,14 +48,14 @@ QString CTranslator::getTranslationsDirPath() const
 
 QString CTranslator::getFilenameFromLocaleString(const QString &locale) const
 {
-    return m_prefix + locale + kSuffix;
+    return m_prefix + locale + suffix;
 }
 
 QString CTranslator::getLocaleStringFromFilename(const QString &file) const
 {
     QString locale = file;
-    if (locale.endsWith(kSuffix))
-        locale.chop(kSuffix.size());
+    if (locale.endsWith(suffix))
+        locale.chop(suffix.size());
     if (locale.startsWith(m_prefix))
         locale.remove(0, m_prefix.size());
     return locale.startsWith('_') ? locale.mid(1) : locale;
@@ -65,7 +65,7 @@ void CTranslator::createLocaleList()
 {
     m_localeList.clear();
     const QStringList files =
-        QDir(getTranslationsDirPath()).entryList({m_prefix + "_*" + kSuffix}, QDir::Files, QDir::Name);
+        QDir(getTranslationsDirPath()).entryList({m_prefix + "_*" + suffix}, QDir::Files, QDir::Name);
     for (const QString &file : files)
         m_localeList.append(getLocaleStringFromFilename(file));
 }
@@ -75,7 +75,7 @@ bool CTranslator::loadTranslations()
     createLocaleList();
     const QString board = getLocale();
     const QString system = QLocale::system().name();
-    for (const QString &locale : {board, board.left(kLanguageLetters), system.left(kLanguageLetters)}) {
+    for (const QString &locale : {board, board.left(languageLetters), system.left(languageLetters)}) {
         if (m_localeList.contains(locale))
             return load(getFilenameFromLocaleString("_" + locale), getTranslationsDirPath());
     }

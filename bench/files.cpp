@@ -17,11 +17,11 @@
 namespace
 {
 
-constexpr int kRounds = 5;
-constexpr int kPhotos = 50;
-constexpr int kPhotoBytes = 2800 * 1000; // of 1920x1080
-constexpr int kMovieMegabytes = 500;
-constexpr int kMegabyte = 1000 * 1000;
+constexpr int rounds = 5;
+constexpr int photos = 50;
+constexpr int photoBytes = 2800 * 1000; // of 1920x1080
+constexpr int movieMegabytes = 500;
+constexpr int megabyte = 1000 * 1000;
 
 struct Captures {
     const char *name;
@@ -49,15 +49,15 @@ void writeFile(const QString &path, const QByteArray &block, int times)
 
 void makePhotos(const QString &folder)
 {
-    const QByteArray photo = noise(kPhotoBytes);
-    for (int i = 0; i < kPhotos; ++i)
+    const QByteArray photo = noise(photoBytes);
+    for (int i = 0; i < photos; ++i)
         writeFile(folder + QString("/photo202401011200000%1.png").arg(i, 2, 10, QChar('0')), photo, 1);
 }
 
 void makeMovie(const QString &folder)
 {
-    writeFile(folder + "/movie20240101120000.mov", noise(kMegabyte), kMovieMegabytes);
-    writeFile(folder + "/movie20240101120000tmp.png", noise(kPhotoBytes), 1);
+    writeFile(folder + "/movie20240101120000.mov", noise(megabyte), movieMegabytes);
+    writeFile(folder + "/movie20240101120000tmp.png", noise(photoBytes), 1);
 }
 
 void emptyFolder(const QString &folder)
@@ -118,7 +118,7 @@ void compareSaving(const Captures &captures, const QString &from, const QString 
     const QString working = workingFolderIn(from);
     Comparison lasting({QString("saving %1, %2, against cp and sync").arg(captures.name, where), "ms", 1.1});
     Comparison plain({QString("saving %1, %2, against cp").arg(captures.name, where), "ms"});
-    for (int round = 0; round < kRounds; ++round) {
+    for (int round = 0; round < rounds; ++round) {
         const QString peers = to + "/peers";
         const QString ours = to + "/ours";
         emptyFolder(working);
@@ -150,7 +150,7 @@ void compareLoading(const Captures &captures, const QString &from, const QString
     Comparison loading({QString("loading %1, %2, against cp").arg(captures.name, where), "ms", 1.1});
     // Reads the source and touches the target for the first time, as every later round finds them.
     timeOfCopy(copy, peers);
-    for (int round = 0; round < kRounds; ++round) {
+    for (int round = 0; round < rounds; ++round) {
         const double ours = timeOfLoading(source, working);
         loading.add(ours * 1000, timeOfCopy(copy, peers) * 1000);
     }

@@ -13,9 +13,9 @@
 namespace
 {
 
-constexpr int kRounds = 5;
-constexpr qint64 kSettlingMilliseconds = 1500;
-constexpr qint64 kMeasuredMilliseconds = 5000;
+constexpr int rounds = 5;
+constexpr qint64 settlingMilliseconds = 1500;
+constexpr qint64 measuredMilliseconds = 5000;
 
 struct Cost {
     double program = 0; // milliseconds for each displayed frame
@@ -37,13 +37,13 @@ Cost measure(const QString &program, const QStringList &arguments)
     QElapsedTimer clock;
     clock.start();
     int first = process.nextRendered();
-    while (clock.elapsed() < kSettlingMilliseconds)
+    while (clock.elapsed() < settlingMilliseconds)
         first = process.nextRendered();
     clock.restart();
     const double programStart = process.processorTime();
     const double serverStart = processorSeconds(server);
     int last = first;
-    while (clock.elapsed() < kMeasuredMilliseconds)
+    while (clock.elapsed() < measuredMilliseconds)
         last = process.nextRendered();
     const double frames = last - first;
     return {(process.processorTime() - programStart) * 1000 / frames,
@@ -72,7 +72,7 @@ void compare(const Camera &camera, const QSize &window)
     Comparison program({QString("%1 camera in %2").arg(camera.name, size), "ms/frame", 1.0});
     Comparison server({"  the X server's share", "ms/frame"});
     Comparison rate({"  frames shown", "1/s"});
-    for (int round = 0; round < kRounds; ++round) {
+    for (int round = 0; round < rounds; ++round) {
         const Cost ours = measure(LIVE_PROGRAM, {"show", size});
         const Cost peers = measurePeer(camera, window);
         program.add(ours.program, peers.program);

@@ -54,8 +54,8 @@ int show(const QString &size)
         std::printf("rendered: %d\n", counter.painted);
         std::fflush(stdout);
     });
-    constexpr int kReportEveryMilliseconds = 500;
-    report.start(kReportEveryMilliseconds);
+    constexpr int reportEveryMilliseconds = 500;
+    report.start(reportEveryMilliseconds);
     return QApplication::exec();
 }
 
@@ -76,8 +76,8 @@ int record(const QString &path)
             QApplication::quit();
         }
     });
-    constexpr int kLookEveryMilliseconds = 50;
-    look.start(kLookEveryMilliseconds);
+    constexpr int lookEveryMilliseconds = 50;
+    look.start(lookEveryMilliseconds);
     return QApplication::exec();
 }
 

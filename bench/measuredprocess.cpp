@@ -13,7 +13,7 @@
 
 namespace
 {
-constexpr int kMostWaitMilliseconds = 10000;
+constexpr int mostWaitMilliseconds = 10000;
 } // namespace
 
 double processorSeconds(qint64 process)
@@ -47,7 +47,7 @@ MeasuredProcess::MeasuredProcess(const QString &program, const QStringList &argu
 MeasuredProcess::~MeasuredProcess()
 {
     m_process.terminate();
-    if (!m_process.waitForFinished(kMostWaitMilliseconds))
+    if (!m_process.waitForFinished(mostWaitMilliseconds))
         m_process.kill();
     m_process.waitForFinished();
 }
@@ -57,13 +57,13 @@ int MeasuredProcess::nextRendered()
     static const QRegularExpression counter("rendered: (\\d+)");
     QElapsedTimer waited;
     waited.start();
-    while (waited.elapsed() < kMostWaitMilliseconds) {
+    while (waited.elapsed() < mostWaitMilliseconds) {
         while (m_process.canReadLine()) {
             const auto match = counter.match(m_process.readLine());
             if (match.hasMatch())
                 return match.captured(1).toInt();
         }
-        m_process.waitForReadyRead(kMostWaitMilliseconds);
+        m_process.waitForReadyRead(mostWaitMilliseconds);
     }
     qFatal("%s shows nothing", qPrintable(m_process.program()));
 }
@@ -71,7 +71,7 @@ int MeasuredProcess::nextRendered()
 void MeasuredProcess::interrupt()
 {
     kill(pid_t(m_process.processId()), SIGINT);
-    if (!m_process.waitForFinished(kMostWaitMilliseconds))
+    if (!m_process.waitForFinished(mostWaitMilliseconds))
         qFatal("%s does not end", qPrintable(m_process.program()));
 }
 

@@ -15,7 +15,7 @@
 namespace
 {
 
-constexpr int kRounds = 7;
+constexpr int rounds = 7;
 
 FramePtr frameOf(const QSize &size)
 {
@@ -48,7 +48,7 @@ void compare(const QSize &size)
     const QString name = QString("photo of %1x%2").arg(size.width()).arg(size.height());
     Comparison time({name, "ms", 1.0 / 12});
     Comparison bytes({"  its file", "MB", 1.1});
-    for (int round = 0; round < kRounds; ++round) {
+    for (int round = 0; round < rounds; ++round) {
         QFile::remove(ours);
         bool isSaved = false;
         const double ourTime =

@@ -19,10 +19,10 @@ namespace
 
 using namespace std::chrono_literals;
 
-constexpr int kRounds = 5;
-constexpr auto kSettling = 2s;
-constexpr auto kMeasured = 8s;
-constexpr double kFramesPerSecond = 30;
+constexpr int rounds = 5;
+constexpr auto settling = 2s;
+constexpr auto measured = 8s;
+constexpr double framesPerSecond = 30;
 
 struct Recording {
     double processorShare = 0; // milliseconds for each frame's time
@@ -45,11 +45,11 @@ int missingFrames(const QString &path)
     while (const SampleHandle sample{gst_app_sink_pull_sample(GST_APP_SINK(sink.get()))}) {
         const double time = double(GST_BUFFER_PTS(gst_sample_get_buffer(sample.get()))) / GST_SECOND;
         if (++frames > 2)
-            missing += qMax(0, qRound((time - previous) * kFramesPerSecond) - 1);
+            missing += qMax(0, qRound((time - previous) * framesPerSecond) - 1);
         previous = time;
     }
     gst_element_set_state(pipeline.get(), GST_STATE_NULL);
-    if (frames < kFramesPerSecond)
+    if (frames < framesPerSecond)
         qFatal("%s holds no movie", qPrintable(path));
     return missing;
 }
@@ -57,12 +57,12 @@ int missingFrames(const QString &path)
 Recording measure(const QString &program, const QStringList &arguments, const QString &path)
 {
     MeasuredProcess process(program, arguments);
-    std::this_thread::sleep_for(kSettling);
+    std::this_thread::sleep_for(settling);
     const double start = process.processorTime();
-    std::this_thread::sleep_for(kMeasured);
+    std::this_thread::sleep_for(measured);
     const double spent = process.processorTime() - start;
     process.interrupt();
-    return {spent * 1000 / (std::chrono::duration<double>(kMeasured).count() * kFramesPerSecond),
+    return {spent * 1000 / (std::chrono::duration<double>(measured).count() * framesPerSecond),
             double(missingFrames(path))};
 }
 
@@ -95,7 +95,7 @@ int main(int argc, char **argv)
     Comparison time({"recording 1920x1080 at 30/s with sound", "ms/frame", 1.1});
     std::vector<double> missing;
     std::vector<double> missingFromPeers;
-    for (int round = 0; round < kRounds; ++round) {
+    for (int round = 0; round < rounds; ++round) {
         const QString ourPath = folder.filePath(QString("ours%1.mov").arg(round));
         const QString peerPath = folder.filePath(QString("peers%1.mov").arg(round));
         const Recording ours = measure(LIVE_PROGRAM, {"record", ourPath}, ourPath);

@@ -19,13 +19,13 @@ namespace
 
 using namespace std::chrono_literals;
 
-constexpr int kRounds = 7;
-constexpr auto kLongestStart = 20s;
-constexpr auto kLookEvery = 1ms;
+constexpr int rounds = 7;
+constexpr auto longestStart = 20s;
+constexpr auto lookEvery = 1ms;
 // In the middle of the live picture on a screen of 1920x1080.
-constexpr int kLookAtX = 960;
-constexpr int kLookAtY = 492;
-constexpr int kColour = 0xc020c0;
+constexpr int lookAtX = 960;
+constexpr int lookAtY = 492;
+constexpr int colour = 0xc020c0;
 
 class WatchedScreen
 {
@@ -38,14 +38,14 @@ public:
 
     bool showsCamera() const
     {
-        XImage *image = XGetImage(m_display.get(), DefaultRootWindow(m_display.get()), kLookAtX, kLookAtY, 1,
-                                  1, AllPlanes, ZPixmap);
+        XImage *image = XGetImage(m_display.get(), DefaultRootWindow(m_display.get()), lookAtX, lookAtY, 1, 1,
+                                  AllPlanes, ZPixmap);
         const unsigned long pixel = XGetPixel(image, 0, 0);
         XDestroyImage(image);
         // A camera's picture goes through another colour space, which rounds.
-        constexpr int kTolerance = 12;
+        constexpr int tolerance = 12;
         for (const int shift : {0, 8, 16}) {
-            if (std::abs(int(pixel >> shift & 0xff) - (kColour >> shift & 0xff)) > kTolerance)
+            if (std::abs(int(pixel >> shift & 0xff) - (colour >> shift & 0xff)) > tolerance)
                 return false;
         }
         return true;
@@ -53,11 +53,11 @@ public:
 
     void waitUntil(bool shown) const
     {
-        const auto limit = std::chrono::steady_clock::now() + kLongestStart;
+        const auto limit = std::chrono::steady_clock::now() + longestStart;
         while (showsCamera() != shown) {
             if (std::chrono::steady_clock::now() > limit)
                 qFatal("the live picture does not %s", shown ? "come" : "go");
-            std::this_thread::sleep_for(kLookEvery);
+            std::this_thread::sleep_for(lookEvery);
         }
     }
 
@@ -85,7 +85,7 @@ double millisecondsToPicture(const WatchedScreen &screen, const QString &program
 int main()
 {
     TestDevices devices;
-    devices.camera("cam").formats("YUY2 1920x1080 30").content("solid").colour(QString::number(kColour, 16));
+    devices.camera("cam").formats("YUY2 1920x1080 30").content("solid").colour(QString::number(colour, 16));
     devices.microphone("mic").sound("silence");
     devices.write();
     const WatchedScreen screen;
@@ -94,7 +94,7 @@ int main()
         "! videoconvert ! videoscale ! video/x-raw,width=1749,height=984 ! ximagesink");
 
     Comparison start({"start to the first live frame on the screen", "ms", 1.5});
-    for (int round = -1; round < kRounds; ++round) {
+    for (int round = -1; round < rounds; ++round) {
         const double ours = millisecondsToPicture(screen, ORVANE_PROGRAM, {});
         const double peers = millisecondsToPicture(screen, "gst-launch-1.0", peer);
         // The first round fills the caches that a machine in use has filled.

@@ -11,10 +11,10 @@
 namespace
 {
 
-constexpr int kRounds = 5;
-constexpr int kPhotos = 50;
-constexpr double kMostStripMilliseconds = 100;
-constexpr int kMostWaitMilliseconds = 20000;
+constexpr int rounds = 5;
+constexpr int photos = 50;
+constexpr double mostStripMilliseconds = 100;
+constexpr int mostWaitMilliseconds = 20000;
 
 // Whether a widget was painted since the last look.
 class PaintWatch : public QObject
@@ -34,7 +34,7 @@ public:
     }
     static void waitFor(const std::function<bool()> &condition)
     {
-        const QDeadlineTimer limit(kMostWaitMilliseconds);
+        const QDeadlineTimer limit(mostWaitMilliseconds);
         while (!condition()) {
             if (limit.hasExpired())
                 qFatal("the window does not follow");
@@ -55,7 +55,7 @@ QString workingFile(const QString &name)
 void multiplyPhoto()
 {
     const QString photo = workingFile(MainWindow::captures("photo*").first());
-    for (int i = 1; i < kPhotos; ++i)
+    for (int i = 1; i < photos; ++i)
         QFile::copy(photo, workingFile(QString("photo2024010112000%1.png").arg(i, 4, 10, QChar('0'))));
 }
 
@@ -73,7 +73,7 @@ void comparePhoto(const MainWindow &main)
     auto *view = main.view<PictureWidget>();
     PaintWatch watch(view);
     Comparison review({"press of Photo to the photo on the screen", "ms"});
-    for (int round = 0; round < kRounds; ++round) {
+    for (int round = 0; round < rounds; ++round) {
         const double ours = secondsOf([&] {
             main.press("Photo");
             watch.waitForPaint();
@@ -102,15 +102,15 @@ void compareStrip(const MainWindow &main)
     PaintWatch watch(list->viewport());
 
     std::vector<double> standing;
-    Comparison filled({QString("press of List to the last of %1 thumbnails").arg(kPhotos), "ms", 0.5});
-    for (int round = 0; round < kRounds; ++round) {
+    Comparison filled({QString("press of List to the last of %1 thumbnails").arg(photos), "ms", 0.5});
+    for (int round = 0; round < rounds; ++round) {
         loaded = 0;
         const double ours = secondsOf([&] {
             standing.push_back(1000 * secondsOf([&] {
                                    main.press("List");
                                    watch.waitForPaint();
                                }));
-            PaintWatch::waitFor([&loaded] { return loaded == kPhotos; });
+            PaintWatch::waitFor([&loaded] { return loaded == photos; });
             // Those that are in sight are painted.
             QCoreApplication::processEvents();
         });
@@ -119,7 +119,7 @@ void compareStrip(const MainWindow &main)
         main.press("Live");
         QTest::qWait(100);
     }
-    printValue("press of List to the strip", standing, "ms", kMostStripMilliseconds);
+    printValue("press of List to the strip", standing, "ms", mostStripMilliseconds);
     filled.print();
 }
 

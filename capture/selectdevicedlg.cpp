@@ -10,8 +10,8 @@
 namespace
 {
 
-constexpr int kDialogWidth = 200;
-const char kDocumentCamera[] = "Veltrix CX-20";
+constexpr int dialogWidth = 200;
+const char documentCamera[] = "Veltrix CX-20";
 
 // Device names are often longer than the dialog is wide: the open list shows them whole.
 void widenListToItsNames(QComboBox *box)
@@ -42,7 +42,7 @@ SelectDeviceDlg::SelectDeviceDlg(QWidget *parent) : QDialog(parent), m_devices(n
     layout->addWidget(caption);
     layout->addWidget(m_devices);
     layout->addWidget(ok);
-    setFixedWidth(kDialogWidth);
+    setFixedWidth(dialogWidth);
 }
 
 void SelectDeviceDlg::setVideoDeviceList(const QStringList &names)
@@ -50,7 +50,7 @@ void SelectDeviceDlg::setVideoDeviceList(const QStringList &names)
     QStringList rows;
     const auto addNames = [&](bool documentCameras) {
         for (int i = 0; i < names.size(); ++i) {
-            if (names.at(i).contains(kDocumentCamera) != documentCameras || m_indexOfRow.contains(i))
+            if (names.at(i).contains(documentCamera) != documentCameras || m_indexOfRow.contains(i))
                 continue;
             rows << names.at(i);
             m_indexOfRow << i;

@@ -6,8 +6,8 @@
 
 namespace
 {
-constexpr int kTickMilliseconds = 1000;
-constexpr int kSecondsPerMinute = 60;
+constexpr int tickMilliseconds = 1000;
+constexpr int secondsPerMinute = 60;
 } // namespace
 
 TimerWidget::TimerWidget(QWidget *parent, Qt::WindowFlags flags)
@@ -20,7 +20,7 @@ TimerWidget::TimerWidget(QWidget *parent, Qt::WindowFlags flags)
     setAutoFillBackground(true); // the caption lies over the live picture
     setFont(QFont("Arial", 24, 5));
 
-    m_ticker->setInterval(kTickMilliseconds);
+    m_ticker->setInterval(tickMilliseconds);
     connect(m_ticker, &QTimer::timeout, this, &TimerWidget::showtime);
 }
 
@@ -120,9 +120,9 @@ void TimerWidget::showRecordingTime()
 {
     const QLatin1Char zero('0');
     setText(QString("%1:%2")
-                .arg(m_elapsed / kSecondsPerMinute, 2, 10, zero)
-                .arg(m_elapsed % kSecondsPerMinute, 2, 10, zero));
-    if (m_elapsed >= kRecordingLimit)
+                .arg(m_elapsed / secondsPerMinute, 2, 10, zero)
+                .arg(m_elapsed % secondsPerMinute, 2, 10, zero));
+    if (m_elapsed >= recordingLimit)
         emit movieTimeOver();
     ++m_elapsed;
 }

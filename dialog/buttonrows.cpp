@@ -6,8 +6,8 @@
 
 namespace
 {
-constexpr int kLiveRowButtons = 5;
-constexpr int kOtherRowButtons = 3;
+constexpr int liveRowButtons = 5;
+constexpr int otherRowButtons = 3;
 } // namespace
 
 // Gives the button the slot at x; returns where the next slot begins.
@@ -60,7 +60,7 @@ void CPictorelDlg::SignalBlockAll(bool block)
 void CPictorelDlg::setLivemodeButtonEnabled()
 {
     clearRow();
-    double x = firstButtonX(kLiveRowButtons);
+    double x = firstButtonX(liveRowButtons);
     x = putOn(m_live, x);
     x = putOn(m_photo, x);
     x = putOn(m_photoMulti, x);
@@ -77,7 +77,7 @@ void CPictorelDlg::setLivemodeButtonEnabled()
 void CPictorelDlg::setPhotoModeButtonEnabled()
 {
     clearRow();
-    double x = firstButtonX(kOtherRowButtons);
+    double x = firstButtonX(otherRowButtons);
     x = putOn(m_live, x);
     x = putOn(m_putPhoto, x);
     putOn(m_list, x);
@@ -100,7 +100,7 @@ void CPictorelDlg::setLivePhotoModeButtonEnabled()
 void CPictorelDlg::setMovieModeButton()
 {
     clearRow();
-    double x = firstButtonX(kOtherRowButtons);
+    double x = firstButtonX(otherRowButtons);
     x = putOn(m_live, x);
     setButtonX(m_moviePause, x);
     m_moviePause->setEnabled(true);
@@ -111,7 +111,7 @@ void CPictorelDlg::setMovieModeButton()
 void CPictorelDlg::setListButton()
 {
     clearRow();
-    double x = firstButtonX(kOtherRowButtons);
+    double x = firstButtonX(otherRowButtons);
     x = putOn(m_live, x);
     x = setButtonX(m_show, x);
     m_show->show();
@@ -124,7 +124,7 @@ void CPictorelDlg::setListButton()
 void CPictorelDlg::setShowModeButton()
 {
     clearRow();
-    double x = firstButtonX(kOtherRowButtons);
+    double x = firstButtonX(otherRowButtons);
     x = putOn(m_live, x);
     x = putOn(m_putPhoto, x);
     putOn(m_list, x);

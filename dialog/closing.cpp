@@ -43,7 +43,8 @@ void CPictorelDlg::closeEvent(QCloseEvent *event)
             m_liveView = nullptr;
         }
     }
-    if (m_movieView->isPlaying())
+    // Asking a player that never had a movie would load all of its machinery.
+    if (m_movieView->isCreated() && m_movieView->isPlaying())
         m_movieView->Release();
     QWidget::closeEvent(event);
 }

@@ -20,7 +20,7 @@ bool CPictorelDlg::selectVideoDevice()
         WebcamUtil::moveToCenter(&choice, this);
         if (choice.exec() != QDialog::Accepted)
             return false;
-        start_window(kRaisePeriodMs);
+        start_window(raisePeriodMs);
     }
     m_liveView->setVideoDevice(choice.getVideoDevice());
     return true;

@@ -13,7 +13,7 @@
 namespace
 {
 // The strip of thumbnails takes this part of the height above the row.
-constexpr double kStripsPerHeight = 5.0;
+constexpr double stripsPerHeight = 5.0;
 } // namespace
 
 // The mode is stored last: while the new screen is built, m_mode is still the one that is being left.
@@ -128,7 +128,7 @@ void CPictorelDlg::SetPhotSeqMode()
 int CPictorelDlg::layOutStrip()
 {
     m_listView->Release();
-    const double stripHeight = (height() - m_rowButtonHeight) / kStripsPerHeight;
+    const double stripHeight = (height() - m_rowButtonHeight) / stripsPerHeight;
     const double top = height() - (m_rowButtonHeight + stripHeight);
     m_listView->setGeometry(0, int(top), width(), int(stripHeight));
     m_listView->setPictSize(QSize(0, 0));

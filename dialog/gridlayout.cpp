@@ -14,11 +14,11 @@ struct Cells {
 // made of whole pixels.
 Cells cellsFor(const QSize &area, int count)
 {
-    constexpr int kMostInOneRow = 3;
-    constexpr int kSquare = 4;
-    if (count <= kMostInOneRow)
+    constexpr int mostInOneRow = 3;
+    constexpr int square = 4;
+    if (count <= mostInOneRow)
         return {1, count, double(area.width()) / count, double(area.height()) / count};
-    const int columns = count == kSquare ? 2 : kMostInOneRow;
+    const int columns = count == square ? 2 : mostInOneRow;
     const int rows = (count + columns - 1) / columns;
     const int width = area.width() / columns;
     const int height = area.height() / columns;

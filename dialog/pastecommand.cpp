@@ -15,12 +15,12 @@
 namespace
 {
 
-const char *const kPhotoRequest = "0";
-const char *const kMovieRequest = "1";
+const char *const photoRequest = "0";
+const char *const movieRequest = "1";
 // Stands where photos have the size of the area in which they were shown.
-const char *const kNoSize = "XXX";
+const char *const noSize = "XXX";
 
-constexpr mode_t kRequestMode = 0666; // less the umask, as files usually are
+constexpr mode_t requestMode = 0666; // less the umask, as files usually are
 
 // A name with a line break would be read as two lines, the second of somebody's own making.
 void appendName(QStringList &lines, const QString &name)
@@ -35,7 +35,7 @@ void writeRequest(const QStringList &lines)
     const QString folder = WebcamUtil::getTemporaryPath() + "/tmp";
     if (!QDir().mkpath(folder))
         return;
-    WholeFile request(folder + "/PUTVXS" + CurrentSecondsQString(), kRequestMode);
+    WholeFile request(folder + "/PUTVXS" + CurrentSecondsQString(), requestMode);
     QFile file;
     if (!file.open(request.descriptor(), QIODevice::WriteOnly | QIODevice::Text))
         return;
@@ -63,7 +63,7 @@ void CPictorelDlg::PutVXSPhoto()
     const QString size = QString("%1x%2").arg(m_viewRect.width()).arg(m_viewRect.height());
     const QString folder =
         m_listView->folder().isEmpty() ? WebcamUtil::getTemporaryPath() : m_listView->folder();
-    QStringList lines = {kPhotoRequest, size, folder};
+    QStringList lines = {photoRequest, size, folder};
     if (m_mode == DisplayMode::Photo) {
         appendName(lines, m_currentPhoto);
     } else if (m_mode == DisplayMode::List || m_mode == DisplayMode::Series) {
@@ -78,7 +78,7 @@ void CPictorelDlg::PutVXSPhoto()
 void CPictorelDlg::PutVXSMovie()
 {
     const QString folder = WebcamUtil::getTemporaryPath();
-    QStringList lines = {kMovieRequest, kNoSize, folder};
+    QStringList lines = {movieRequest, noSize, folder};
     appendName(lines, QString(m_shownMovie).replace(folder, QString()));
     writeRequest(lines);
 }

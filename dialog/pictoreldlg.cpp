@@ -16,7 +16,7 @@
 #include <QScreen>
 
 CPictorelDlg::CPictorelDlg(QWidget *parent, Qt::WindowFlags flags)
-    : QWidget(parent, flags), CWindowManagement(this, kRaisePeriodMs, true, QString())
+    : QWidget(parent, flags), CWindowManagement(this, raisePeriodMs, true, QString())
 {
     setThisPropaty();
     takeScreenSize();

@@ -10,16 +10,16 @@
 namespace
 {
 
-constexpr qint64 kMillisecondsPerSecond = 1000;
-constexpr qint64 kMillisecondsPerMinute = 60 * kMillisecondsPerSecond;
+constexpr qint64 millisecondsPerSecond = 1000;
+constexpr qint64 millisecondsPerMinute = 60 * millisecondsPerSecond;
 
 // "mm:ss"
 QString minutesAndSeconds(qint64 milliseconds)
 {
     const QLatin1Char zero('0');
     return QString("%1:%2")
-        .arg(milliseconds / kMillisecondsPerMinute, 2, 10, zero)
-        .arg(milliseconds % kMillisecondsPerMinute / kMillisecondsPerSecond, 2, 10, zero);
+        .arg(milliseconds / millisecondsPerMinute, 2, 10, zero)
+        .arg(milliseconds % millisecondsPerMinute / millisecondsPerSecond, 2, 10, zero);
 }
 
 } // namespace
@@ -99,9 +99,9 @@ void CPictorelDlg::OnMovieFinished()
 void CPictorelDlg::setMovieTime()
 {
     // Half a second more rounds to the nearest second.
-    constexpr qint64 kRounding = kMillisecondsPerSecond / 2;
+    constexpr qint64 rounding = millisecondsPerSecond / 2;
     const QString total = minutesAndSeconds(m_movieView->totalTime());
-    const QString current = minutesAndSeconds(m_movieView->currentTime() + kRounding);
+    const QString current = minutesAndSeconds(m_movieView->currentTime() + rounding);
     m_timerView->setText(current + "/" + total);
     // A player that has not yet found out how long the movie is says 0.
     if (current == total && m_movieView->totalTime() > 0)

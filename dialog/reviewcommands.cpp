@@ -15,8 +15,8 @@ namespace
 {
 
 // More than these would make a strip that nobody scrolls through; the latest are kept.
-constexpr int kMostMoviesListed = 25;
-constexpr int kMostPhotosListed = 50;
+constexpr int mostMoviesListed = 25;
+constexpr int mostPhotosListed = 50;
 
 // Where files are looked for: the list's folder, which is empty for the working folder.
 QString listedFolder(const PictureListView &list)
@@ -44,7 +44,7 @@ void CPictorelDlg::OnList()
     }
     TransitionMode(DisplayMode::List);
 
-    const int most = m_isMovieShown ? kMostMoviesListed : kMostPhotosListed;
+    const int most = m_isMovieShown ? mostMoviesListed : mostPhotosListed;
     names = names.mid(qMax(0, names.size() - most));
     m_listView->setFolder(folder);
     m_listView->AddPicture(names);
@@ -84,7 +84,7 @@ void CPictorelDlg::OnShow()
         showMovie();
     } else {
         m_mode = DisplayMode::Series; // its other use: the grid
-        SetPictureListMode(m_listView->selectionList().mid(0, PictureListView::kMostChosen));
+        SetPictureListMode(m_listView->selectionList().mid(0, PictureListView::mostChosen));
     }
     update();
 }

@@ -20,7 +20,7 @@ QFont dialogFont()
 
 SaveConfirmDlg::SaveConfirmDlg(QWidget *parent, Qt::WindowFlags flags) : QDialog(parent, flags)
 {
-    setResult(kDiscard);
+    setResult(discard);
     setWindowTitle(tr("Orvane"));
     setWindowIcon(QIcon(":/res/Pictorel.png"));
     // No close button: the question wants one of its three answers.
@@ -69,7 +69,7 @@ void SaveConfirmDlg::setUpLocalLayout()
 
 void SaveConfirmDlg::savecancel()
 {
-    done(kDiscard);
+    done(discard);
 }
 
 void SaveConfirmDlg::showEvent(QShowEvent *event)

@@ -5,13 +5,13 @@
 class QPushButton;
 
 // Asks, when the user leaves, whether the captures are to be saved. exec() gives Accepted (1) for Yes,
-// Rejected (0) for Cancel and for any other way of closing it, and kDiscard for No.
+// Rejected (0) for Cancel and for any other way of closing it, and discard for No.
 class SaveConfirmDlg : public QDialog
 {
     Q_OBJECT
 
 public:
-    static constexpr int kDiscard = -1;
+    static constexpr int discard = -1;
 
     explicit SaveConfirmDlg(QWidget *parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags());
 

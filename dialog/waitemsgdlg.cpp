@@ -11,7 +11,7 @@
 namespace
 {
 // Long enough for the dialog to be painted before the work begins.
-constexpr int kStartDelayMilliseconds = 100;
+constexpr int startDelayMilliseconds = 100;
 } // namespace
 
 CWaiteMsgDlg::CWaiteMsgDlg(QWidget *parent)
@@ -30,7 +30,7 @@ CWaiteMsgDlg::CWaiteMsgDlg(QWidget *parent)
     m_text->setFont(font);
     connect(m_ok, &QPushButton::clicked, this, &QWidget::close);
     m_starter->setSingleShot(true);
-    m_starter->setInterval(kStartDelayMilliseconds);
+    m_starter->setInterval(startDelayMilliseconds);
     connect(m_starter, &QTimer::timeout, this, &CWaiteMsgDlg::OnShow);
 
     m_work->setRange(0, 0); // moves for as long as the program is alive

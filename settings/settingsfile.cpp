@@ -10,7 +10,7 @@ namespace
 {
 
 // Six short lines; whatever is bigger was not written by us.
-constexpr qint64 kLargestSize = 1 << 20; // bytes
+constexpr qint64 largestSize = 1 << 20; // bytes
 
 QString filePath()
 {
@@ -22,7 +22,7 @@ QString filePath()
 QVariantMap SettingsFile::read(const QStringList &keys)
 {
     const QFileInfo info(filePath());
-    if (!info.isFile() || info.size() > kLargestSize)
+    if (!info.isFile() || info.size() > largestSize)
         return {};
     const QSettings file(info.filePath(), QSettings::IniFormat);
     QVariantMap values;
@@ -40,7 +40,7 @@ void SettingsFile::write(const QVariantMap &values)
     if (info.exists() && !info.isFile())
         return;
     // Setting a value reads the whole file first: one of an absurd size is begun anew.
-    if (info.size() > kLargestSize)
+    if (info.size() > largestSize)
         QFile::remove(info.filePath());
     QSettings file(info.filePath(), QSettings::IniFormat);
     for (auto value = values.cbegin(); value != values.cend(); ++value)

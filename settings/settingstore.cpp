@@ -7,12 +7,12 @@
 namespace
 {
 
-const QString kAutoShoot = QStringLiteral("AutoShoot");
-const QString kAutoShootTime = QStringLiteral("AutoShootTime");
-const QString kContinuShootCount = QStringLiteral("ContinuShootCount");
-const QString kPhotoPreview = QStringLiteral("PhotoPreview");
-const QString kResolution = QStringLiteral("Resolution");
-const QString kSaveDirectory = QStringLiteral("SaveDirectory");
+const QString autoShootKey = QStringLiteral("AutoShoot");
+const QString autoShootTimeKey = QStringLiteral("AutoShootTime");
+const QString continuShootCountKey = QStringLiteral("ContinuShootCount");
+const QString photoPreviewKey = QStringLiteral("PhotoPreview");
+const QString resolutionKey = QStringLiteral("Resolution");
+const QString saveDirectoryKey = QStringLiteral("SaveDirectory");
 
 void fill(QComboBox *combo, const QStringList &choices)
 {
@@ -57,16 +57,16 @@ void Setting::setCmbValue()
 
 void Setting::readFile()
 {
-    const QVariantMap file = SettingsFile::read(
-        {kAutoShoot, kAutoShootTime, kContinuShootCount, kPhotoPreview, kResolution, kSaveDirectory});
-    const int autoShoot = file.value(kAutoShoot, 1).toInt();
+    const QVariantMap file = SettingsFile::read({autoShootKey, autoShootTimeKey, continuShootCountKey,
+                                                 photoPreviewKey, resolutionKey, saveDirectoryKey});
+    const int autoShoot = file.value(autoShootKey, 1).toInt();
     takeInRange(autoShoot, 0, 1, m_autoShoot);
     m_ui->cmbAutoShooting->setEnabled(autoShoot == 1);
-    takeInRange(file.value(kAutoShootTime, 5).toInt(), 1, 30, m_autoShootTime);
-    takeInRange(file.value(kContinuShootCount, 4).toInt(), 2, 9, m_continuousCount);
-    takeInRange(file.value(kPhotoPreview, 1).toInt(), 0, 1, m_photoPreview);
-    m_resolution = file.value(kResolution).toString();
-    m_saveDirectory = file.value(kSaveDirectory).toString();
+    takeInRange(file.value(autoShootTimeKey, 5).toInt(), 1, 30, m_autoShootTime);
+    takeInRange(file.value(continuShootCountKey, 4).toInt(), 2, 9, m_continuousCount);
+    takeInRange(file.value(photoPreviewKey, 1).toInt(), 0, 1, m_photoPreview);
+    m_resolution = file.value(resolutionKey).toString();
+    m_saveDirectory = file.value(saveDirectoryKey).toString();
     showSaveDirectoryChoice();
 }
 
@@ -105,12 +105,12 @@ void Setting::SaveFile()
     m_photoPreview = getPhotoPreview() ? 1 : 0;
     m_resolution = getResolution();
     m_saveDirectory = m_ui->rbtnCustom->isChecked() ? getSaveDirectory() : QString();
-    SettingsFile::write({{kAutoShoot, m_autoShoot},
-                         {kAutoShootTime, m_autoShootTime},
-                         {kContinuShootCount, m_continuousCount},
-                         {kPhotoPreview, m_photoPreview},
-                         {kResolution, m_resolution},
-                         {kSaveDirectory, m_saveDirectory}});
+    SettingsFile::write({{autoShootKey, m_autoShoot},
+                         {autoShootTimeKey, m_autoShootTime},
+                         {continuShootCountKey, m_continuousCount},
+                         {photoPreviewKey, m_photoPreview},
+                         {resolutionKey, m_resolution},
+                         {saveDirectoryKey, m_saveDirectory}});
 }
 
 void Setting::setResolutionList(const QStringList &list)

@@ -49,8 +49,8 @@ using StopTest = std::function<bool()>;
 
 bool copyByBlocks(int from, int to, const StopTest &isToStop)
 {
-    constexpr size_t kBlockBytes = size_t{256} * 1024; // past this, larger blocks gain nothing
-    std::vector<char> block(kBlockBytes);
+    constexpr size_t blockBytes = size_t{256} * 1024; // past this, larger blocks gain nothing
+    std::vector<char> block(blockBytes);
     while (!isToStop()) {
         const ssize_t length = read(from, block.data(), block.size());
         if (length == 0)
@@ -68,8 +68,8 @@ bool copyByBlocks(int from, int to, const StopTest &isToStop)
 bool copyContents(int from, int to, const StopTest &isToStop)
 {
     // A fraction of a second even on a slow disk, after which stopping is possible.
-    constexpr size_t kKernelStepBytes = size_t{16} * 1024 * 1024;
-    while (!isToStop() && copy_file_range(from, nullptr, to, nullptr, kKernelStepBytes, 0) > 0) {
+    constexpr size_t kernelStepBytes = size_t{16} * 1024 * 1024;
+    while (!isToStop() && copy_file_range(from, nullptr, to, nullptr, kernelStepBytes, 0) > 0) {
     }
     return copyByBlocks(from, to, isToStop);
 }

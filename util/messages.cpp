@@ -6,7 +6,7 @@
 #include <QPushButton>
 #include <QScreen>
 
-static const Qt::WindowFlags kBoxFlags = Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint;
+static const Qt::WindowFlags boxFlags = Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint;
 
 static void showCentred(QMessageBox &box, QWidget *parent)
 {
@@ -18,7 +18,7 @@ static void showCentred(QMessageBox &box, QWidget *parent)
 
 static void showMessage(QMessageBox::Icon icon, const QString &title, const QString &text, QWidget *parent)
 {
-    QMessageBox box(icon, title, text, QMessageBox::Ok, parent, kBoxFlags);
+    QMessageBox box(icon, title, text, QMessageBox::Ok, parent, boxFlags);
     showCentred(box, parent);
 }
 
@@ -45,7 +45,7 @@ void WebcamUtil::CriticalMessage(const QString &text, QWidget *parent)
 void WebcamUtil::WarningMessage(const QString &text, QWidget *parent)
 {
     CWindowManagementMessageBox box(QMessageBox::Warning, tr("Orvane"), text, QMessageBox::Ok, parent,
-                                    kBoxFlags | Qt::WindowStaysOnTopHint, kRaisePeriodMs);
+                                    boxFlags | Qt::WindowStaysOnTopHint, raisePeriodMs);
     showCentred(box, parent);
 }
 

@@ -13,7 +13,7 @@ QStringList WebcamUtil::m_tempbmpfilenameList;
 QStringList WebcamUtil::m_tempmoviefilenameList;
 QStringList WebcamUtil::m_savefilenameList;
 
-static const QString kFolderName = QStringLiteral("/VeltrixCamera");
+static const QString folderName = QStringLiteral("/VeltrixCamera");
 
 // The temporary folder belongs to everybody: whoever takes the name first, or lays a link there, would see
 // the captures or choose where they go. So only a real folder of this user will do.
@@ -55,7 +55,7 @@ void WebcamUtil::setTemporaryPath()
     const QString temporary = QDir::tempPath(); // empty when it does not exist
     if (temporary.isEmpty())
         return;
-    const QString path = QDir(temporary + kFolderName + "_" + QString::number(geteuid())).absolutePath();
+    const QString path = QDir(temporary + folderName + "_" + QString::number(geteuid())).absolutePath();
     if (makeOwnFolder(path))
         m_pictureDataPath = path;
 }
@@ -70,7 +70,7 @@ QString WebcamUtil::getTemporaryPath()
 void WebcamUtil::deleteTemporaryPath()
 {
     const QString path =
-        m_pictureDataPath.isEmpty() ? QString(QDir::tempPath() + kFolderName) : m_pictureDataPath;
+        m_pictureDataPath.isEmpty() ? QString(QDir::tempPath() + folderName) : m_pictureDataPath;
     if (QDir(path).exists())
         QDir().rmpath(path);
     m_pictureDataPath.clear();
@@ -78,7 +78,7 @@ void WebcamUtil::deleteTemporaryPath()
 
 QString WebcamUtil::CreateSavePath(const QString &base)
 {
-    const QDir folder(base + kFolderName + "/" + CurrentDateQString());
+    const QDir folder(base + folderName + "/" + CurrentDateQString());
     const QString path = folder.absolutePath();
     return folder.exists() || folder.mkpath(path) ? path : QString();
 }

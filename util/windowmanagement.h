@@ -9,7 +9,7 @@
 #include <string>
 
 // The period with which every window of the program pulls itself back to the top.
-constexpr int kRaisePeriodMs = 500;
+constexpr int raisePeriodMs = 500;
 
 // What a CWMUpdateTimer calls on every tick.
 class CWMUpdateCallback

@@ -11,7 +11,7 @@
 namespace
 {
 // Time enough for the first picture to be on screen.
-constexpr int kFirstPictureMilliseconds = 100;
+constexpr int firstPictureMilliseconds = 100;
 } // namespace
 
 MovieWidget::MovieWidget(QWidget *parent) : Phonon::VideoPlayer(parent)
@@ -74,5 +74,5 @@ void MovieWidget::showEvent(QShowEvent *event)
     if (event->spontaneous()) // the window comes back from its icon: what plays goes on
         return;
     play();
-    QTimer::singleShot(kFirstPictureMilliseconds, this, &MovieWidget::disp);
+    QTimer::singleShot(firstPictureMilliseconds, this, &MovieWidget::disp);
 }

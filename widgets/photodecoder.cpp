@@ -12,20 +12,20 @@ namespace
 {
 
 // Signature, length and type of the header chunk; after it come the header itself and its check sum.
-const QByteArray kStart("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16);
+const QByteArray start("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16);
 // 8 bits, RGB, and the methods of compression, filtering and interlacing that every photo has.
-const QByteArray kFormat("\x08\x02\x00\x00\x00", 5);
-const QByteArray kPixelChunk("IDAT");
-const QByteArray kEndChunk("\0\0\0\0IEND", 8);
+const QByteArray format("\x08\x02\x00\x00\x00", 5);
+const QByteArray pixelChunk("IDAT");
+const QByteArray endChunk("\0\0\0\0IEND", 8);
 
-constexpr int kSizeAt = 16;
-constexpr int kFormatAt = 24;
-constexpr int kPixelLengthAt = 33;
-constexpr int kPixelTypeAt = 37;
-constexpr int kHeadBytes = 41; // all that stands before the pixels
-constexpr int kCheckSumBytes = 4;
-constexpr int kBytesPerPixel = 3;
-constexpr qint64 kLongestSide = 0x7fffffff; // the format's own limit
+constexpr int sizeAt = 16;
+constexpr int formatAt = 24;
+constexpr int pixelLengthAt = 33;
+constexpr int pixelTypeAt = 37;
+constexpr int headBytes = 41; // all that stands before the pixels
+constexpr int checkSumBytes = 4;
+constexpr int bytesPerPixel = 3;
+constexpr qint64 longestSide = 0x7fffffff; // the format's own limit
 
 enum Filter : uchar { NoFilter = 0, UpFilter = 2 };
 
@@ -42,7 +42,7 @@ struct Head {
     qint64 height = 0;
     qint64 packedBytes = 0;
 
-    qint64 rowBytes() const { return 1 + width * kBytesPerPixel; } // the filter's number comes first
+    qint64 rowBytes() const { return 1 + width * bytesPerPixel; } // the filter's number comes first
     qint64 pixels() const { return width * height; }
     // What the rows take where nothing could be compressed. More is no photo of ours, and is not read.
     qint64 mostPackedBytes() const
@@ -58,14 +58,14 @@ quint32 numberAt(const QByteArray &bytes, int position)
 
 bool parseHead(const QByteArray &bytes, Head &head)
 {
-    if (bytes.size() != kHeadBytes || !bytes.startsWith(kStart) ||
-        bytes.mid(kFormatAt, kFormat.size()) != kFormat ||
-        bytes.mid(kPixelTypeAt, kPixelChunk.size()) != kPixelChunk)
+    if (bytes.size() != headBytes || !bytes.startsWith(start) ||
+        bytes.mid(formatAt, format.size()) != format ||
+        bytes.mid(pixelTypeAt, pixelChunk.size()) != pixelChunk)
         return false;
-    head.width = numberAt(bytes, kSizeAt);
-    head.height = numberAt(bytes, kSizeAt + 4);
-    head.packedBytes = numberAt(bytes, kPixelLengthAt);
-    return head.width > 0 && head.height > 0 && head.width <= kLongestSide && head.height <= kLongestSide;
+    head.width = numberAt(bytes, sizeAt);
+    head.height = numberAt(bytes, sizeAt + 4);
+    head.packedBytes = numberAt(bytes, pixelLengthAt);
+    return head.width > 0 && head.height > 0 && head.width <= longestSide && head.height <= longestSide;
 }
 
 QByteArray unpack(const QByteArray &packed, qint64 bytes)
@@ -91,7 +91,7 @@ QImage unfilter(const QByteArray &rows, const Head &head)
     QImage image(int(head.width), int(head.height), QImage::Format_RGB888);
     if (image.isNull())
         return {};
-    const qint64 bytes = head.width * kBytesPerPixel;
+    const qint64 bytes = head.width * bytesPerPixel;
     const QByteArray blackRow(int(bytes), 0);
     const auto *above = reinterpret_cast<const uchar *>(blackRow.constData());
     const auto *filtered = reinterpret_cast<const uchar *>(rows.constData());
@@ -114,13 +114,12 @@ QImage decodePhoto(const QString &path, qint64 pixelBudget)
 {
     QFile file(path);
     Head head;
-    if (!file.open(QIODevice::ReadOnly) || !parseHead(file.read(kHeadBytes), head))
+    if (!file.open(QIODevice::ReadOnly) || !parseHead(file.read(headBytes), head))
         return {};
     if (head.pixels() > pixelBudget || head.packedBytes > head.mostPackedBytes())
         return {};
     const QByteArray packed = file.read(head.packedBytes);
-    if (packed.size() != head.packedBytes ||
-        !file.read(kCheckSumBytes + kEndChunk.size()).endsWith(kEndChunk))
+    if (packed.size() != head.packedBytes || !file.read(checkSumBytes + endChunk.size()).endsWith(endChunk))
         return {};
     const QByteArray rows = unpack(packed, head.rowBytes() * head.height);
     return rows.isEmpty() ? QImage() : unfilter(rows, head);

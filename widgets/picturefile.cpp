@@ -9,13 +9,13 @@ namespace
 {
 
 // Far more than any camera gives. A file of some kilobytes may claim a thousand megapixels.
-constexpr qint64 kPixelBudget = 64LL * 1000 * 1000;
+constexpr qint64 pixelBudget = 64LL * 1000 * 1000;
 
 QImage readWithPlugins(const QString &path)
 {
     QImageReader reader(path);
     const QSize size = reader.size();
-    if (!size.isValid() || qint64(size.width()) * size.height() > kPixelBudget)
+    if (!size.isValid() || qint64(size.width()) * size.height() > pixelBudget)
         return {};
     return reader.read();
 }
@@ -32,7 +32,7 @@ QImage readPicture(const QString &path)
     // Opening a pipe would block.
     if (!QFileInfo(path).isFile())
         return {};
-    const QImage photo = decodePhoto(path, kPixelBudget);
+    const QImage photo = decodePhoto(path, pixelBudget);
     return photo.isNull() ? readWithPlugins(path) : photo;
 }
 

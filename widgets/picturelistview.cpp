@@ -11,22 +11,22 @@
 namespace
 {
 
-constexpr int kSpacing = 10;
-constexpr double kIconAspectRatio = 1.3;
-const QString kPreviewEnding = QStringLiteral("tmp.png");
-const QString kMovieEnding = QStringLiteral(".mov");
+constexpr int itemSpacing = 10;
+constexpr double iconAspectRatio = 1.3;
+const QString previewEnding = QStringLiteral("tmp.png");
+const QString movieEnding = QStringLiteral(".mov");
 
 QString previewOfMovie(QString name)
 {
     // A regular expression: its dot stands for any character.
-    static const QRegularExpression movieEnding(kMovieEnding);
-    return name.replace(movieEnding, kPreviewEnding);
+    static const QRegularExpression movieEnding(movieEnding);
+    return name.replace(movieEnding, previewEnding);
 }
 
 QString movieOfPreview(QString name)
 {
-    const int ending = name.indexOf(kPreviewEnding);
-    return ending < 0 ? name : name.replace(ending, kPreviewEnding.size(), kMovieEnding);
+    const int ending = name.indexOf(previewEnding);
+    return ending < 0 ? name : name.replace(ending, previewEnding.size(), movieEnding);
 }
 
 } // namespace
@@ -34,7 +34,7 @@ QString movieOfPreview(QString name)
 PictureListView::PictureListView(QWidget *parent) : QListWidget(parent), m_loader(new ThumbnailLoader(this))
 {
     setViewMode(QListView::IconMode);
-    setSpacing(kSpacing);
+    setSpacing(itemSpacing);
     QPalette colours = palette();
     colours.setColor(QPalette::Base, Qt::black);
     setPalette(colours);
@@ -85,7 +85,7 @@ void PictureListView::ensureIconSize()
 {
     if (iconSize().isEmpty()) {
         const int iconHeight = height() / 3 * 2;
-        setIconSize(QSize(int(kIconAspectRatio * iconHeight), iconHeight));
+        setIconSize(QSize(int(iconAspectRatio * iconHeight), iconHeight));
     }
     if (m_placeholderSize != iconSize()) {
         m_placeholderSize = iconSize();
@@ -139,7 +139,7 @@ void PictureListView::selectedItem()
 {
     // The changes below must not come back here.
     disconnect(this, &QListWidget::itemSelectionChanged, this, &PictureListView::selectedItem);
-    if (selectedItems().size() > kMostChosen)
+    if (selectedItems().size() > mostChosen)
         warnAboutTooMany();
     followSelection(selectedInListOrder());
     m_currentName = m_selectionList.isEmpty() ? QString() : m_selectionList.last();
@@ -174,7 +174,7 @@ void PictureListView::followSelection(const QList<QListWidgetItem *> &selected)
     for (QListWidgetItem *item : selected) {
         if (m_selectionList.contains(item->text()))
             continue;
-        if (m_selectionList.size() < kMostChosen)
+        if (m_selectionList.size() < mostChosen)
             m_selectionList << item->text();
         else
             item->setSelected(false);
@@ -193,7 +193,7 @@ void PictureListView::OnSelect(const QString &name)
 {
     if (m_selectionList.contains(name))
         return;
-    if (m_selectionList.size() >= kMostChosen) {
+    if (m_selectionList.size() >= mostChosen) {
         if (QListWidgetItem *item = currentItem())
             item->setSelected(false);
         warnAboutTooMany();

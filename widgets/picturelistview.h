@@ -18,7 +18,7 @@ class PictureListView : public QListWidget
     Q_OBJECT
 
 public:
-    static constexpr int kMostChosen = 9;
+    static constexpr int mostChosen = 9;
 
     explicit PictureListView(QWidget *parent = nullptr);
 

@@ -11,15 +11,15 @@ namespace
 {
 
 // The widest row has five buttons beside the one for leaving.
-constexpr int kButtonsAcrossScreen = 6;
+constexpr int buttonsAcrossScreen = 6;
 
 // Captions are made for a screen of this width; on narrower ones they shrink with it.
-constexpr int kFullCaptionWidth = 1024;
-constexpr int kFullCaptionPoints = 11;
+constexpr int fullCaptionWidth = 1024;
+constexpr int fullCaptionPoints = 11;
 
 // Wide enough to be seen from some metres, narrow enough to leave the picture alone.
-constexpr int kFocusFrameWidth = 4;
-constexpr QRgb kFocusFrameColour = 0xffffd400;
+constexpr int focusFrameWidth = 4;
+constexpr QRgb focusFrameColour = 0xffffd400;
 
 int availableScreenWidth()
 {
@@ -29,9 +29,9 @@ int availableScreenWidth()
 int captionPointSize()
 {
     const int width = availableScreenWidth();
-    if (width >= kFullCaptionWidth)
-        return kFullCaptionPoints;
-    return int(width * (1.0 / kFullCaptionWidth) * kFullCaptionPoints);
+    if (width >= fullCaptionWidth)
+        return fullCaptionPoints;
+    return int(width * (1.0 / fullCaptionWidth) * fullCaptionPoints);
 }
 
 QPixmap scaledTo(const QSize &size, const QPixmap &pixmap)
@@ -59,7 +59,7 @@ void CStretchBitmapButton::setIconFromObjectNameBitmap()
     m_down = QPixmap(base + "_dw.bmp");
     m_disabled = QPixmap(base + "_ds.bmp");
 
-    const QSize box(qMin(availableScreenWidth() / kButtonsAcrossScreen, m_up.width()), m_up.height());
+    const QSize box(qMin(availableScreenWidth() / buttonsAcrossScreen, m_up.width()), m_up.height());
     const QSize size = m_up.size().scaled(box, Qt::KeepAspectRatio);
     m_up = scaledTo(size, m_up);
     m_down = scaledTo(size, m_down);
@@ -121,9 +121,9 @@ void CStretchBitmapButton::paintEvent(QPaintEvent *)
 
 void CStretchBitmapButton::paintFocusFrame(QPainter &painter) const
 {
-    const int inset = kFocusFrameWidth / 2;
+    const int inset = focusFrameWidth / 2;
     painter.setPen(
-        QPen(QColor(kFocusFrameColour), kFocusFrameWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        QPen(QColor(focusFrameColour), focusFrameWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter.drawRect(rect().adjusted(inset, inset, -inset, -inset));
 }
 

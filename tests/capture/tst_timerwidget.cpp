@@ -66,7 +66,7 @@ void TestTimerWidget::recordingTimeAndLimit()
     timer.SetMode(TimerMode::Recording);
     timer.run();
     QCOMPARE(timer.text(), QString("00:00"));
-    for (int second = 1; second < TimerWidget::kRecordingLimit; ++second)
+    for (int second = 1; second < TimerWidget::recordingLimit; ++second)
         tick(timer);
     QCOMPARE(timer.text(), QString("09:59"));
     QCOMPARE(over.count(), 0);

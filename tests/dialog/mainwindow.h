@@ -105,9 +105,9 @@ class Answers
 public:
     explicit Answers(const QStringList &presses) : m_presses(presses)
     {
-        constexpr int kLookEveryMilliseconds = 20;
+        constexpr int lookEveryMilliseconds = 20;
         QObject::connect(&m_look, &QTimer::timeout, [this] { answer(); });
-        m_look.start(kLookEveryMilliseconds);
+        m_look.start(lookEveryMilliseconds);
     }
 
     QStringList told() const { return m_told; }

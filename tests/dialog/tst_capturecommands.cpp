@@ -19,11 +19,11 @@ extern "C" int statvfs(const char *, struct statvfs *status)
     return 0;
 }
 
-static const char *const kLiveRow = "Live+ Photo+ PhotoMulti+ Movie+ List+ Settings+ Close+";
-static const char *const kErrorRow = "Live Photo PhotoMulti Movie List+ Settings Close+";
-static const char *const kNoCamera =
+static const char *const liveRow = "Live+ Photo+ PhotoMulti+ Movie+ List+ Settings+ Close+";
+static const char *const errorRow = "Live Photo PhotoMulti Movie List+ Settings Close+";
+static const char *const noCamera =
     "The video device is invalid. Please confirm whether the device is correctly connected. ";
-static const char *const kManualSeries = "AutoShoot=0\nContinuShootCount=3\n";
+static const char *const manualSeries = "AutoShoot=0\nContinuShootCount=3\n";
 
 class TestCaptureCommands : public QObject
 {
@@ -74,7 +74,7 @@ void TestCaptureCommands::failedPhotoShowsNothing()
 
 void TestCaptureCommands::seriesLeftInTheMiddleBeginsAnew()
 {
-    MainWindow main(kManualSeries);
+    MainWindow main(manualSeries);
     for (const char *button : {"PhotoMulti", "PhotoMulti", "Live", "PhotoMulti"})
         main.press(button); // the first shot of a series at once
     QCOMPARE(MainWindow::captures("photo*").size(), 3);
@@ -154,11 +154,11 @@ void TestCaptureCommands::fullDiskRefuses()
         const QString warning = "The disk free space is insufficient.\nTaking a picture is discontinued. "
                                 "Please secure the free space. ";
         QCOMPARE(answers.told(), QStringList({warning, warning}));
-        QCOMPARE(main.buttons(), QString(kErrorRow));
+        QCOMPARE(main.buttons(), QString(errorRow));
         main.press("List");
         freeMiB = 301;
         main.press("Live");
-        QCOMPARE(main.buttons(), QString(kLiveRow));
+        QCOMPARE(main.buttons(), QString(liveRow));
     }
     QCOMPARE(MainWindow::captures(), QStringList());
 }
@@ -183,7 +183,7 @@ void TestCaptureCommands::lossInEveryScreen()
     QFETCH(QStringList, presses);
     QFETCH(QString, files);
     const bool isTimed = QTest::currentDataTag() == QByteArray("timed series");
-    MainWindow main(isTimed ? "AutoShoot=1\nAutoShootTime=30\n" : kManualSeries);
+    MainWindow main(isTimed ? "AutoShoot=1\nAutoShootTime=30\n" : manualSeries);
     Answers answers({"OK"});
     if (presses == QStringList{"Settings"}) {
         auto *settings = main.window->findChild<Setting *>();
@@ -191,7 +191,7 @@ void TestCaptureCommands::lossInEveryScreen()
         // Left once the warning has been answered.
         QTimer leave;
         connect(&leave, &QTimer::timeout, settings, [&] {
-            if (main.buttons() == kErrorRow)
+            if (main.buttons() == errorRow)
                 settings->reject();
         });
         leave.start(50);
@@ -204,8 +204,8 @@ void TestCaptureCommands::lossInEveryScreen()
         }
         main.devices.pull("cam");
     }
-    QTRY_COMPARE(main.buttons(), QString(kErrorRow));
-    QCOMPARE(answers.told(), QStringList{kNoCamera});
+    QTRY_COMPARE(main.buttons(), QString(errorRow));
+    QCOMPARE(answers.told(), QStringList{noCamera});
     QCOMPARE(main.window->currentMode(), DisplayMode::Live);
     QVERIFY(!main.view<LiveVideoWidget>()->isVisible() && !main.view<PictureWidget>()->isVisible() &&
             !main.view<MovieWidget>()->isVisible() && !main.view<TimerWidget>()->isVisible() &&
@@ -220,7 +220,7 @@ void TestCaptureCommands::lossInEveryScreen()
     main.press("List");
     QTRY_COMPARE(main.view<LiveVideoWidget>()->getVideoDeviceList().size(), 1);
     main.press("Live");
-    QCOMPARE(main.buttons(), QString(kLiveRow));
+    QCOMPARE(main.buttons(), QString(liveRow));
     QTRY_VERIFY_WITH_TIMEOUT(!main.view<LiveVideoWidget>()->SaveBmp().isEmpty(), 3000);
 }
 
@@ -238,7 +238,7 @@ void TestCaptureCommands::settingsTakeEffectAtOnce()
         main.press("Photo");
         QCOMPARE(main.button("Apply")->isVisible(), !accepted);
         main.press(accepted ? "Live" : "Retry");
-        QCOMPARE(main.buttons(), QString(kLiveRow));
+        QCOMPARE(main.buttons(), QString(liveRow));
     }
 }
 

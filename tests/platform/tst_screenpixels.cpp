@@ -61,8 +61,8 @@ void TestScreenPixels::showsWhatGStreamerShows()
                 most = qMax(most, qAbs(shown.data[i] - expected.data[i]));
         }
         // Nobody sees a difference of so much; a wrong matrix, range or order of colours is far beyond.
-        constexpr int kMostDifference = 8;
-        QVERIFY2(most <= kMostDifference, qPrintable(QString::number(most)));
+        constexpr int mostDifference = 8;
+        QVERIFY2(most <= mostDifference, qPrintable(QString::number(most)));
     }
 }
 

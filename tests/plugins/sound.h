@@ -7,6 +7,6 @@
 
 constexpr int soundRate = 48000;
 
-// word: beep (50 ms of 1 kHz at the second's start), tone (440 Hz) or silence; another is warned of and is
+// word: beep (50 ms of 1 hz at the second's start), tone (440 Hz) or silence; another is warned of and is
 // silence.
 std::vector<int16_t> secondOfSound(const std::string &word);

@@ -14,9 +14,9 @@ public:
     // inspect: looks at the box before it is answered.
     explicit ModalAnswer(std::function<void(QMessageBox &)> inspect = {}) : m_inspect(std::move(inspect))
     {
-        constexpr int kLookEveryMilliseconds = 20;
+        constexpr int lookEveryMilliseconds = 20;
         QObject::connect(&m_look, &QTimer::timeout, [this] { answer(); });
-        m_look.start(kLookEveryMilliseconds);
+        m_look.start(lookEveryMilliseconds);
     }
 
     QString text() const { return m_text; } // empty as long as no box came

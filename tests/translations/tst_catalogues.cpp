@@ -70,7 +70,7 @@ void TestCatalogues::eachCatalogue()
     Texts asked = textsOf(m_scratch.filePath("asked.ts"));
     // On a screen of 1024 a button is 170 by 68 pixels, Settings and Exit half as high; a caption has three
     // fifths of the width less the layout's gap, and the height less the plate's edges.
-    constexpr int kRoom = 96;
+    constexpr int room = 96;
     const QFontMetrics metrics(QFont("Arial", 11, QFont::Black));
     const QRegularExpression inner("\\S(.*\\S)?", QRegularExpression::DotMatchesEverythingOption);
     bool isCaption = true; // the first texts of the main window, up to the first that is not on a button
@@ -84,9 +84,9 @@ void TestCatalogues::eachCatalogue()
         if (!isCaption)
             continue;
         const QString shown = (translation.isRightToLeft() ? "  " : "") + translation;
-        const QSize size = metrics.boundingRect(0, 0, kRoom, 1000, Qt::TextWordWrap, shown).size();
+        const QSize size = metrics.boundingRect(0, 0, room, 1000, Qt::TextWordWrap, shown).size();
         const int height = source == "Settings" || source == "Exit" ? 34 : 68;
-        QVERIFY2(size.width() <= kRoom && size.height() <= height - 8, qPrintable(translation));
+        QVERIFY2(size.width() <= room && size.height() <= height - 8, qPrintable(translation));
     }
     // The names of two bitmaps.
     QCOMPARE(translated({"PictureWidget", "Zoom"}), QString("Zoom"));

@@ -18,7 +18,7 @@ namespace
 class RaisedWindow : public QWidget, public CWindowManagement
 {
 public:
-    RaisedWindow() : CWindowManagement(this, kRaisePeriodMs, true, QString())
+    RaisedWindow() : CWindowManagement(this, raisePeriodMs, true, QString())
     {
         setWindowFlag(Qt::FramelessWindowHint);
         setGeometry(0, 0, 400, 300);
@@ -126,15 +126,15 @@ void TestWindowManagement::comesBackOnTopUntilStopped()
     other.takeFocus();
     QVERIFY(comesAbove(other.window(), window.winId()));
     QTRY_VERIFY(!window.isActiveWindow());
-    QVERIFY(!comesAbove(window.winId(), other.window(), 3 * kRaisePeriodMs));
+    QVERIFY(!comesAbove(window.winId(), other.window(), 3 * raisePeriodMs));
 
     // A whole period from the loss of the focus to the next tick is the longest it can take.
     QElapsedTimer sinceStart;
     sinceStart.start();
-    window.start_window(kRaisePeriodMs);
+    window.start_window(raisePeriodMs);
     QVERIFY(comesAbove(window.winId(), other.window()));
     const qint64 pollMs = 50; // looking takes a while, too
-    QVERIFY2(sinceStart.elapsed() <= kRaisePeriodMs + pollMs,
+    QVERIFY2(sinceStart.elapsed() <= raisePeriodMs + pollMs,
              qPrintable(QString::number(sinceStart.elapsed())));
 
     // The window manager still takes the window for its own.

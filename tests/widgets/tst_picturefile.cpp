@@ -2,8 +2,8 @@
 #include "widgets/photodecoder.h"
 #include "widgets/picturefile.h"
 
-#include <QTemporaryDir>
 #include <QDataStream>
+#include <QTemporaryDir>
 #include <QtTest>
 
 #include <sys/resource.h>
@@ -146,12 +146,12 @@ void TestPictureFile::otherFilesGiveAPictureOrNothing()
     QFETCH(QSize, size);
     QTemporaryDir dir;
     const QString path = dir.filePath(QString::fromUtf8("photo \u0635\u0648\u0631\u0629 \U0001F4F7.png"));
-    constexpr quint32 kLength = 2000000000;
+    constexpr quint32 length = 2000000000;
     if (kind == "2 GB of data") {
         QFile photo(writePhoto(gradient({40, 30})));
         QVERIFY(photo.open(QIODevice::ReadOnly));
         content = photo.readAll();
-        content.replace(33, 4, bigEndian(kLength));
+        content.replace(33, 4, bigEndian(length));
         content.replace(41, 2, "\x01\x01"); // no picture for any reader
     }
     if (kind == "folder")
@@ -161,7 +161,7 @@ void TestPictureFile::otherFilesGiveAPictureOrNothing()
     else if (kind != "missing")
         put(path, content);
     if (kind == "2 GB of data")
-        QVERIFY(QFile::resize(path, kLength + 1000LL));
+        QVERIFY(QFile::resize(path, length + 1000LL));
     const QImage image = readPicture(path);
     QCOMPARE(image.isNull(), size.isEmpty());
     if (!size.isEmpty())
