@@ -19,8 +19,8 @@ const QString movieEnding = QStringLiteral(".mov");
 QString previewOfMovie(QString name)
 {
     // A regular expression: its dot stands for any character.
-    static const QRegularExpression movieEnding(movieEnding);
-    return name.replace(movieEnding, previewEnding);
+    static const QRegularExpression anyMovieEnding(movieEnding);
+    return name.replace(anyMovieEnding, previewEnding);
 }
 
 QString movieOfPreview(QString name)

@@ -43,8 +43,10 @@ void TestLiveVideoWidget::init()
 
 void TestLiveVideoWidget::cleanup()
 {
-    m_view.reset();
     m_devices.reset();
+    // The next test's cameras are not to be taken for these.
+    QTRY_COMPARE(m_view->getVideoDeviceList().size(), 0);
+    m_view.reset();
     WebcamUtil::deleteData();
 }
 
