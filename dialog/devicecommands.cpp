@@ -44,7 +44,7 @@ void CPictorelDlg::changeNodevicemode()
     const bool isKnown = m_isErrorMode;
     m_isErrorMode = true;
     m_timerView->Stop();
-    if (m_movieView->isPlaying()) {
+    if (m_movieView->isCreated() && m_movieView->isPlaying()) {
         m_movieView->pause();
         m_timerView->Pause();
         showPlayButton();

@@ -21,10 +21,6 @@ MovieWidget::MovieWidget(QWidget *parent) : Phonon::VideoPlayer(parent)
     colours.setColor(QPalette::WindowText, Qt::green);
     setPalette(colours);
 
-    // Phonon measures the window for the picture before it knows the movie's size, and a square is what it
-    // takes then. Given the whole widget, the sink keeps the movie's proportions itself.
-    videoWidget()->setAspectRatio(Phonon::VideoWidget::AspectRatioWidget);
-
     auto *caption = new QLabel(tr("Movie"), this);
     caption->setAutoFillBackground(true);
     caption->setPalette(colours);
@@ -34,6 +30,11 @@ MovieWidget::MovieWidget(QWidget *parent) : Phonon::VideoPlayer(parent)
 
 bool MovieWidget::Create(const QString &path)
 {
+    // Phonon measures the window for the picture before it knows the movie's size, and a square is what it
+    // takes then. Given the whole widget, the sink keeps the movie's proportions itself. Not sooner: the
+    // first word with the player loads all of its machinery, which would take a quarter of the program's
+    // start.
+    videoWidget()->setAspectRatio(Phonon::VideoWidget::AspectRatioWidget);
     load(Phonon::MediaSource(QUrl::fromLocalFile(path)));
     m_created = true;
     return true;
