@@ -42,7 +42,7 @@ struct MicrophoneBranch::Opening {
 };
 
 MicrophoneBranch::MicrophoneBranch(GstElement *pipeline, GstElement *mixer, GstDevice *device)
-    : m_pipeline(pipeline), m_opening(std::make_shared<Opening>())
+    : m_pipeline(pipeline), m_opening(std::make_unique<std::shared_ptr<Opening>>(std::make_shared<Opening>()))
 {
     GstElement *source = gst_device_create_element(device, sourceName);
     if (!source)
@@ -56,7 +56,7 @@ MicrophoneBranch::MicrophoneBranch(GstElement *pipeline, GstElement *mixer, GstD
     gst_bin_add(GST_BIN(pipeline), source);
     gst_element_set_base_time(source, gst_element_get_base_time(pipeline));
     if (connectTo(mixer))
-        gst_element_call_async(source, Opening::open, new std::shared_ptr<Opening>(m_opening),
+        gst_element_call_async(source, Opening::open, new std::shared_ptr<Opening>(*m_opening),
                                Opening::release);
 }
 
@@ -81,8 +81,7 @@ MicrophoneBranch::~MicrophoneBranch()
         return;
     gst_bin_remove(GST_BIN(m_pipeline), m_source.get());
     // GStreamer keeps the element until the call is done.
-    gst_element_call_async(m_source.get(), Opening::close, new std::shared_ptr<Opening>(m_opening),
-                           Opening::release);
+    gst_element_call_async(m_source.get(), Opening::close, m_opening.release(), Opening::release);
 }
 
 bool MicrophoneBranch::isSender(GstMessage *message)

@@ -25,5 +25,6 @@ private:
 
     GstElement *const m_pipeline;
     ElementHandle m_source;
-    std::shared_ptr<Opening> m_opening;
+    // What the closing call will own, made in advance since a destructor must not fail.
+    std::unique_ptr<std::shared_ptr<Opening>> m_opening;
 };

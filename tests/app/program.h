@@ -55,28 +55,47 @@ public:
     static QImage screen() { return QGuiApplication::primaryScreen()->grabWindow(0).toImage(); }
     static int brightness(const QPoint &point) { return qGray(screen().pixel(point)); }
 
-    // The buttons' places on a screen of 1024x768, counted from the left.
-    static QPoint liveRow(int place) { return {85 + 2 + 170 * place, 734}; }
-    static QPoint row(int place) { return {172 + 85 + 170 * place, 734}; }
-    static QPoint exitButton() { return {939, 751}; }
-    static QPoint settingsButton() { return {939, 717}; }
-    static QPoint acceptButton() { return {512 - 85, 666}; }
-    static QPoint retryButton() { return {512 + 85, 666}; }
+    // The buttons' places, counted from the left.
+    static int width() { return QGuiApplication::primaryScreen()->size().width(); }
+    static int height() { return QGuiApplication::primaryScreen()->size().height(); }
+    static int buttonWidth() { return qMin(240, width() / 6); }
+    static int buttonHeight() { return 96 * buttonWidth() / 240; }
+    static int left(int buttons) { return (width() - buttonWidth()) / 2 - buttonWidth() * buttons / 2; }
+    static QPoint liveRow(int place) { return centre(left(5), place); }
+    static QPoint row(int place) { return centre(left(3), place); }
+    static QPoint exitButton() { return {width() - buttonWidth() / 2, height() - buttonHeight() / 4}; }
+    static QPoint settingsButton() { return exitButton() - QPoint(0, buttonHeight() / 2); }
+    static QPoint acceptButton()
+    {
+        return {(width() - buttonWidth()) / 2, height() - buttonHeight() * 3 / 2};
+    }
+    static QPoint retryButton() { return acceptButton() + QPoint(buttonWidth(), 0); }
 
-    // What the row holds: -5 for the live row's five buttons, else the number of buttons from the other rows'
-    // left.
+    // How the button around that point looks: E enabled, d disabled, . not there. Plates are blue, or grey.
+    static char look(const QImage &image, const QPoint &button)
+    {
+        // At its right end neither drawing nor caption is in the way.
+        const QColor plate = image.pixelColor(button + QPoint(buttonWidth() / 2 - 8, 0));
+        if (plate.value() < 20)
+            return '.';
+        return plate.hsvSaturation() > 60 ? 'E' : 'd';
+    }
+    // The live row's five places, or the other rows' four when nothing stands at the first of the five.
+    static QString rowLooks(const QImage &image)
+    {
+        QString looks;
+        const bool isLiveRow = look(image, liveRow(0)) != '.';
+        for (int place = 0; place < (isLiveRow ? 5 : 4); ++place)
+            looks += look(image, isLiveRow ? liveRow(place) : row(place));
+        return looks;
+    }
+    // What the row holds: -5 for the live row's five buttons, else the number of buttons of another row.
     static int buttonsShown()
     {
-        const QImage image = screen();
-        const auto isLit = [&image](int x) { return qGray(image.pixel(x, 734)) > 10; };
-        if (isLit(10))
-            return -5;
-        int count = 0;
-        while (count < 4 && isLit(172 + 8 + 170 * count))
-            ++count;
-        return count;
+        const QString looks = rowLooks(screen());
+        return looks.size() == 5 ? -5 : looks.size() - looks.count('.');
     }
-    static bool showsPreview() { return brightness(acceptButton() - QPoint(78, 0)) > 10; }
+    static bool showsPreview() { return look(screen(), acceptButton()) == 'E'; }
 
     static QDir workingFolder()
     {
@@ -88,5 +107,10 @@ public:
     }
 
 private:
+    static QPoint centre(int left, int place)
+    {
+        return {left + buttonWidth() * place + buttonWidth() / 2, height() - buttonHeight() / 2};
+    }
+
     QProcess m_process;
 };
