@@ -1,4 +1,5 @@
 #include "tests/app/program.h"
+#include "tests/support/smalldisk.h"
 #include "tests/support/testdevices.h"
 
 #include <QCryptographicHash>
@@ -19,6 +20,7 @@ private slots:
     void endsWhenTheCameraChoiceIsCancelled();
     void warnsOfMissingDevicesAboveItsWindow();
     void saysWhichPartIsMissing();
+    void losesNothingWhenKilledWhileSaving();
     void keepsCapturesAtLogOut_data();
     void keepsCapturesAtLogOut();
 
@@ -298,6 +300,54 @@ void TestProgram::saysWhichPartIsMissing()
     QTRY_VERIFY(Program::windows() > 0);
     program.kill();
     QVERIFY(program.waitForFinished());
+}
+
+void TestProgram::losesNothingWhenKilledWhileSaving()
+{
+    const SmallDisk disk(700);
+    if (!disk.isMounted())
+        QSKIP("a small file system takes root to mount");
+    QSettings settings(QDir::home().filePath(".hollin_orvane.ini"), QSettings::IniFormat);
+    settings.setValue("SaveDirectory", disk.path(""));
+    settings.sync();
+    const QDir target(disk.path("VeltrixCamera/" + QDate::currentDate().toString("yyyyMMdd")));
+
+    Program program;
+    QVERIFY(program.start());
+    takePhoto();
+    QFile large(Program::workingFolder().filePath("movie20240101120000.mov"));
+    QVERIFY(large.open(QIODevice::WriteOnly));
+    const QByteArray block(1024 * 1024, 'm');
+    for (int mebibyte = 0; mebibyte < 500; ++mebibyte)
+        large.write(block);
+    large.close();
+    const QMap<QString, QByteArray> taken = checksums(Program::workingFolder());
+    QCOMPARE(taken.size(), 2);
+    Program::click(Program::exitButton());
+    QTRY_COMPARE(Program::windows(), 2);
+    Program::press("Return");
+    QTRY_VERIFY(target.exists());
+    program.process().kill();
+    QVERIFY(program.waitForEnd());
+
+    // Whatever had been reached, each capture is whole, here or there.
+    QMap<QString, QByteArray> found = checksums(target);
+    for (auto capture = found.begin(); capture != found.end(); ++capture)
+        QCOMPARE(capture.value(), taken[capture.key()]);
+    const QMap<QString, QByteArray> left = checksums(Program::workingFolder());
+    for (auto capture = left.begin(); capture != left.end(); ++capture)
+        found[capture.key()] = capture.value();
+    QCOMPARE(found, taken);
+
+    Program next;
+    QVERIFY(next.start());
+    Program::click(Program::exitButton());
+    QTRY_COMPARE(Program::windows(), 2);
+    Program::press("Return");
+    QVERIFY(next.waitForEnd(30000));
+    QCOMPARE(checksums(target), taken);
+    QCOMPARE(Program::captures(), QStringList());
+    settings.remove("SaveDirectory");
 }
 
 void TestProgram::keepsCapturesAtLogOut_data()
