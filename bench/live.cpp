@@ -55,12 +55,13 @@ Cost measurePeer(const Camera &camera, const QSize &window)
 {
     return measure(
         "gst-launch-1.0",
-        launchLine(QString("-v orvanetestcamera device=cam ! %1,width=1920,height=1080,framerate=30/1 ! "
-                           "%2 videoconvert ! videoscale ! video/x-raw,width=%3,height=%4 ! "
-                           "fpsdisplaysink text-overlay=false fps-update-interval=500 video-sink=ximagesink")
-                       .arg(camera.caps, camera.decoder)
-                       .arg(window.width())
-                       .arg(window.height())));
+        launchLine(
+            QString("-v orvanetestsource device=\"camera cam\" ! %1,width=1920,height=1080,framerate=30/1 ! "
+                    "%2 videoconvert ! videoscale ! video/x-raw,width=%3,height=%4 ! "
+                    "fpsdisplaysink text-overlay=false fps-update-interval=500 video-sink=ximagesink")
+                .arg(camera.caps, camera.decoder)
+                .arg(window.width())
+                .arg(window.height())));
 }
 
 void compare(const Camera &camera, const QSize &window)

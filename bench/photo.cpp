@@ -24,8 +24,8 @@ FramePtr frameOf(const QSize &size)
         .formats(QString("YUY2 %1x%2 15").arg(size.width()).arg(size.height()))
         .content("page");
     devices.write();
-    const ElementHandle pipeline(
-        gst_parse_launch("orvanetestcamera device=cam num-buffers=1 ! appsink name=sink", nullptr));
+    const ElementHandle pipeline(gst_parse_launch(
+        "orvanetestsource device=\"camera cam\" num-buffers=1 ! appsink name=sink", nullptr));
     const ElementHandle sink(gst_bin_get_by_name(GST_BIN(pipeline.get()), "sink"));
     gst_element_set_state(pipeline.get(), GST_STATE_PLAYING);
     const SampleHandle sample(gst_app_sink_pull_sample(GST_APP_SINK(sink.get())));

@@ -70,11 +70,11 @@ Recording measure(const QString &program, const QStringList &arguments, const QS
 QStringList peer(const QString &path)
 {
     return launchLine(
-        "-e orvanetestcamera device=cam ! "
+        "-e orvanetestsource device=\"camera cam\" ! "
         "video/x-raw,format=YUY2,width=1920,height=1080,framerate=30/1 ! queue ! videoconvert ! "
         "video/x-raw,format=I420 ! x264enc pass=qual quantizer=23 bitrate=9331 key-int-max=60 "
         "speed-preset=superfast tune=zerolatency ! h264parse ! queue ! mux. "
-        "orvanetestmicrophone device=mic ! audioconvert ! audioresample ! "
+        "orvanetestsource device=\"microphone mic\" ! audioconvert ! audioresample ! "
         "audio/x-raw,format=F32LE,rate=48000,channels=2 ! avenc_aac bitrate=128000 ! aacparse ! "
         "queue ! mux. qtmux name=mux reserved-max-duration=660000000000 "
         "reserved-moov-update-period=500000000 reserved-bytes-per-sec=1440 ! "

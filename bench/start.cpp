@@ -85,13 +85,14 @@ double millisecondsToPicture(const WatchedScreen &screen, const QString &program
 int main()
 {
     TestDevices devices;
-    devices.camera("cam").formats("YUY2 1920x1080 30").content("solid").colour(QString::number(colour, 16));
+    devices.camera("cam").formats("YUY2 1920x1080 30").content(QString::number(colour, 16));
     devices.microphone("mic").sound("silence");
     devices.write();
     const WatchedScreen screen;
-    const QStringList peer = launchLine(
-        "-q orvanetestcamera device=cam ! video/x-raw,format=YUY2,width=1920,height=1080,framerate=30/1 "
-        "! videoconvert ! videoscale ! video/x-raw,width=1749,height=984 ! ximagesink");
+    const QStringList peer =
+        launchLine("-q orvanetestsource device=\"camera cam\" ! "
+                   "video/x-raw,format=YUY2,width=1920,height=1080,framerate=30/1 "
+                   "! videoconvert ! videoscale ! video/x-raw,width=1749,height=984 ! ximagesink");
 
     Comparison start({"start to the first live frame on the screen", "ms", 1.5});
     for (int round = -1; round < rounds; ++round) {

@@ -17,10 +17,8 @@ private slots:
     void livesWithoutACamera();
     void takesAPhotoIntoTheWorkingFolder();
     void recordsWithAPreview();
-    void warnsOfDevicesThatAreMissing_data();
     void warnsOfDevicesThatAreMissing();
     void takesASeriesOfItsOwn();
-    void zoomsByClearSteps_data();
     void zoomsByClearSteps();
 
 private:
@@ -33,7 +31,7 @@ private:
 void TestLiveVideoWidget::init()
 {
     m_devices = std::make_unique<TestDevices>();
-    m_devices->camera("cam").formats("YUY2 320x240 30").content("counter");
+    m_devices->camera("cam").formats("YUY2 320x240 30");
     m_devices->microphone("mic");
     m_devices->write();
     m_view = std::make_unique<LiveVideoWidget>();
@@ -98,42 +96,44 @@ void TestLiveVideoWidget::recordsWithAPreview()
     QCOMPARE(workingFiles(), expected);
 }
 
-void TestLiveVideoWidget::warnsOfDevicesThatAreMissing_data()
-{
-    QTest::addColumn<QStringList>("pulled");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("microphone")
-        << QStringList("mic")
-        << "The audio device is invalid. Please confirm whether the device is correctly connected.";
-    QTest::newRow("camera")
-        << QStringList("cam")
-        << "The video device is invalid. Please confirm whether the device is correctly connected. ";
-    QTest::newRow("both")
-        << QStringList({"cam", "mic"})
-        << "The video device and the audio device are invalid. Please confirm whether the device "
-           "is correctly connected. ";
-}
-
 void TestLiveVideoWidget::warnsOfDevicesThatAreMissing()
 {
-    QFETCH(QStringList, pulled);
-    QFETCH(QString, text);
-    m_view->Create();
-    m_view->Start();
-    QVERIFY(!m_view->SaveBmp().isEmpty());
+    const struct {
+        QStringList pulled;
+        const char *text;
+    } table[] = {
+        {{"mic"}, "The audio device is invalid. Please confirm whether the device is correctly connected."},
+        {{"cam"}, "The video device is invalid. Please confirm whether the device is correctly connected. "},
+        {{"cam", "mic"},
+         "The video device and the audio device are invalid. Please confirm whether the device "
+         "is correctly connected. "},
+    };
     QSignalSpy lost(m_view.get(), &LiveVideoWidget::disconnectDevice);
-    for (const QString &device : pulled)
-        m_devices->pull(device);
-    if (pulled.contains("cam"))
-        QVERIFY(lost.wait());
-    // What is pulled is seen within moments.
-    QTest::qWait(200);
-    const ModalAnswer answer;
-    QVERIFY(!m_view->Record());
-    QCOMPARE(answer.text(), text);
-    QCOMPARE(m_view->isVideoValid(), !pulled.contains("cam"));
-    QCOMPARE(m_view->isAudioValid(), !pulled.contains("mic"));
-    QCOMPARE(workingFiles().filter("movie"), QStringList());
+    for (const auto &row : table) {
+        for (const char *device : {"cam", "mic"})
+            m_devices->plug(device);
+        QTRY_COMPARE(m_view->getVideoDeviceList().size(), 1);
+        m_view->Create();
+        m_view->Start();
+        QVERIFY(!m_view->SaveBmp().isEmpty());
+        QTRY_VERIFY(m_view->Record());
+        m_view->RecordStop();
+        WebcamUtil::deleteData();
+        for (const QString &device : row.pulled)
+            m_devices->pull(device);
+        const bool isCameraGone = row.pulled.contains("cam");
+        if (isCameraGone)
+            QVERIFY(lost.wait());
+        // What is pulled is seen within moments.
+        QTest::qWait(200);
+        const ModalAnswer answer;
+        QVERIFY(!m_view->Record());
+        QCOMPARE(answer.text(), QString(row.text));
+        QCOMPARE(m_view->isVideoValid(), !isCameraGone);
+        QCOMPARE(m_view->isAudioValid(), !row.pulled.contains("mic"));
+        QCOMPARE(workingFiles().filter("movie"), QStringList());
+        m_view->Release();
+    }
 }
 
 void TestLiveVideoWidget::takesASeriesOfItsOwn()
@@ -155,27 +155,24 @@ void TestLiveVideoWidget::takesASeriesOfItsOwn()
     QDir::setCurrent(before);
 }
 
-void TestLiveVideoWidget::zoomsByClearSteps_data()
-{
-    QTest::addColumn<int>("last");
-    QTest::addColumn<int>("distance");
-    QTest::addColumn<int>("step");
-    QTest::addColumn<bool>("isDecision");
-    QTest::newRow("too small a change") << 200 << 299 << int(ZoomStep::None) << false;
-    QTest::newRow("apart") << 200 << 300 << int(ZoomStep::In) << true;
-    QTest::newRow("together") << 300 << 200 << int(ZoomStep::Out) << true;
-    QTest::newRow("to a quarter, but no clear change") << 100 << 25 << int(ZoomStep::None) << false;
-    QTest::newRow("a contact lost") << 500 << 100 << int(ZoomStep::None) << true;
-    QTest::newRow("a contact found") << 20 << 200 << int(ZoomStep::None) << true;
-}
-
 void TestLiveVideoWidget::zoomsByClearSteps()
 {
-    QFETCH(int, last);
-    QFETCH(int, distance);
-    bool isDecision = false;
-    QTEST(int(zoomStep(last, distance, &isDecision)), "step");
-    QTEST(isDecision, "isDecision");
+    const struct {
+        int last;
+        int distance;
+        ZoomStep step;
+        bool isDecision;
+    } table[] = {
+        {200, 299, ZoomStep::None, false}, {200, 300, ZoomStep::In, true}, {300, 200, ZoomStep::Out, true},
+        {100, 25, ZoomStep::None, false}, // to a quarter, but no clear change
+        {500, 100, ZoomStep::None, true}, // a contact lost
+        {20, 200, ZoomStep::None, true},  // a contact found
+    };
+    for (const auto &row : table) {
+        bool isDecision = false;
+        QCOMPARE(int(zoomStep(row.last, row.distance, &isDecision)), int(row.step));
+        QCOMPARE(isDecision, row.isDecision);
+    }
 }
 
 QTEST_MAIN(TestLiveVideoWidget)

@@ -1,7 +1,5 @@
 #include "capture/timerwidget.h"
 
-#include <QGuiApplication>
-#include <QScreen>
 #include <QSignalSpy>
 #include <QTimer>
 #include <QtTest>
@@ -12,50 +10,40 @@ class TestTimerWidget : public QObject
     Q_OBJECT
 
 private slots:
-    void countdownsAndShots_data();
     void countdownsAndShots();
     void recordingTimeAndLimit();
     void playbackAsksForTheTimeUntilStopped();
-    void placesTheCaptionForItsMode();
 
 private:
     static void tick(TimerWidget &timer) { QMetaObject::invokeMethod(&timer, "showtime"); }
 };
 
-void TestTimerWidget::countdownsAndShots_data()
-{
-    QTest::addColumn<int>("count");
-    QTest::addColumn<bool>("modeAfterRun");
-    QTest::addColumn<QString>("seconds"); // what each second shows; "*" is a shot, "-" nothing
-    QTest::newRow("counts down over and over") << 3 << false << "3 2 1 * 3 2 1 * 3";
-    QTest::newRow("a series starts a second late") << 3 << true << "- 3 2 1 * 3 2 1 *";
-    QTest::newRow("no delay: a shot a second") << 0 << false << "* * *";
-    QTest::newRow("two digits") << 10 << false << "10 9 8";
-}
-
 void TestTimerWidget::countdownsAndShots()
 {
-    QFETCH(int, count);
-    QFETCH(bool, modeAfterRun);
-    QFETCH(QString, seconds);
-    TimerWidget timer;
-    QSignalSpy shots(&timer, &TimerWidget::shot);
-    if (!modeAfterRun)
-        timer.SetMode(TimerMode::Countdown);
-    timer.setcount(count);
-    timer.run();
-    if (modeAfterRun)
-        timer.SetMode(TimerMode::Countdown);
-
-    int second = 0;
-    for (const QString &expected : seconds.split(' ')) {
-        if (second++ > 0)
-            tick(timer);
-        const bool counts = expected != "*" && expected != "-";
-        QCOMPARE(timer.text(), counts ? expected + " second to capture" : QString());
-        QCOMPARE(shots.count(), expected == "*" ? 1 : 0);
-        QVERIFY(!counts || timer.isVisible());
-        shots.clear();
+    const struct {
+        int count;
+        bool isModeSetAfterRun; // as a series does, which starts a second late by that
+        QString seconds;        // what each second shows; "*" is a shot, "-" nothing
+    } table[] = {{3, false, "3 2 1 * 3 2 1 * 3"}, {3, true, "- 3 2 1 * 3 2 1 *"}, {0, false, "* * *"}};
+    for (const auto &row : table) {
+        TimerWidget timer;
+        QSignalSpy shots(&timer, &TimerWidget::shot);
+        if (!row.isModeSetAfterRun)
+            timer.SetMode(TimerMode::Countdown);
+        timer.setcount(row.count);
+        timer.run();
+        if (row.isModeSetAfterRun)
+            timer.SetMode(TimerMode::Countdown);
+        int second = 0;
+        for (const QString &expected : row.seconds.split(' ')) {
+            if (second++ > 0)
+                tick(timer);
+            const bool counts = expected != "*" && expected != "-";
+            QCOMPARE(timer.text(), counts ? expected + " second to capture" : QString());
+            QCOMPARE(shots.count(), expected == "*" ? 1 : 0);
+            QVERIFY(!counts || timer.isVisible());
+            shots.clear();
+        }
     }
 }
 
@@ -93,18 +81,6 @@ void TestTimerWidget::playbackAsksForTheTimeUntilStopped()
         QVERIFY(asks.wait(1000));
         (timer.*stop)();
         QVERIFY(!ticker->isActive());
-    }
-}
-
-void TestTimerWidget::placesTheCaptionForItsMode()
-{
-    TimerWidget timer;
-    timer.move(5, 40);
-    const int screen = QGuiApplication::primaryScreen()->availableGeometry().width();
-    for (TimerMode mode : {TimerMode::Recording, TimerMode::Countdown, TimerMode::Playback}) {
-        timer.SetMode(mode);
-        QCOMPARE(QPoint(timer.geometry().right(), timer.y()), QPoint(screen - 1, 40));
-        QVERIFY(timer.isHidden() && timer.text().isEmpty());
     }
 }
 

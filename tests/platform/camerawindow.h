@@ -4,6 +4,7 @@
 #include "tests/plugins/counterpicture.h"
 #include "tests/support/testdevices.h"
 
+#include <QElapsedTimer>
 #include <QFrame>
 #include <QGuiApplication>
 #include <QScreen>
@@ -12,12 +13,19 @@
 
 #include <chrono>
 
+inline qint64 nowMicroseconds()
+{
+    using namespace std::chrono;
+    return duration_cast<microseconds>(steady_clock::now().time_since_epoch()).count();
+}
+
 // A camera with its live picture in a window of its own, as the program has it, to be looked at from outside:
 // what counts is what stands on the screen.
 class CameraWindow
 {
 public:
     explicit CameraWindow(const QSize &size = QSize(640, 480))
+        : lost(&capture, &LiveVideoData::disconnectDevice)
     {
         window.setFixedSize(size);
         window.setWindowFlags(Qt::FramelessWindowHint);
@@ -27,13 +35,27 @@ public:
         static_cast<void>(QTest::qWaitForWindowExposed(&window));
     }
 
-    // Opens the camera and waits for its picture.
+    // Waits until the cameras of these names, in any order, are all there are.
+    bool lists(QStringList names)
+    {
+        names.sort();
+        return QTest::qWaitFor([&] {
+            QStringList listed = capture.GetVideoDeviceList();
+            listed.sort();
+            return listed == names;
+        });
+    }
+    void choose(const QString &name) { capture.SetVideoDevice(capture.GetVideoDeviceList().indexOf(name)); }
+
+    // Waits for a camera, opens it and waits for its picture.
     bool start()
     {
+        if (!QTest::qWaitFor([this] { return !capture.GetVideoDeviceList().isEmpty(); }))
+            return false;
         capture.Create();
         capture.Start();
-        return capture.created && QTest::qWaitFor([this] { return capture.IsValidVideoDevice(); }, 3000) &&
-               QTest::qWaitFor([this] { return showsPicture(); }, 3000);
+        return capture.created && QTest::qWaitFor([this] { return capture.IsValidVideoDevice(); }) &&
+               QTest::qWaitFor([this] { return showsPicture(); });
     }
 
     // Whether anything but black stands on the middle line of the window.
@@ -49,20 +71,16 @@ public:
 
     QImage screen() const { return QGuiApplication::primaryScreen()->grabWindow(window.winId()).toImage(); }
 
-    // The counter in the picture of that place in an image.
-    static bool read(const QImage &image, const QRect &place, CounterReading *reading)
+    // When the counter picture was captured that stands there in an image; -1 when none does.
+    static qint64 capturedAt(const QImage &image, const QRect &place)
     {
         const auto luma = [&](int x, int y) { return qGray(image.pixel(place.x() + x, place.y() + y)); };
-        return readCounter(luma, place.width(), place.height(), reading);
+        return readCounter(luma, place.width(), place.height());
     }
+    // Of the picture on the whole window.
+    qint64 shownSince() const { return capturedAt(screen(), window.rect()); }
 
     LiveVideoData capture;
     QFrame window;
+    QSignalSpy lost;
 };
-
-inline qint64 nowMicroseconds()
-{
-    return std::chrono::duration_cast<std::chrono::microseconds>(
-               std::chrono::steady_clock::now().time_since_epoch())
-        .count();
-}

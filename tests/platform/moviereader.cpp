@@ -29,7 +29,10 @@ void readFrames(GstElement *sink, MovieContents *contents)
         const QImage picture(static_cast<const uchar *>(GST_VIDEO_FRAME_PLANE_DATA(frame.get(), 0)),
                              info.width, info.height, GST_VIDEO_FRAME_PLANE_STRIDE(frame.get(), 0),
                              QImage::Format_Grayscale8);
-        contents->frames.push_back({seconds(buffer), picture.scaled(320, 180)});
+        contents->frames.push_back({seconds(buffer), qGray(picture.pixel(picture.rect().center()))});
+        contents->last = picture.copy();
+        if (contents->first.isNull())
+            contents->first = contents->last;
     }
 }
 

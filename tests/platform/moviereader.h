@@ -13,9 +13,11 @@
 struct MovieContents {
     struct Frame {
         double time = 0;
-        QImage picture; // grey
+        int middle = 0; // brightness, 0 to 255
     };
     std::vector<Frame> frames;
+    QImage first; // grey, as last
+    QImage last;
     std::vector<double> loudMoments; // where sound begins after quiet
     double soundLength = 0;
     bool isReadToItsEnd = false;

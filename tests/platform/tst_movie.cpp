@@ -2,7 +2,6 @@
 #include "tests/platform/moviereader.h"
 #include "tests/support/smalldisk.h"
 
-#include <QElapsedTimer>
 #include <QProcess>
 #include <QStorageInfo>
 
@@ -15,26 +14,22 @@ class TestMovie : public QObject
 
 private slots:
     void init() { m_folder = std::make_unique<QTemporaryDir>(); }
-    void recordsPictureAndSoundInSync_data();
     void recordsPictureAndSoundInSync();
     void startsOnlyWithCameraAndMicrophone();
-    void outlivesItsMicrophone_data();
     void outlivesItsMicrophone();
     void showsWhatZoomShows();
     void waitsWithANewResolution();
     void playsAfterTheProgramWasKilled();
-    void endsOnAFullDisk_data();
     void endsOnAFullDisk();
     void isFinishedWhenTheCameraIsClosed();
 
 private:
     QString path() const { return m_folder->filePath("movie.mov"); }
-    static bool playsInAnotherPlayer(const QString &path);
 
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 
-bool TestMovie::playsInAnotherPlayer(const QString &path)
+static bool playsInAnotherPlayer(const QString &path)
 {
     QProcess player;
     player.start("ffmpeg",
@@ -42,72 +37,55 @@ bool TestMovie::playsInAnotherPlayer(const QString &path)
     return player.waitForFinished() && player.exitCode() == 0 && player.readAllStandardError().isEmpty();
 }
 
-void TestMovie::recordsPictureAndSoundInSync_data()
-{
-    QTest::addColumn<QString>("format");
-    QTest::newRow("raw") << "YUY2 640x480 30";
-    QTest::newRow("JPEG") << "JPEG 640x480 30";
-}
-
 void TestMovie::recordsPictureAndSoundInSync()
 {
-    QFETCH(QString, format);
-    TestDevices devices;
-    devices.camera("cam").formats(format).content("flash");
-    devices.microphone("mic").sound("beep");
-    devices.write();
-    CameraWindow camera;
-    QTRY_COMPARE(camera.capture.GetVideoDeviceList().size(), 1);
-    camera.capture.Create();
-    camera.capture.Start();
-    QTRY_VERIFY(camera.capture.IsValidVideoDevice());
-    camera.capture.Record(path());
-    QTest::qWait(4300);
-    QElapsedTimer clock;
-    clock.start();
-    camera.capture.RecordStop();
-    QVERIFY2(clock.elapsed() < 500, qPrintable(QString::number(clock.elapsed())));
-    camera.capture.RecordStop();
+    for (const char *format : {"YUY2 640x480 30", "JPEG 640x480 30"}) {
+        TestDevices devices;
+        devices.camera("cam").formats(format).content("flash").name(format);
+        devices.microphone("mic").sound("beep");
+        devices.write();
+        CameraWindow camera;
+        QVERIFY(camera.lists({format}));
+        camera.capture.Create();
+        camera.capture.Start();
+        QTRY_VERIFY(camera.capture.IsValidVideoDevice());
+        camera.capture.Record(path());
+        QTest::qWait(4300);
+        QElapsedTimer clock;
+        clock.start();
+        camera.capture.RecordStop();
+        QVERIFY2(clock.elapsed() < 500, format);
+        camera.capture.RecordStop();
 
-    QVERIFY(playsInAnotherPlayer(path()));
-    const MovieContents movie = readMovie(path());
-    QVERIFY(movie.isReadToItsEnd);
-    QVERIFY(movie.length() > 4.0 && movie.length() < 4.6);
-    QVERIFY(movie.soundLength > 4.0 && movie.soundLength < 4.6);
-    QVERIFY2(movie.frames.size() >= 125, qPrintable(QString::number(movie.frames.size())));
-
-    std::vector<double> flashes;
-    for (size_t i = 1; i < movie.frames.size(); ++i) {
-        const QPoint centre = movie.frames[i].picture.rect().center();
-        if (qGray(movie.frames[i].picture.pixel(centre)) > 128 &&
-            qGray(movie.frames[i - 1].picture.pixel(centre)) <= 128)
-            flashes.push_back(movie.frames[i].time);
+        QVERIFY2(playsInAnotherPlayer(path()), format);
+        const MovieContents movie = readMovie(path());
+        QVERIFY2(std::abs(movie.length() - 4.3) < 0.3 && std::abs(movie.soundLength - 4.3) < 0.3, format);
+        QVERIFY2(movie.frames.size() >= 125, format);
+        int pairs = 0;
+        for (size_t i = 1; i < movie.frames.size(); ++i) {
+            if (movie.frames[i].middle < 128 || movie.frames[i - 1].middle >= 128)
+                continue;
+            const double flash = movie.frames[i].time;
+            for (const double beep : movie.loudMoments) {
+                // One frame, and the packet of the encoder.
+                if (std::abs(beep - flash) < 0.045) {
+                    qInfo("flash at %.3f s, beep %+.0f ms", flash, (beep - flash) * 1000);
+                    ++pairs;
+                }
+            }
+        }
+        QVERIFY2(pairs >= 3, format);
+        QFile::remove(path());
     }
-    QVERIFY(flashes.size() >= 3);
-    int pairs = 0;
-    for (const double flash : flashes) {
-        const auto nearest =
-            std::min_element(movie.loudMoments.begin(), movie.loudMoments.end(), [flash](double a, double b) {
-                return std::abs(a - flash) < std::abs(b - flash);
-            });
-        if (nearest == movie.loudMoments.end())
-            continue;
-        qInfo("flash at %.3f s, beep %+.0f ms", flash, (*nearest - flash) * 1000);
-        // One frame, and the packet of the encoder.
-        pairs += std::abs(*nearest - flash) < 0.045;
-    }
-    QVERIFY(pairs >= 3);
 }
 
 void TestMovie::startsOnlyWithCameraAndMicrophone()
 {
     TestDevices devices;
-    devices.camera("cam").formats("YUY2 320x240 30");
+    devices.camera("cam");
     devices.write();
-    CameraWindow camera(QSize(320, 240));
-    QTRY_COMPARE(camera.capture.GetVideoDeviceList().size(), 1);
+    CameraWindow camera;
     camera.capture.Record(path());
-    QVERIFY(!camera.capture.IsValidVideoDevice());
     QVERIFY(camera.start());
     QTRY_VERIFY(!camera.capture.IsValidAudioDevice());
     camera.capture.Record(path());
@@ -124,104 +102,84 @@ void TestMovie::startsOnlyWithCameraAndMicrophone()
     QVERIFY(QFileInfo(path()).size() > 0);
 }
 
-void TestMovie::outlivesItsMicrophone_data()
-{
-    QTest::addColumn<QString>("atStart");
-    QTest::addColumn<QString>("later");
-    QTest::newRow("pulled out") << "none"
-                                << "pull";
-    QTest::newRow("gives no more sound") << "none"
-                                         << "stall";
-    QTest::newRow("fails") << "none"
-                           << "read-error";
-    QTest::newRow("hangs while it is opened") << "hang-open"
-                                              << "";
-    QTest::newRow("busy") << "busy"
-                          << "";
-}
-
 void TestMovie::outlivesItsMicrophone()
 {
-    QFETCH(QString, atStart);
-    QFETCH(QString, later);
+    const struct {
+        const char *atStart;
+        const char *later;
+    } table[] = {{"", "unplugged"}, {"", "stall"}, {"", "read-error"}, {"hang-open", ""}, {"busy", ""}};
     TestDevices devices;
-    devices.camera("cam").formats("YUY2 320x240 30").content("counter");
-    devices.microphone("mic").sound("tone").fault(atStart);
-    devices.write();
-    CameraWindow camera(QSize(320, 240));
-    QSignalSpy lost(&camera.capture, &LiveVideoData::disconnectDevice);
-    QTRY_COMPARE(camera.capture.GetVideoDeviceList().size(), 1);
-    QVERIFY(camera.start());
-    QTRY_VERIFY(camera.capture.IsValidAudioDevice());
-    QElapsedTimer clock;
-    clock.start();
-    camera.capture.Record(path());
-    QVERIFY(clock.elapsed() < 200);
-    QTest::qWait(700);
-    if (later == QLatin1String("pull"))
-        devices.pull("mic");
-    else if (!later.isEmpty())
-        devices.setFault("mic", later);
-    QTest::qWait(1000);
-    clock.start();
-    camera.capture.RecordStop();
-    QVERIFY2(clock.elapsed() < 500, qPrintable(QString::number(clock.elapsed())));
-    devices.setFault("mic", "none");
+    devices.camera("cam").content("counter");
+    for (const auto &row : table) {
+        const QByteArray name = QByteArray(row.atStart) + row.later;
+        devices.microphone("mic").sound("tone").fault(row.atStart);
+        devices.plug("mic");
+        CameraWindow camera;
+        QVERIFY2(camera.start(), name);
+        QTRY_VERIFY(camera.capture.IsValidAudioDevice());
+        QElapsedTimer clock;
+        clock.start();
+        camera.capture.Record(path());
+        QVERIFY2(clock.elapsed() < 200, name);
+        QTest::qWait(700);
+        if (name == "unplugged")
+            devices.pull("mic");
+        else if (*row.later)
+            devices.setFault("mic", row.later);
+        QTest::qWait(1000);
+        clock.start();
+        camera.capture.RecordStop();
+        QVERIFY2(clock.elapsed() < 500, name);
+        devices.setFault("mic", "");
 
-    const MovieContents movie = readMovie(path());
-    QVERIFY(movie.isReadToItsEnd);
-    QVERIFY(movie.length() > 1.4);
-    QVERIFY(movie.soundLength > 1.3);
-    QCOMPARE(movie.loudMoments.empty(), atStart != QLatin1String("none"));
-    CounterReading reading;
-    QTRY_VERIFY(CameraWindow::read(camera.screen(), QRect(0, 0, 320, 240), &reading) &&
-                nowMicroseconds() - reading.capturedUs < 200000);
-    QCOMPARE(lost.count(), 0);
+        const MovieContents movie = readMovie(path());
+        QVERIFY2(movie.isReadToItsEnd && movie.length() > 1.4 && movie.soundLength > 1.3, name);
+        QVERIFY2(movie.loudMoments.empty() == bool(*row.atStart), name);
+        QTRY_VERIFY2(nowMicroseconds() - camera.shownSince() < 200000, name);
+        QVERIFY2(camera.lost.count() == 0, name);
+        QFile::remove(path());
+    }
 }
 
 void TestMovie::showsWhatZoomShows()
 {
     TestDevices devices;
-    devices.camera("cam").formats("YUY2 640x360 30").content("quarters");
+    devices.camera("cam").content("quarters");
     devices.microphone("mic");
     devices.write();
     CameraWindow camera;
-    QTRY_COMPARE(camera.capture.GetVideoDeviceList().size(), 1);
     QVERIFY(camera.start());
+    // The white square on the centre, with a black one in it, reaches here only when it is enlarged, and the
+    // black one only when it is enlarged too much.
+    const QPoint place(320 + 36, 240 + 36);
+    const auto isWhite = [&](const QImage &picture) { return qGray(picture.pixel(place)) > 220; };
+    QVERIFY(!isWhite(camera.screen()));
     camera.capture.Record(path());
     QTest::qWait(300);
     for (int i = 0; i < 4; ++i)
         camera.capture.ZoomIn();
-    QTest::qWait(300);
+    QTRY_VERIFY(isWhite(camera.screen()));
     QVERIFY(camera.capture.SaveBitmap(m_folder->filePath("zoomed.png")));
+    QVERIFY(isWhite(QImage(m_folder->filePath("zoomed.png"))));
+    QTest::qWait(300);
     camera.capture.RecordStop();
     const MovieContents movie = readMovie(path());
-    QVERIFY(movie.frames.size() > 10);
-    const QImage last = movie.frames.back().picture;
-    const QImage photo = QImage(m_folder->filePath("zoomed.png")).scaled(last.size());
-    int alike = 0;
-    int unlikeFirst = 0;
-    int looked = 0;
-    for (int y = 3; y < last.height(); y += 7) {
-        for (int x = 3; x < last.width(); x += 7, ++looked) {
-            alike += qAbs(qGray(last.pixel(x, y)) - qGray(photo.pixel(x, y))) < 30;
-            unlikeFirst +=
-                qAbs(qGray(movie.frames.front().picture.pixel(x, y)) - qGray(photo.pixel(x, y))) > 30;
-        }
-    }
-    QVERIFY(alike > looked * 9 / 10);
-    QVERIFY(unlikeFirst > looked / 50);
+    QVERIFY(!isWhite(movie.first) && isWhite(movie.last));
+    for (int i = 0; i < 6; ++i)
+        camera.capture.ZoomOut();
+    QTRY_VERIFY(!isWhite(camera.screen()) && camera.screen().pixelColor(3, 3).red() > 150);
 }
 
 void TestMovie::waitsWithANewResolution()
 {
     TestDevices devices;
-    devices.camera("cam").formats("YUY2 320x240 30;YUY2 640x480 30");
+    devices.camera("cam").formats("JPEG 320x240 30;YUY2 640x480 30");
     devices.microphone("mic");
     devices.write();
     CameraWindow camera;
-    QTRY_COMPARE(camera.capture.GetVideoDeviceList().size(), 1);
     QVERIFY(camera.start());
+    QCOMPARE(camera.capture.GetResoList(), QStringList({"320x240", "640x480"}));
+    camera.capture.SetResolution(1024, 768);
     camera.capture.Record(path());
     camera.capture.SetResolution(320, 240);
     QTest::qWait(500);
@@ -235,7 +193,7 @@ void TestMovie::waitsWithANewResolution()
 void TestMovie::playsAfterTheProgramWasKilled()
 {
     TestDevices devices;
-    devices.camera("cam").formats("YUY2 640x480 30").content("counter");
+    devices.camera("cam").content("counter");
     devices.microphone("mic").sound("beep");
     devices.write();
     QProcess process;
@@ -253,54 +211,46 @@ void TestMovie::playsAfterTheProgramWasKilled()
     QVERIFY(movie.soundLength > ran - 1.1);
 }
 
-void TestMovie::endsOnAFullDisk_data()
-{
-    QTest::addColumn<qint64>("left");
-    QTest::newRow("nearly full") << qint64(12) * 1024 * 1024;
-    QTest::newRow("full at once") << qint64(0);
-}
-
 void TestMovie::endsOnAFullDisk()
 {
-    QFETCH(qint64, left);
-    const SmallDisk disk(40);
-    if (!disk.isMounted())
-        QSKIP("a small file system takes root to mount");
-    TestDevices devices;
-    devices.camera("cam").formats("YUY2 640x480 30").content("page");
-    devices.microphone("mic");
-    devices.write();
-    CameraWindow camera;
-    QTRY_COMPARE(camera.capture.GetVideoDeviceList().size(), 1);
-    QVERIFY(camera.start());
-    QSignalSpy ended(&camera.capture, &LiveVideoData::devicestop);
-    const QString movie = disk.path("movie.mov");
-    camera.capture.Record(movie);
-    QTest::qWait(1500);
-    QCOMPARE(ended.count(), 0);
-    disk.fillUpTo(left, QStorageInfo(disk.path("")).bytesAvailable());
-    QVERIFY(ended.wait(3000));
-    camera.capture.RecordStop();
-    QVERIFY(playsInAnotherPlayer(movie));
-    QVERIFY(readMovie(movie).length() > 0.9);
-    QVERIFY(camera.capture.IsValidVideoDevice());
+    constexpr qint64 nearlyFull = 12 * 1024 * 1024;
+    for (const qint64 left : {nearlyFull, qint64(0)}) {
+        const SmallDisk disk(40);
+        if (!disk.isMounted())
+            QSKIP("a small file system takes root to mount");
+        TestDevices devices;
+        devices.camera("cam").content("page");
+        devices.microphone("mic");
+        devices.write();
+        CameraWindow camera;
+        QVERIFY(camera.start());
+        QSignalSpy ended(&camera.capture, &LiveVideoData::devicestop);
+        const QString movie = disk.path("movie.mov");
+        camera.capture.Record(movie);
+        QTest::qWait(1500);
+        QCOMPARE(ended.count(), 0);
+        disk.fillUpTo(left, QStorageInfo(disk.path("")).bytesAvailable());
+        QVERIFY(ended.wait(3000));
+        camera.capture.RecordStop();
+        QVERIFY(playsInAnotherPlayer(movie));
+        QVERIFY(readMovie(movie).length() > 0.9);
+        QVERIFY(camera.capture.IsValidVideoDevice());
+    }
 }
 
 void TestMovie::isFinishedWhenTheCameraIsClosed()
 {
     TestDevices devices;
-    devices.camera("cam").formats("YUY2 320x240 30");
+    devices.camera("cam");
     devices.microphone("mic");
     devices.write();
     {
         CameraWindow camera;
-        QTRY_COMPARE(camera.capture.GetVideoDeviceList().size(), 1);
         QVERIFY(camera.start());
         camera.capture.Record(path());
         QTest::qWait(600);
     }
-    const MovieContents movie = readMovie(path());
-    QVERIFY(movie.isReadToItsEnd && movie.length() > 0.4);
+    QVERIFY(readMovie(path()).length() > 0.4);
     QVERIFY(playsInAnotherPlayer(path()));
 }
 

@@ -1,64 +1,40 @@
-// What the control file `orvane-test-devices.ini` in $XDG_RUNTIME_DIR says: which cameras and microphones are
-// there and how they behave. A missing file means that there are none.
+// The control file `orvane-test-devices.ini` in $XDG_RUNTIME_DIR: a section "camera ID" or "microphone ID"
+// for each device that is there. Keys:
+//   name      as listed; the section's name if left out
+//   provider  a or b
+//   prop.*    what the device tells of itself
+//   formats   of a camera, as "YUY2 1920x1080 30;JPEG 640x480 30"
+//   content   of a camera: page, flash, counter, quarters, or a colour as RRGGBB
+//   damaged   of a JPEG camera: every so manieth frame is
+//   sound     of a microphone: silence, tone or beep
+//   fault     stall (gives nothing more and tells nothing), hang-open, hang-close (blocks there as long as
+//   this
+//             stands), busy (cannot be opened), read-error (the next frame is an error)
+//   order     how it is told that a running device has gone: error-first (by the stream, then by the
+//   provider),
+//             removed-first, removed-only, error-only
 #pragma once
 
 #include <cstdint>
 #include <map>
 #include <memory>
 #include <string>
-#include <vector>
-
-enum class DeviceKind { Camera, Microphone };
-
-enum class Fault {
-    None,
-    Stall,     // gives nothing more and tells nothing
-    HangOpen,  // NULL to READY blocks while this stands
-    HangClose, // READY to NULL blocks while this stands
-    Busy,      // opening fails, another program has the device
-    ReadError, // the next frame is an error
-};
-
-// How the unplugging of a running device is told.
-enum class UnplugOrder { ErrorFirst, RemovedFirst, RemovedOnly, ErrorOnly };
-
-// Which JPEG frames are damaged: the first so many, or every so manieth. 0 means none.
-struct DamagedFrames {
-    unsigned first = 0;
-    unsigned every = 0;
-};
 
 struct DeviceSettings {
-    DeviceKind kind = DeviceKind::Camera;
-    std::string id;
-    std::string name;
-    std::string provider; // "a" or "b"
-    std::string formats;  // camera: "YUY2 1920x1080 30;JPEG 640x480 30,15"
-    std::string content;  // camera: page, flash, counter, solid or quarters
-    std::string sound;    // microphone: beep, tone or silence
-    uint32_t colour = 0;  // 0xRRGGBB of the solid picture
-    Fault fault = Fault::None;
-    UnplugOrder order = UnplugOrder::ErrorFirst;
-    DamagedFrames damaged;
-    bool hasProperties = true;
-    std::map<std::string, std::string> properties;
+    // Without a fallback, what is not there is empty.
+    std::string value(const std::string &key, const std::string &fallback = {}) const;
+    // Whether a listing shows both the same way, so that only a running source sees the difference.
+    bool isListedLike(const DeviceSettings &other) const;
+
+    std::map<std::string, std::string> values;
 };
 
-// True when a listing shows both the same way, so that only a running source sees the difference.
-bool listedAlike(const DeviceSettings &one, const DeviceSettings &other);
+using ControlFile = std::map<std::string, DeviceSettings>;
 
-class ControlFile
-{
-public:
-    static std::string path();
-    // Never fails: what cannot be read is not there, and an unknown word is warned of and left at its
-    // default.
-    static std::shared_ptr<const ControlFile> read();
+// As it is now; never nullptr. Read again only when the file was replaced.
+std::shared_ptr<const ControlFile> readControlFile();
 
-    const std::vector<std::shared_ptr<const DeviceSettings>> &devices() const { return m_devices; }
-    // nullptr when there is no such device.
-    std::shared_ptr<const DeviceSettings> find(DeviceKind kind, const std::string &id) const;
-
-private:
-    std::vector<std::shared_ptr<const DeviceSettings>> m_devices;
-};
+// How often the devices look whether the file was replaced: short against what tests wait for.
+constexpr int pollMilliseconds = 5;
+// Between the two ways in which a loss is told, so that their order is sure.
+constexpr int64_t tellingGap = 50'000'000;

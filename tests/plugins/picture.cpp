@@ -1,79 +1,116 @@
 #include "tests/plugins/picture.h"
+#include "tests/plugins/counterpicture.h"
 
 #include <algorithm>
-#include <cmath>
-#include <cstring>
+#include <random>
 
 namespace
 {
 
-// The width of a JPEG block pair, so that an encoder may read whole blocks.
-constexpr int strideUnit = 16;
+constexpr uint32_t black = 0x000000;
+constexpr uint32_t white = 0xffffff;
+constexpr uint32_t grey = 0x808080;
 
-uint8_t rounded(double value)
+// White in the first frame of each second of the monotonic clock, when the microphones beep.
+bool isFlash(const Moment &moment)
 {
-    return static_cast<uint8_t>(std::lround(std::clamp(value, 0.0, 255.0)));
+    constexpr int64_t second = 1'000'000'000;
+    return moment.captured / second != (moment.captured - moment.period) / second;
+}
+
+void drawCounter(Picture *picture, const Moment &moment)
+{
+    using namespace counterpicture;
+    const auto x = [picture](int column) { return (column + 1) * picture->width / gridColumns; };
+    const auto y = [picture](int row) { return (row + 1) * picture->height / gridRows; };
+    const Words words = wordsOf(moment.captured / 1000);
+    picture->fill(0, 0, picture->width, picture->height, grey);
+    for (int row = 0; row < rows; ++row) {
+        for (int column = 0; column < columns; ++column)
+            picture->fill(x(column), y(row), x(column + 1) - x(column), y(row + 1) - y(row),
+                          isSet(words[row], column) ? white : black);
+    }
+}
+
+// A colour in each quarter, a white square with a black one in it on the centre, and a white letter F in the
+// first quarter, which tells a mirrored picture.
+void drawQuarters(Picture *picture)
+{
+    const int x = picture->width / 2;
+    const int y = picture->height / 2;
+    const auto square = [&](int half, uint32_t rgb) {
+        picture->fill(x - half, y - half, 2 * half, 2 * half, rgb);
+    };
+    picture->fill(0, 0, x, y, 0xc02020);
+    picture->fill(x, 0, x, y, 0x20a020);
+    picture->fill(0, y, x, y, 0x2020c0);
+    picture->fill(x, y, x, y, 0xe0c020);
+    square(picture->height / 20, white);
+    square(picture->height / 60, black);
+    const int unit = picture->height / 24;
+    picture->fill(x / 2 - unit, y / 2 - 2 * unit, unit, 5 * unit, white);
+    picture->fill(x / 2 - unit, y / 2 - 2 * unit, 3 * unit, unit, white);
+    picture->fill(x / 2 - unit, y / 2, 2 * unit, unit, white);
+}
+
+// A sheet of print on a desk, with the noise of a small sensor in a lit room.
+void drawPage(Picture *picture, int variant)
+{
+    constexpr double noiseDeviation = 2.0;
+    constexpr int noiseLimit = 12;
+    const int unit = std::max(1, picture->height / 360);
+    const int margin = picture->height / 16;
+    std::minstd_rand shapes(7);
+    picture->fill(0, 0, picture->width, picture->height, 0x6b5340);
+    picture->fill(picture->width / 6, margin / 2, picture->width * 2 / 3, picture->height - margin, 0xefece2);
+    for (int y = 2 * margin; y < picture->height - 2 * margin; y += 10 * unit) {
+        // Letters are strokes on a grid of 3 by 5: at a camera's sharpness that looks like print.
+        for (int x = picture->width / 5; x < picture->width * 4 / 5; x += 4 * unit) {
+            const unsigned shape = shapes() % 8 ? unsigned(shapes()) >> 8 : 0;
+            for (int cell = 0; cell < 15; ++cell) {
+                if (shape >> cell & 1)
+                    picture->fill(x + cell % 3 * unit, y + cell / 3 * unit, unit, unit, 0x2a2c33);
+            }
+        }
+    }
+    std::minstd_rand random(1 + variant);
+    std::normal_distribution<double> noise(0, noiseDeviation);
+    for (uint32_t &pixel : picture->pixels) {
+        const int grain = std::clamp(int(noise(random)), -noiseLimit, noiseLimit);
+        // Ink and paper are clear of overflow by the noise.
+        pixel += uint32_t(grain * 0x010101);
+    }
 }
 
 } // namespace
 
-Picture::Picture(int width, int height, const GstVideoColorimetry &colorimetry)
+void Picture::fill(int x, int y, int fillWidth, int fillHeight, uint32_t rgb)
 {
-    gst_video_info_set_format(&m_info, GST_VIDEO_FORMAT_Y42B, width, height);
-    m_info.colorimetry = colorimetry;
-    const int stride = (width + strideUnit - 1) / strideUnit * strideUnit;
-    const gsize lumaSize = gsize(stride) * height;
-    m_info.stride[0] = stride;
-    m_info.stride[1] = m_info.stride[2] = stride / 2;
-    m_info.offset[0] = 0;
-    m_info.offset[1] = lumaSize;
-    m_info.offset[2] = lumaSize + lumaSize / 2;
-    m_info.size = 2 * lumaSize;
-    m_data.resize(m_info.size + strideUnit);
+    const int left = std::clamp(x, 0, width);
+    const int right = std::clamp(x + fillWidth, left, width);
+    for (int row = std::max(y, 0); row < std::min(y + fillHeight, height); ++row)
+        std::fill_n(pixels.begin() + row * width + left, right - left, rgb);
 }
 
-Yuv Picture::colour(uint32_t rgb) const
+int pictureVariant(const std::string &content, const Moment &moment)
 {
-    const double r = (rgb >> 16 & 0xff) / 255.0;
-    const double g = (rgb >> 8 & 0xff) / 255.0;
-    const double b = (rgb & 0xff) / 255.0;
-    double kr = 0.299;
-    double kb = 0.114;
-    gst_video_color_matrix_get_Kr_Kb(m_info.colorimetry.matrix, &kr, &kb);
-    std::array<gint, GST_VIDEO_MAX_COMPONENTS> offset = {};
-    std::array<gint, GST_VIDEO_MAX_COMPONENTS> scale = {};
-    gst_video_color_range_offsets(m_info.colorimetry.range, m_info.finfo, offset.data(), scale.data());
-    const double y = kr * r + (1 - kr - kb) * g + kb * b;
-    return {rounded(offset[0] + scale[0] * y), rounded(offset[1] + scale[1] * (b - y) / (2 * (1 - kb))),
-            rounded(offset[2] + scale[2] * (r - y) / (2 * (1 - kr)))};
+    if (content == "counter")
+        return alwaysNew;
+    if (content == "flash")
+        return isFlash(moment);
+    return content == "page" ? int(moment.frame % noiseVariants) : 0;
 }
 
-void Picture::fillRect(int x, int y, int width, int height, Yuv colour)
+void drawPicture(const std::string &content, const Moment &moment, Picture *picture)
 {
-    const int left = std::clamp(x, 0, this->width());
-    const int right = std::clamp(x + width, left, this->width());
-    const int top = std::clamp(y, 0, this->height());
-    const int bottom = std::clamp(y + height, top, this->height());
-    // Chroma covers two pixels: the one in which a side falls goes with the rectangle.
-    const size_t chromaLeft = left / 2;
-    const size_t chromaWidth = (right + 1) / 2 - chromaLeft;
-    for (int row = top; row < bottom; ++row) {
-        std::memset(planeRow(0, row) + left, colour.y, size_t(right - left));
-        std::memset(planeRow(1, row) + chromaLeft, colour.u, chromaWidth);
-        std::memset(planeRow(2, row) + chromaLeft, colour.v, chromaWidth);
-    }
-}
-
-uint8_t *Picture::planeRow(int plane, int row)
-{
-    return m_data.data() + m_info.offset[plane] + size_t(row) * m_info.stride[plane];
-}
-
-GstBuffer *Picture::wrapped()
-{
-    GstBuffer *buffer = gst_buffer_new_wrapped_full(GST_MEMORY_FLAG_READONLY, m_data.data(), m_info.size, 0,
-                                                    m_info.size, nullptr, nullptr);
-    gst_buffer_add_video_meta_full(buffer, GST_VIDEO_FRAME_FLAG_NONE, GST_VIDEO_FORMAT_Y42B, width(),
-                                   height(), 3, m_info.offset, m_info.stride);
-    return buffer;
+    if (content == "counter")
+        drawCounter(picture, moment);
+    else if (content == "quarters")
+        drawQuarters(picture);
+    else if (content == "page")
+        drawPage(picture, pictureVariant(content, moment));
+    else if (content == "flash")
+        picture->fill(0, 0, picture->width, picture->height, isFlash(moment) ? white : black);
+    else
+        picture->fill(0, 0, picture->width, picture->height, uint32_t(std::stoul(content, nullptr, 16)));
 }

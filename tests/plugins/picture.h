@@ -1,37 +1,31 @@
-// A picture being drawn: planar YUV 4:2:2, which becomes YUY2 or JPEG at little cost.
+// What the cameras of the control file show.
 #pragma once
 
-#include <array>
-#include <cstdint>
-#include <gst/video/video.h>
+#include "tests/plugins/controlfile.h"
+
 #include <vector>
 
-struct Yuv {
-    uint8_t y, u, v;
-};
-
-class Picture
-{
-public:
-    Picture(int width, int height, const GstVideoColorimetry &colorimetry);
-
-    int width() const { return GST_VIDEO_INFO_WIDTH(&m_info); }
-    int height() const { return GST_VIDEO_INFO_HEIGHT(&m_info); }
-
-    // 0xRRGGBB in this picture's colorimetry.
-    Yuv colour(uint32_t rgb) const;
+// Pixels 0xRRGGBB, row by row.
+struct Picture {
     // Parts outside the picture are left out.
-    void fillRect(int x, int y, int width, int height, Yuv colour);
-    void fill(Yuv colour) { fillRect(0, 0, width(), height(), colour); }
+    void fill(int x, int y, int fillWidth, int fillHeight, uint32_t rgb);
 
-    // A row of plane Y, U or V (0, 1, 2); reading up to 16 pixels past a row's end is allowed.
-    uint8_t *planeRow(int plane, int row);
-
-    // Borrows the picture's memory: it must outlive the buffer.
-    GstBuffer *wrapped();
-    const GstVideoInfo &info() const { return m_info; }
-
-private:
-    GstVideoInfo m_info = {};
-    std::vector<uint8_t> m_data;
+    int width;
+    int height;
+    std::vector<uint32_t> pixels;
 };
+
+// One frame's place in time.
+struct Moment {
+    int64_t frame;
+    int64_t captured; // CLOCK_MONOTONIC, nanoseconds
+    int64_t period;   // nanoseconds
+};
+
+// Frames of one variant look alike, so that they are drawn and compressed once.
+constexpr int alwaysNew = -1;
+// Enough that a camera's noise is seen to move.
+constexpr int noiseVariants = 4;
+
+int pictureVariant(const std::string &content, const Moment &moment);
+void drawPicture(const std::string &content, const Moment &moment, Picture *picture);

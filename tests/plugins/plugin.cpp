@@ -1,24 +1,16 @@
-#include "tests/plugins/camera.h"
-#include "tests/plugins/microphone.h"
 #include "tests/plugins/provider.h"
+#include "tests/plugins/testsource.h"
 
 #define PACKAGE "orvane"
 
-namespace
+static gboolean registerAll(GstPlugin *plugin)
 {
-
-gboolean registerAll(GstPlugin *plugin)
-{
-    return gst_element_register(plugin, "orvanetestcamera", GST_RANK_NONE, orvane_test_camera_get_type()) &&
-           gst_element_register(plugin, "orvanetestmicrophone", GST_RANK_NONE,
-                                orvane_test_microphone_get_type()) &&
+    return gst_element_register(plugin, "orvanetestsource", GST_RANK_NONE, orvane_test_source_get_type()) &&
            gst_device_provider_register(plugin, "orvanetestprovidera", GST_RANK_PRIMARY,
                                         orvane_test_provider_a_get_type()) &&
            gst_device_provider_register(plugin, "orvanetestproviderb", GST_RANK_PRIMARY,
                                         orvane_test_provider_b_get_type());
 }
-
-} // namespace
 
 GST_PLUGIN_DEFINE(GST_VERSION_MAJOR, GST_VERSION_MINOR, orvanetest, "Cameras and microphones for tests",
                   registerAll, "1.0.0", "MIT/X11", "Orvane", "https://localhost")

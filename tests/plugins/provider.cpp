@@ -1,176 +1,204 @@
 #include "tests/plugins/provider.h"
-#include "tests/plugins/controlwatch.h"
-#include "tests/plugins/testdevice.h"
+#include "tests/plugins/testsource.h"
 
 #include <algorithm>
+#include <atomic>
+#include <thread>
+#include <vector>
 
 namespace
 {
 
-// The devices of one started provider.
-class Listing : public ControlListener
+struct OrvaneTestDevice {
+    GstDevice parent;
+};
+
+struct OrvaneTestDeviceClass {
+    GstDeviceClass parent;
+};
+
+constexpr const char *sectionKey = "orvane-section";
+
+} // namespace
+
+G_DEFINE_TYPE(OrvaneTestDevice, orvane_test_device, GST_TYPE_DEVICE)
+
+static void orvane_test_device_init(OrvaneTestDevice *) {}
+
+static void orvane_test_device_class_init(OrvaneTestDeviceClass *klass)
+{
+    GST_DEVICE_CLASS(klass)->create_element = [](GstDevice *device, const gchar *name) {
+        GstElement *element = gst_element_factory_make("orvanetestsource", name);
+        g_object_set(element, "device", g_object_get_data(G_OBJECT(device), sectionKey), nullptr);
+        return element;
+    };
+}
+
+namespace
+{
+
+// Floating.
+GstDevice *newDevice(const std::string &section, const DeviceSettings &settings)
+{
+    const std::string prefix = "prop.";
+    GstStructure *properties = nullptr;
+    for (const auto &[key, value] : settings.values) {
+        if (key.rfind(prefix, 0) != 0)
+            continue;
+        if (!properties)
+            properties = gst_structure_new_empty("orvane-test-device");
+        gst_structure_set(properties, key.substr(prefix.size()).c_str(), G_TYPE_STRING, value.c_str(),
+                          nullptr);
+    }
+    GstCaps *caps = deviceCaps(section, settings);
+    auto *device = static_cast<GstDevice *>(
+        g_object_new(orvane_test_device_get_type(), "display-name", settings.value("name", section).c_str(),
+                     "device-class", isCamera(section) ? "Video/Source" : "Audio/Source", "caps", caps,
+                     "properties", properties, nullptr));
+    g_object_set_data_full(G_OBJECT(device), sectionKey, g_strdup(section.c_str()), g_free);
+    gst_caps_unref(caps);
+    if (properties)
+        gst_structure_free(properties);
+    return device;
+}
+
+// Follows the control file while a provider is started.
+class Listing
 {
 public:
-    Listing(GstDeviceProvider *provider, std::string mark) : m_provider(provider), m_mark(std::move(mark)) {}
-    ~Listing() override
+    explicit Listing(GstDeviceProvider *provider, std::string mark)
+        : m_provider(provider), m_mark(std::move(mark))
     {
-        for (GstDevice *device : m_devices)
-            gst_object_unref(device);
+        update();
+        m_thread = std::thread([this] {
+            for (; !m_isStopped; g_usleep(1000 * pollMilliseconds))
+                update();
+        });
+    }
+    ~Listing()
+    {
+        m_isStopped = true;
+        m_thread.join();
+        for (const Listed &listed : m_listed)
+            gst_object_unref(listed.device);
     }
     Listing(const Listing &) = delete;
     Listing &operator=(const Listing &) = delete;
 
-    static void start(const std::shared_ptr<Listing> &listing)
-    {
-        const std::lock_guard lock(listing->m_mutex);
-        listing->update(*ControlWatch::instance().listen(listing));
-    }
-    // After this the provider hears nothing more.
-    void stop()
-    {
-        const std::lock_guard lock(m_mutex);
-        m_provider = nullptr;
-    }
-    void listing(const ControlFile &file) override
-    {
-        const std::lock_guard lock(m_mutex);
-        if (m_provider)
-            update(file);
-    }
-
 private:
-    void update(const ControlFile &file)
+    struct Listed {
+        std::string section;
+        DeviceSettings settings;
+        GstDevice *device; // owned
+        int64_t goneSince = 0;
+    };
+
+    void update()
     {
-        const auto gone =
-            std::stable_partition(m_devices.begin(), m_devices.end(),
-                                  [&file](GstDevice *device) { return staysListed(device, file); });
-        std::for_each(gone, m_devices.end(), [this](GstDevice *device) {
-            gst_device_provider_device_remove(m_provider, device);
-            gst_object_unref(device);
-        });
-        m_devices.erase(gone, m_devices.end());
-        for (const auto &settings : file.devices()) {
-            if (settings->provider == m_mark && !isListed(*settings)) {
-                m_devices.push_back(GST_DEVICE(gst_object_ref_sink(newTestDevice(settings))));
-                gst_device_provider_device_add(m_provider, m_devices.back());
-            }
+        const auto file = readControlFile();
+        const auto gone = std::stable_partition(m_listed.begin(), m_listed.end(),
+                                                [&](Listed &listed) { return stays(&listed, *file); });
+        for (auto listed = gone; listed != m_listed.end(); ++listed) {
+            gst_device_provider_device_remove(m_provider, listed->device);
+            gst_object_unref(listed->device);
+        }
+        m_listed.erase(gone, m_listed.end());
+        for (const auto &[section, settings] : *file) {
+            if (settings.value("provider", "a") != m_mark || isListed(section))
+                continue;
+            auto *device = GST_DEVICE(gst_object_ref_sink(newDevice(section, settings)));
+            m_listed.push_back({section, settings, device});
+            gst_device_provider_device_add(m_provider, device);
         }
     }
-    static bool staysListed(GstDevice *device, const ControlFile &file)
+    static bool stays(Listed *listed, const ControlFile &file)
     {
-        const DeviceSettings &listed = settingsOf(device);
-        const auto now = file.find(listed.kind, listed.id);
-        return now ? listedAlike(*now, listed) : listed.order == UnplugOrder::ErrorOnly;
+        const auto now = file.find(listed->section);
+        if (now != file.end()) {
+            listed->goneSince = 0;
+            const bool isAlike = now->second.isListedLike(listed->settings);
+            if (isAlike)
+                listed->settings = now->second;
+            return isAlike;
+        }
+        const auto moment = int64_t(gst_util_get_timestamp());
+        if (!listed->goneSince)
+            listed->goneSince = moment;
+        const std::string order = listed->settings.value("order", "error-first");
+        return order == "error-only" || (order == "error-first" && moment < listed->goneSince + tellingGap);
     }
-    bool isListed(const DeviceSettings &settings) const
+    bool isListed(const std::string &section) const
     {
-        return std::any_of(m_devices.begin(), m_devices.end(), [&settings](GstDevice *device) {
-            return listedAlike(settingsOf(device), settings);
-        });
+        return std::any_of(m_listed.begin(), m_listed.end(),
+                           [&](const Listed &listed) { return listed.section == section; });
     }
 
-    std::mutex m_mutex;
     GstDeviceProvider *m_provider; // not owned
     const std::string m_mark;
-    std::vector<GstDevice *> m_devices;
+    std::vector<Listed> m_listed;
+    std::atomic<bool> m_isStopped = false;
+    std::thread m_thread;
 };
 
-struct OrvaneTestProvider {
+struct OrvaneTestProviderA {
     GstDeviceProvider parent;
-    std::shared_ptr<Listing> *listing;
+    Listing *listing;
 };
 
-struct OrvaneTestProviderClass {
+struct OrvaneTestProviderAClass {
     GstDeviceProviderClass parent;
     const char *mark;
 };
 
-using OrvaneTestProviderA = OrvaneTestProvider;
-using OrvaneTestProviderB = OrvaneTestProvider;
-using OrvaneTestProviderAClass = OrvaneTestProviderClass;
-using OrvaneTestProviderBClass = OrvaneTestProviderClass;
+using OrvaneTestProviderB = OrvaneTestProviderA;
+using OrvaneTestProviderBClass = OrvaneTestProviderAClass;
 
-OrvaneTestProvider *self(gpointer object)
+const char *markOf(GstDeviceProvider *provider)
 {
-    return static_cast<OrvaneTestProvider *>(object);
-}
-
-const char *markOf(gpointer provider)
-{
-    return G_TYPE_INSTANCE_GET_CLASS(provider, G_OBJECT_TYPE(provider), OrvaneTestProviderClass)->mark;
-}
-
-} // namespace
-
-G_DEFINE_ABSTRACT_TYPE(OrvaneTestProvider, orvane_test_provider, GST_TYPE_DEVICE_PROVIDER)
-G_DEFINE_TYPE(OrvaneTestProviderA, orvane_test_provider_a, orvane_test_provider_get_type())
-G_DEFINE_TYPE(OrvaneTestProviderB, orvane_test_provider_b, orvane_test_provider_get_type())
-
-namespace
-{
-
-void finalize(GObject *object)
-{
-    delete self(object)->listing;
-    G_OBJECT_CLASS(orvane_test_provider_parent_class)->finalize(object);
+    return G_TYPE_INSTANCE_GET_CLASS(provider, G_OBJECT_TYPE(provider), OrvaneTestProviderAClass)->mark;
 }
 
 GList *probe(GstDeviceProvider *provider)
 {
     GList *devices = nullptr;
-    const auto file = ControlFile::read();
-    for (const auto &settings : file->devices()) {
-        if (settings->provider == markOf(provider))
-            devices = g_list_append(devices, newTestDevice(settings));
+    const auto file = readControlFile();
+    for (const auto &[section, settings] : *file) {
+        if (settings.value("provider", "a") == markOf(provider))
+            devices = g_list_append(devices, newDevice(section, settings));
     }
     return devices;
 }
 
 gboolean start(GstDeviceProvider *provider)
 {
-    *self(provider)->listing = std::make_shared<Listing>(provider, markOf(provider));
-    Listing::start(*self(provider)->listing);
+    reinterpret_cast<OrvaneTestProviderA *>(provider)->listing = new Listing(provider, markOf(provider));
     return TRUE;
 }
 
 void stop(GstDeviceProvider *provider)
 {
-    (*self(provider)->listing)->stop();
-    self(provider)->listing->reset();
+    delete reinterpret_cast<OrvaneTestProviderA *>(provider)->listing;
 }
 
 } // namespace
 
-static void orvane_test_provider_init(OrvaneTestProvider *provider)
-{
-    provider->listing = new std::shared_ptr<Listing>;
-}
-
-static void orvane_test_provider_class_init(OrvaneTestProviderClass *klass)
-{
-    G_OBJECT_CLASS(klass)->finalize = finalize;
-    auto *provider = GST_DEVICE_PROVIDER_CLASS(klass);
-    provider->probe = probe;
-    provider->start = start;
-    provider->stop = stop;
-}
+G_DEFINE_TYPE(OrvaneTestProviderA, orvane_test_provider_a, GST_TYPE_DEVICE_PROVIDER)
+G_DEFINE_TYPE(OrvaneTestProviderB, orvane_test_provider_b, orvane_test_provider_a_get_type())
 
 static void orvane_test_provider_a_init(OrvaneTestProviderA *) {}
+static void orvane_test_provider_b_init(OrvaneTestProviderB *) {}
 
 static void orvane_test_provider_a_class_init(OrvaneTestProviderAClass *klass)
 {
     klass->mark = "a";
-    gst_device_provider_class_set_static_metadata(GST_DEVICE_PROVIDER_CLASS(klass), "Test devices A",
-                                                  "Source/Video/Audio",
+    klass->parent.probe = probe;
+    klass->parent.start = start;
+    klass->parent.stop = stop;
+    gst_device_provider_class_set_static_metadata(&klass->parent, "Test devices", "Source/Video/Audio",
                                                   "Cameras and microphones of the control file", "Orvane");
 }
-
-static void orvane_test_provider_b_init(OrvaneTestProviderB *) {}
 
 static void orvane_test_provider_b_class_init(OrvaneTestProviderBClass *klass)
 {
     klass->mark = "b";
-    gst_device_provider_class_set_static_metadata(GST_DEVICE_PROVIDER_CLASS(klass),
-                                                  "Test devices B, seen twice", "Video/Audio/Source",
-                                                  "Cameras and microphones of the control file", "Orvane");
 }

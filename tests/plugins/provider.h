@@ -1,5 +1,5 @@
-// The device providers orvanetestprovidera and orvanetestproviderb. Two, as one camera may be seen through
-// two; a device's section says by "provider" which lists it.
+// Two providers, as a machine has them where the kernel and a sound and picture server tell of the same
+// device.
 #pragma once
 
 #include <gst/gst.h>

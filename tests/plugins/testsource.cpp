@@ -1,60 +1,137 @@
 #include "tests/plugins/testsource.h"
+#include "tests/plugins/producer.h"
+
+#include <gst/base/gstpushsrc.h>
 
 #include <algorithm>
-
-enum { PropDevice = 1 };
-
-G_DEFINE_ABSTRACT_TYPE(OrvaneTestSource, orvane_test_source, GST_TYPE_PUSH_SRC)
+#include <chrono>
+#include <condition_variable>
+#include <sstream>
 
 namespace
 {
 
-OrvaneTestSource *self(gpointer object)
+constexpr auto pollPeriod = std::chrono::milliseconds(pollMilliseconds);
+
+// What a device keeps for a reader that is late; older frames are lost. A driver fills one frame while the
+// reader works on the one before; the ring buffer of usual sound sources holds 200 ms.
+constexpr int64_t cameraBacklog = 1;
+constexpr int64_t microphoneBacklog = 20;
+
+struct SourceState {
+    std::string section;
+    DeviceSettings device; // as last seen
+    std::unique_ptr<Producer> producer;
+    int rate = chunksPerSecond; // frames in so many seconds
+    int seconds = 1;
+    int64_t firstFrame = -1; // frames are counted from the monotonic clock's zero, so that all devices agree
+    int64_t lastFrame = -1;
+    int64_t goneSince = 0; // stays, whatever is plugged in later, until the device is opened anew
+
+    std::mutex mutex;
+    std::condition_variable changed;
+    bool isFlushing = false;
+};
+
+struct OrvaneTestSource {
+    GstPushSrc parent;
+    SourceState *state;
+};
+
+struct OrvaneTestSourceClass {
+    GstPushSrcClass parent;
+};
+
+SourceState *stateOf(gpointer source)
 {
-    return static_cast<OrvaneTestSource *>(object);
+    return static_cast<OrvaneTestSource *>(source)->state;
 }
 
-OrvaneTestSourceClass *classOf(OrvaneTestSource *source)
+int64_t monotonicNow()
 {
-    return G_TYPE_INSTANCE_GET_CLASS(source, orvane_test_source_get_type(), OrvaneTestSourceClass);
+    return int64_t(gst_util_get_timestamp());
 }
+
+int64_t timeOf(const SourceState &state, int64_t frame)
+{
+    return int64_t(gst_util_uint64_scale(guint64(frame), GST_SECOND * state.seconds, guint64(state.rate)));
+}
+
+int64_t frameAt(const SourceState &state, int64_t time)
+{
+    return int64_t(gst_util_uint64_scale(guint64(time), guint64(state.rate), GST_SECOND * state.seconds));
+}
+
+int64_t periodOf(const SourceState &state)
+{
+    return timeOf(state, 1);
+}
+
+// False when the device is not there.
+bool look(SourceState *state)
+{
+    const auto file = readControlFile();
+    const auto found = file->find(state->section);
+    if (found != file->end())
+        state->device = found->second;
+    return found != file->end();
+}
+
+void waitWhileFaultIs(SourceState *state, const char *fault)
+{
+    while (look(state) && state->device.value("fault") == fault)
+        g_usleep(1000 * pollMilliseconds);
+}
+
+} // namespace
+
+G_DEFINE_TYPE(OrvaneTestSource, orvane_test_source, GST_TYPE_PUSH_SRC)
+
+namespace
+{
 
 void setProperty(GObject *object, guint, const GValue *value, GParamSpec *)
 {
-    const char *device = g_value_get_string(value);
-    self(object)->state->device = device ? device : "";
-}
-
-void getProperty(GObject *object, guint, GValue *value, GParamSpec *)
-{
-    g_value_set_string(value, self(object)->state->device.c_str());
+    stateOf(object)->section = g_value_get_string(value);
+    // Formats are asked for before the device is opened.
+    look(stateOf(object));
 }
 
 void finalize(GObject *object)
 {
-    delete self(object)->state;
+    delete stateOf(object);
     G_OBJECT_CLASS(orvane_test_source_parent_class)->finalize(object);
+}
+
+bool open(GstElement *source)
+{
+    SourceState *state = stateOf(source);
+    waitWhileFaultIs(state, "hang-open");
+    if (!look(state))
+        GST_ELEMENT_ERROR(source, RESOURCE, NOT_FOUND, ("There is no such test device."), (nullptr));
+    else if (state->device.value("fault") == "busy")
+        GST_ELEMENT_ERROR(source, RESOURCE, BUSY, ("The test device is busy."), (nullptr));
+    else
+        return true;
+    return false;
 }
 
 GstStateChangeReturn changeState(GstElement *element, GstStateChange change)
 {
-    OrvaneTestSource *source = self(element);
-    if (change == GST_STATE_CHANGE_NULL_TO_READY &&
-        !source->state->link->open(element, classOf(source)->kind, source->state->device))
+    if (change == GST_STATE_CHANGE_NULL_TO_READY && !open(element))
         return GST_STATE_CHANGE_FAILURE;
     const GstStateChangeReturn result =
         GST_ELEMENT_CLASS(orvane_test_source_parent_class)->change_state(element, change);
     if (change == GST_STATE_CHANGE_READY_TO_NULL)
-        source->state->link->close();
+        waitWhileFaultIs(stateOf(element), "hang-close");
     return result;
 }
 
-GstCaps *getCaps(GstBaseSrc *base, GstCaps *filter)
+GstCaps *getCaps(GstBaseSrc *source, GstCaps *filter)
 {
-    OrvaneTestSource *source = self(base);
-    const auto device = source->state->link->settings();
-    GstCaps *caps =
-        device ? classOf(source)->deviceCaps(*device) : gst_pad_get_pad_template_caps(GST_BASE_SRC_PAD(base));
+    SourceState *state = stateOf(source);
+    const std::lock_guard lock(state->mutex);
+    GstCaps *caps = deviceCaps(state->section, state->device);
     if (!filter)
         return caps;
     GstCaps *both = gst_caps_intersect_full(filter, caps, GST_CAPS_INTERSECT_FIRST);
@@ -62,30 +139,109 @@ GstCaps *getCaps(GstBaseSrc *base, GstCaps *filter)
     return both;
 }
 
-gboolean query(GstBaseSrc *base, GstQuery *query)
+gboolean setCaps(GstBaseSrc *source, GstCaps *caps)
+{
+    SourceState *state = stateOf(source);
+    gst_structure_get_fraction(gst_caps_get_structure(caps, 0), "framerate", &state->rate, &state->seconds);
+    state->firstFrame = state->lastFrame = -1;
+    state->goneSince = 0;
+    state->producer = isCamera(state->section) ? Producer::ofCamera(state->device, caps)
+                                               : Producer::ofMicrophone(state->device, caps);
+    return state->producer != nullptr;
+}
+
+gboolean query(GstBaseSrc *source, GstQuery *query)
 {
     if (GST_QUERY_TYPE(query) != GST_QUERY_LATENCY)
-        return GST_BASE_SRC_CLASS(orvane_test_source_parent_class)->query(base, query);
-    const SourceState *state = self(base)->state;
-    gst_query_set_latency(query, TRUE, state->minLatency, state->maxLatency);
+        return GST_BASE_SRC_CLASS(orvane_test_source_parent_class)->query(source, query);
+    const SourceState *state = stateOf(source);
+    const int64_t frames = isCamera(state->section) ? cameraBacklog + 1 : microphoneBacklog;
+    const int64_t period = periodOf(*state);
+    gst_query_set_latency(query, TRUE, GstClockTime(period), GstClockTime(frames * period));
     return TRUE;
 }
 
-gboolean isSeekable(GstBaseSrc *)
+gboolean setFlushing(GstBaseSrc *source, bool flushing)
 {
-    return FALSE;
-}
-
-gboolean unlock(GstBaseSrc *base)
-{
-    self(base)->state->link->setFlushing(true);
+    SourceState *state = stateOf(source);
+    const std::lock_guard lock(state->mutex);
+    state->isFlushing = flushing;
+    state->changed.notify_all();
     return TRUE;
 }
 
-gboolean unlockStop(GstBaseSrc *base)
+gboolean unlock(GstBaseSrc *source)
 {
-    self(base)->state->link->setFlushing(false);
-    return TRUE;
+    return setFlushing(source, true);
+}
+
+gboolean unlockStop(GstBaseSrc *source)
+{
+    return setFlushing(source, false);
+}
+
+// Whether the stream tells by now that the device has gone.
+bool isLossDue(const SourceState &state)
+{
+    const std::string order = state.device.value("order", "error-first");
+    if (order == "removed-first")
+        return monotonicNow() > state.goneSince + tellingGap;
+    return order != "removed-only";
+}
+
+// Until that moment, or until there is something else to say.
+GstFlowReturn waitUntil(SourceState *state, int64_t due)
+{
+    const std::chrono::steady_clock::time_point moment{std::chrono::nanoseconds(due)};
+    std::unique_lock lock(state->mutex);
+    while (!state->isFlushing) {
+        if (!look(state) && !state->goneSince)
+            state->goneSince = monotonicNow();
+        const std::string fault = state->device.value("fault");
+        if (state->goneSince ? isLossDue(*state) : fault == "read-error")
+            return GST_FLOW_ERROR;
+        const bool isSilent = state->goneSince || fault == "stall";
+        if (!isSilent && monotonicNow() >= due)
+            return GST_FLOW_OK;
+        const auto poll = std::chrono::steady_clock::now() + pollPeriod;
+        state->changed.wait_until(lock, isSilent ? poll : std::min(poll, moment));
+    }
+    return GST_FLOW_FLUSHING;
+}
+
+// The frame after the last one, or the oldest that is still kept.
+int64_t nextFrame(const SourceState &state)
+{
+    const int64_t newest = frameAt(state, monotonicNow());
+    const int64_t backlog = isCamera(state.section) ? cameraBacklog : microphoneBacklog;
+    return state.lastFrame < 0 ? newest + 1 : std::max(state.lastFrame + 1, newest - backlog + 1);
+}
+
+GstFlowReturn create(GstPushSrc *source, GstBuffer **buffer)
+{
+    SourceState *state = stateOf(source);
+    // Sound is there when its last sample is.
+    const int64_t readyAfter = isCamera(state->section) ? 0 : periodOf(*state);
+    const GstFlowReturn waited = waitUntil(state, timeOf(*state, nextFrame(*state)) + readyAfter);
+    if (waited == GST_FLOW_ERROR)
+        GST_ELEMENT_ERROR(source, RESOURCE, READ, ("The test device cannot be read."), (nullptr));
+    if (waited != GST_FLOW_OK)
+        return waited;
+    // The wait may have been a stall.
+    const int64_t newest = frameAt(*state, monotonicNow() - readyAfter);
+    const int64_t frame = state->lastFrame < 0 ? newest : std::min(nextFrame(*state), newest);
+    if (state->lastFrame < 0)
+        state->firstFrame = frame;
+    const Moment moment = {frame - state->firstFrame, timeOf(*state, frame), periodOf(*state)};
+    *buffer = state->producer->make(moment, state->device);
+    const auto baseTime = int64_t(gst_element_get_base_time(GST_ELEMENT(source)));
+    // The pipelines' clock is the system's, which is the monotonic one.
+    GST_BUFFER_PTS(*buffer) = GstClockTime(std::max<int64_t>(moment.captured - baseTime, 0));
+    GST_BUFFER_DURATION(*buffer) = GstClockTime(moment.period);
+    if (frame != state->lastFrame + 1)
+        GST_BUFFER_FLAG_SET(*buffer, GST_BUFFER_FLAG_DISCONT);
+    state->lastFrame = frame;
+    return GST_FLOW_OK;
 }
 
 } // namespace
@@ -99,54 +255,55 @@ static void orvane_test_source_init(OrvaneTestSource *source)
 
 static void orvane_test_source_class_init(OrvaneTestSourceClass *klass)
 {
-    auto *object = G_OBJECT_CLASS(klass);
-    object->set_property = setProperty;
-    object->get_property = getProperty;
-    object->finalize = finalize;
+    G_OBJECT_CLASS(klass)->set_property = setProperty;
+    G_OBJECT_CLASS(klass)->finalize = finalize;
     g_object_class_install_property(
-        object, PropDevice,
-        g_param_spec_string("device", "Device", "Name of the device's section in the control file", "",
-                            GParamFlags(G_PARAM_READWRITE | G_PARAM_STATIC_STRINGS)));
+        G_OBJECT_CLASS(klass), 1,
+        g_param_spec_string("device", "Device", "Its section in the control file", "",
+                            GParamFlags(G_PARAM_WRITABLE | G_PARAM_STATIC_STRINGS)));
     GST_ELEMENT_CLASS(klass)->change_state = changeState;
+    gst_element_class_set_static_metadata(GST_ELEMENT_CLASS(klass), "Test source", "Source/Video/Audio",
+                                          "A camera or microphone of the control file", "Orvane");
+    GstCaps *any = gst_caps_new_any();
+    gst_element_class_add_pad_template(GST_ELEMENT_CLASS(klass),
+                                       gst_pad_template_new("src", GST_PAD_SRC, GST_PAD_ALWAYS, any));
+    gst_caps_unref(any);
     auto *base = GST_BASE_SRC_CLASS(klass);
     base->get_caps = getCaps;
+    base->set_caps = setCaps;
     base->query = query;
-    base->is_seekable = isSeekable;
     base->unlock = unlock;
     base->unlock_stop = unlockStop;
+    GST_PUSH_SRC_CLASS(klass)->create = create;
 }
 
-GstFlowReturn waitForMoment(OrvaneTestSource *source, int64_t monotonic)
+bool isCamera(const std::string &section)
 {
-    switch (source->state->link->waitUntil(monotonic)) {
-    case DeviceLink::Wait::Due:
-        return GST_FLOW_OK;
-    case DeviceLink::Wait::Flushing:
-        return GST_FLOW_FLUSHING;
-    case DeviceLink::Wait::ReadError:
-        GST_ELEMENT_ERROR(source, RESOURCE, READ,
-                          ("Test device \"%s\" cannot be read.", source->state->device.c_str()), (nullptr));
-        break;
-    case DeviceLink::Wait::Lost:
-        break;
-    }
-    return GST_FLOW_ERROR;
+    return section.rfind("camera ", 0) == 0;
 }
 
-void stampBuffer(OrvaneTestSource *source, GstBuffer *buffer, int64_t captured, GstClockTime duration)
+GstCaps *deviceCaps(const std::string &section, const DeviceSettings &device)
 {
-    GstClock *clock = gst_element_get_clock(GST_ELEMENT(source));
-    if (clock) {
-        GstClock *systemClock = gst_system_clock_obtain();
-        // Another clock's time of the capture is its time now, less how long the capture is past.
-        const GstClockTimeDiff time =
-            clock == systemClock ? captured
-                                 : GstClockTimeDiff(gst_clock_get_time(clock)) - (monotonicNow() - captured);
-        const GstClockTimeDiff running =
-            time - GstClockTimeDiff(gst_element_get_base_time(GST_ELEMENT(source)));
-        GST_BUFFER_PTS(buffer) = GstClockTime(std::max<GstClockTimeDiff>(running, 0));
-        gst_object_unref(systemClock);
-        gst_object_unref(clock);
+    if (!isCamera(section))
+        return gst_caps_from_string("audio/x-raw,format=S16LE,layout=interleaved,rate=48000,channels=[1,2]");
+    GstCaps *caps = gst_caps_new_empty();
+    std::stringstream formats(device.value("formats", "YUY2 640x480 30"));
+    for (std::string format; std::getline(formats, format, ';');) {
+        std::stringstream words(format);
+        std::string coding;
+        int width = 0;
+        int height = 0;
+        int rate = 0;
+        char by = 0;
+        words >> coding >> width >> by >> height >> rate;
+        GstCaps *one =
+            coding == "JPEG" ? gst_caps_new_empty_simple("image/jpeg")
+            : coding == "H264"
+                ? gst_caps_from_string("video/x-h264,stream-format=byte-stream,alignment=au")
+                : gst_caps_new_simple("video/x-raw", "format", G_TYPE_STRING, coding.c_str(), nullptr);
+        gst_caps_set_simple(one, "width", G_TYPE_INT, width, "height", G_TYPE_INT, height, "framerate",
+                            GST_TYPE_FRACTION, rate, 1, nullptr);
+        gst_caps_append(caps, one);
     }
-    GST_BUFFER_DURATION(buffer) = duration;
+    return caps;
 }

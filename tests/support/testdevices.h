@@ -22,14 +22,11 @@ public:
         Section &provider(const QString &mark) { return set("provider", mark); }
         Section &formats(const QString &list) { return set("formats", list); }
         Section &content(const QString &word) { return set("content", word); }
-        Section &colour(const QString &rrggbb) { return set("colour", rrggbb); }
         Section &sound(const QString &word) { return set("sound", word); }
         Section &fault(const QString &word) { return set("fault", word); }
         Section &order(const QString &word) { return set("order", word); }
         Section &damaged(const QString &which) { return set("damaged", which); }
         Section &property(const QString &key, const QString &value) { return set("prop." + key, value); }
-        Section &noProperties() { return set("properties", "none"); }
-        Section &monitor() { return set("monitor", "true"); }
 
     private:
         friend class TestDevices;
