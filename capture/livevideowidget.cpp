@@ -26,6 +26,11 @@ QPalette blackWithGreenText(const QPalette &base)
 
 } // namespace
 
+void LiveVideoWidget::prepare()
+{
+    LiveVideoData::prepare();
+}
+
 LiveVideoWidget::LiveVideoWidget(QWidget *parent, Qt::WindowFlags flags) : QWidget(parent, flags)
 {
     setAttribute(Qt::WA_OpaquePaintEvent, false);

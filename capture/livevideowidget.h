@@ -19,6 +19,9 @@ class LiveVideoWidget : public QWidget, public IDriverEventListener
     Q_OBJECT
 
 public:
+    // Begins in the background to load what cameras need, for a view that is made a little later.
+    static void prepare();
+
     // Opens no camera.
     explicit LiveVideoWidget(QWidget *parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags());
     ~LiveVideoWidget() override;

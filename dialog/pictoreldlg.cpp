@@ -18,6 +18,8 @@
 CPictorelDlg::CPictorelDlg(QWidget *parent, Qt::WindowFlags flags)
     : QWidget(parent, flags), CWindowManagement(this, raisePeriodMs, true, QString())
 {
+    // Goes on while the buttons are made.
+    LiveVideoWidget::prepare();
     setThisPropaty();
     takeScreenSize();
     SetButtonInstance();

@@ -25,7 +25,23 @@ bool comesFirst(GstPluginFeature *a, GstPluginFeature *b)
     return isKernels(a) && !isKernels(b);
 }
 
+// A provider that is ranked NONE is switched off, as everywhere in GStreamer.
+GList *providerFactories()
+{
+    return gst_device_provider_factory_list_get_device_providers(GST_RANK_MARGINAL);
+}
+
 } // namespace
+
+void DeviceWatch::loadProviders()
+{
+    GList *factories = providerFactories();
+    for (GList *link = factories; link; link = link->next) {
+        if (GstPluginFeature *loaded = gst_plugin_feature_load(GST_PLUGIN_FEATURE(link->data)))
+            gst_object_unref(loaded);
+    }
+    gst_plugin_feature_list_free(factories);
+}
 
 DeviceWatch &DeviceWatch::instance()
 {
@@ -36,8 +52,7 @@ DeviceWatch &DeviceWatch::instance()
 
 DeviceWatch::DeviceWatch() : m_firstListingLimit(std::chrono::steady_clock::now() + firstListingLimit)
 {
-    // A provider that is ranked NONE is switched off, as everywhere in GStreamer.
-    GList *factories = gst_device_provider_factory_list_get_device_providers(GST_RANK_MARGINAL);
+    GList *factories = providerFactories();
     std::vector<GstPluginFeature *> ordered;
     for (GList *link = factories; link; link = link->next)
         ordered.push_back(GST_PLUGIN_FEATURE(link->data));

@@ -21,6 +21,10 @@ class DeviceWatch : public QObject
     Q_OBJECT
 
 public:
+    // Loads the providers' plug-ins, which the first instance() would else do. From any thread, GStreamer
+    // being initialised.
+    static void loadProviders();
+
     // The first call starts the watching and returns at once.
     static DeviceWatch &instance();
 

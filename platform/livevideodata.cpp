@@ -8,6 +8,7 @@
 #include <QTextStream>
 
 #include <algorithm>
+#include <thread>
 
 namespace
 {
@@ -50,6 +51,14 @@ std::vector<CaptureMode> modesOf(const CaptureDevice &camera)
 }
 
 } // namespace
+
+void LiveVideoData::prepare()
+{
+    std::thread([] {
+        if (startGStreamer())
+            DeviceWatch::loadProviders();
+    }).detach();
+}
 
 LiveVideoData::LiveVideoData() : m_cameraInUse(std::make_shared<std::timed_mutex>())
 {

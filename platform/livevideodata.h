@@ -24,6 +24,10 @@ class LiveVideoData : public QObject
     Q_OBJECT
 
 public:
+    // Begins in the background to load what cameras need. Saves the first LiveVideoData the waiting if
+    // something else is done in between; need not be called.
+    static void prepare();
+
     // Looks for devices in the background; opens none.
     LiveVideoData();
     // Finishes a running movie, for which it waits up to ten seconds, and closes the camera.

@@ -54,10 +54,12 @@ CStretchBitmapButton::CStretchBitmapButton(const QString &name, QWidget *parent)
 
 void CStretchBitmapButton::setIconFromObjectNameBitmap()
 {
+    // Told the format, Qt finds it out without loading the readers of all others.
+    constexpr char format[] = "BMP";
     const QString base = ":res/" + m_name;
-    m_up = QPixmap(base + "_up.bmp");
-    m_down = QPixmap(base + "_dw.bmp");
-    m_disabled = QPixmap(base + "_ds.bmp");
+    m_up = QPixmap(base + "_up.bmp", format);
+    m_down = QPixmap(base + "_dw.bmp", format);
+    m_disabled = QPixmap(base + "_ds.bmp", format);
 
     const QSize box(qMin(availableScreenWidth() / buttonsAcrossScreen, m_up.width()), m_up.height());
     const QSize size = m_up.size().scaled(box, Qt::KeepAspectRatio);
