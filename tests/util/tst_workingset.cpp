@@ -1,11 +1,6 @@
 #include "util/freespace.h"
 #include "util/webcamutil.h"
 
-#include <QDir>
-#include <QProcess>
-#include <QRegularExpression>
-#include <QTemporaryDir>
-#include <QTimer>
 #include <QtTest>
 
 #include <fcntl.h>
@@ -13,36 +8,28 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace
-{
-
-bool write(const QString &path, const QByteArray &content, timespec time = {0, UTIME_NOW})
-{
-    QFile file(path);
-    const timespec times[] = {time, time};
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush() &&
-           utimensat(AT_FDCWD, QFile::encodeName(path), times, 0) == 0;
-}
-
-QByteArray read(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
-}
-
-QStringList everything(const QString &folder)
-{
-    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
-                                  QDir::Name);
-}
-
-} // namespace
-
 // The working folder and its names, what it lists, and the move into the save folder.
 class TestWorkingSet : public QObject
 {
     Q_OBJECT
 
+    static bool write(const QString &path, const QByteArray &content, timespec time = {0, UTIME_NOW})
+    {
+        QFile file(path);
+        const timespec times[] = {time, time};
+        return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush() &&
+               utimensat(AT_FDCWD, QFile::encodeName(path), times, 0) == 0;
+    }
+    static QByteArray read(const QString &path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
+    }
+    static QStringList everything(const QString &folder)
+    {
+        return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                                      QDir::Name);
+    }
     static QString working(const QString &name = QString())
     {
         return WebcamUtil::getTemporaryPath() + "/" + name;
