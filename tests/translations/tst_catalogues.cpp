@@ -58,7 +58,7 @@ private slots:
             lupdate.start(LUPDATE, arguments << "-ts" << anew);
             QVERIFY(lupdate.waitForFinished() && lupdate.exitCode() == 0);
             QVERIFY(!read(anew).contains("unfinished"));
-            QCOMPARE(read(anew).size(), catalogue.size());
+            QCOMPARE(read(anew).count("<source>"), catalogue.count("<source>"));
         }
     }
 };

@@ -1,5 +1,3 @@
-#include "tests/support/modalanswer.h"
-#include "util/webcamutil.h"
 #include "util/windowmanagement.h"
 
 #include <QScreen>
@@ -76,23 +74,6 @@ private slots:
         const qint64 elapsed = sinceStart.elapsed();
         const qint64 pollMs = 50; // looking takes a while, too
         QVERIFY2(elapsed <= raisePeriodMs + pollMs, qPrintable(QString::number(elapsed)));
-    }
-
-    void staysBelowItsOwnDialogs()
-    {
-        RaisedWindow window;
-        QVERIFY(QTest::qWaitForWindowActive(&window));
-        const ModalAnswer answer([](QMessageBox &box) {
-            box.setStyleSheet("background: lime; color: lime");
-            QVERIFY(comesUp(Qt::green));
-            QVERIFY(!comesUp(Qt::blue, 3 * raisePeriodMs));
-            // Nor is it ever below others.
-            const OtherClient other;
-            QTRY_VERIFY(!box.isActiveWindow());
-            QVERIFY(!comesUp(Qt::black, 2 * raisePeriodMs));
-        });
-        WebcamUtil::WarningMessage("Hello", &window);
-        QCOMPARE(answer.text(), QString("Hello"));
     }
 };
 

@@ -16,7 +16,7 @@ class TestPictureFile : public QObject
     {
         QImage image(size, QImage::Format_RGB888);
         for (int i = 0; i < int(image.sizeInBytes()); ++i)
-            image.bits()[i] = uchar(i * 7 + i / 50 * i);
+            image.bits()[i] = uchar(i * 7 + i / 1000 * 13);
         return image;
     }
     // Leaves the image as the camera writes it, and gives its bytes.
@@ -36,6 +36,7 @@ class TestPictureFile : public QObject
         QFile file(m_path);
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
     }
+
     const QTemporaryDir m_dir;
     const QString m_path = m_dir.filePath(QString::fromUtf8("photo صورة 📷.png"));
 
