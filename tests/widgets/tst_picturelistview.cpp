@@ -65,29 +65,17 @@ private slots:
         }
     }
 
-    void resetForgetsWhatIsStillBeingRead()
+    void itemsMayVanishWhileTheyAreRead()
     {
-        const QStringList names = {addPhoto("photoA.png", Qt::red, {4000, 3000}),
-                                   addPhoto("photoB.png", Qt::red, {4000, 3000})};
-        const QTemporaryDir other;
-        for (const QString &name : names)
-            QVERIFY(QFile::copy(m_dir.filePath("photo8.png"), other.filePath(name)));
         PictureListView list;
-        show(list, names);
+        show(list, {addPhoto("photoA.png", Qt::red, {4000, 3000})});
         list.Reset();
-        list.setFolder(other.path());
-        list.AddPicture(names);
-        const auto isAnyRed = [&list] {
-            return colourOf(list.item(0)) == QColor(Qt::red) || colourOf(list.item(1)) == QColor(Qt::red);
-        };
-        QVERIFY(!QTest::qWaitFor(isAnyRed, 600));
-        QTRY_COMPARE(colourOf(list.item(1)), hue(8));
-        list.setFolder(m_dir.path());
-        list.AddPicture("photo1.png");
-        list.clear(); // items that vanish under the reader
-        list.AddPicture("photo2.png");
-        QTRY_COMPARE(colourOf(list.item(0)), hue(2));
-        list.AddPicture(m_ten.mid(3)); // destroyed while reading
+        show(list, {"photo1.png"});
+        QTRY_COMPARE(colourOf(list.item(0)), hue(1));
+        list.AddPicture(m_ten);
+        list.clear();
+        list.AddPicture("photoA.png");
+        QTRY_COMPARE(colourOf(list.item(0)), QColor(Qt::red));
     }
 
     void keepsTheOrderOfChoosingAndUndoesTheTenth()
