@@ -1,0 +1,106 @@
+#include "widgets/moviewidget.h"
+#include "widgets/picturewidget.h"
+#include "widgets/stretchbitmapbutton.h"
+
+#include <QLabel>
+#include <QtTest>
+
+// What the main window is made of: its buttons, its pictures and its movies.
+class TestViews : public QObject
+{
+    Q_OBJECT
+
+    // The colours of a picture's middle line.
+    static QSet<QRgb> colours(QWidget &widget)
+    {
+        const QImage image = widget.grab().toImage();
+        QSet<QRgb> found;
+        for (int x = 0; x < image.width(); ++x)
+            found << image.pixel(x, image.height() / 2);
+        return found;
+    }
+
+    const QTemporaryDir m_dir;
+
+private slots:
+    void onlyCaptionsReadFromRightToLeft()
+    {
+        QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+        CStretchBitmapButton button("Live");
+        QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+        button.setCaptionText("Movie /\n    Photo");
+        QCOMPARE(button.accessibleName(), QString("Movie / Photo"));
+        QCOMPARE(button.findChild<QLabel *>()->text(), QString("  Movie /\n    Photo"));
+        QCOMPARE(button.findChild<QLabel *>()->layoutDirection(), Qt::RightToLeft);
+        QCOMPARE(button.layoutDirection(), Qt::LeftToRight); // the bitmap's drawing stays left of the caption
+    }
+
+    // A small tile made large shows the small picture's few colours: the stored picture was scaled.
+    void pictureKeepsWhatItPainted()
+    {
+        QImage stripes(256, 256, QImage::Format_RGB888);
+        for (int x = 0; x < 256; ++x) {
+            for (int y = 0; y < 256; ++y)
+                stripes.setPixelColor(x, y, QColor(x, 0, 0));
+        }
+        QVERIFY(stripes.save(m_dir.filePath("photo1.png")) && QDir(m_dir.path()).mkdir("photo2.png"));
+        PictureWidget widget;
+        widget.labelVisible(false);
+        widget.Loadbmp("photo1.png", m_dir.path());
+        const QPair<int, int> sidesAndColours[] = {{256, 256}, {16, 16}, {256, 16}};
+        for (const auto &row : sidesAndColours) {
+            widget.resize(row.first, row.first);
+            QCOMPARE(colours(widget).size(), row.second);
+        }
+        for (const char *name : {"photo2.png", "gone.png"}) {
+            widget.Loadbmp(name, m_dir.path());
+            QCOMPARE(colours(widget), QSet<QRgb>{QColor(Qt::black).rgb()});
+        }
+    }
+
+    void moviePlaysToItsEndAndAgain()
+    {
+        const QString path = m_dir.filePath("movie 1.mov");
+        QStringList pipeline = QString("-q videotestsrc num-buffers=30 ! video/x-raw,width=320,height=240 ! "
+                                       "x264enc tune=zerolatency ! qtmux ! filesink location=%1")
+                                   .split(' ');
+        QCOMPARE(QProcess::execute("gst-launch-1.0", pipeline.replaceInStrings("%1", path)), 0);
+        MovieWidget movie;
+        QVERIFY(movie.Create(path));
+        QSignalSpy finished(&movie, &MovieWidget::finished);
+        movie.show();
+        QTRY_VERIFY(movie.isPaused()); // with its first picture
+        QTRY_VERIFY(movie.totalTime() > 900 && movie.totalTime() < 1200);
+        QVERIFY(!movie.isComplete() && finished.isEmpty());
+
+        movie.Play();
+        QTRY_VERIFY(movie.isPlaying());
+        // The window comes back from its icon: the movie goes on.
+        QShowEvent restored;
+        QSpontaneKeyEvent::setSpontaneous(&restored);
+        QCoreApplication::instance()->notify(&movie, &restored);
+        QVERIFY(finished.wait(10000));
+        movie.Reset();
+        QTRY_VERIFY(movie.isPlaying());
+        movie.disp();
+        QTRY_VERIFY(movie.isPaused());
+        QVERIFY(!movie.isComplete());
+    }
+
+    void emptyOrMissingMoviesDoNoHarm()
+    {
+        QFile empty(m_dir.filePath("movie0.mov"));
+        QVERIFY(empty.open(QIODevice::WriteOnly));
+        for (const QString &path : {empty.fileName(), m_dir.filePath("gone.mov")}) {
+            MovieWidget movie;
+            movie.Create(path);
+            movie.show();
+            movie.Play();
+            QTRY_VERIFY(!movie.isPlaying());
+            QVERIFY(movie.isComplete());
+        }
+    }
+};
+
+QTEST_MAIN(TestViews)
+#include "tst_views.moc"
