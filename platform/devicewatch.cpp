@@ -33,8 +33,15 @@ GList *providerFactories()
 
 } // namespace
 
+bool DeviceWatch::startGStreamer()
+{
+    return gst_init_check(nullptr, nullptr, nullptr);
+}
+
 void DeviceWatch::loadProviders()
 {
+    if (!startGStreamer())
+        return;
     GList *factories = providerFactories();
     for (GList *link = factories; link; link = link->next) {
         if (GstPluginFeature *loaded = gst_plugin_feature_load(GST_PLUGIN_FEATURE(link->data)))
@@ -52,6 +59,8 @@ DeviceWatch &DeviceWatch::instance()
 
 DeviceWatch::DeviceWatch() : m_firstListingLimit(std::chrono::steady_clock::now() + firstListingLimit)
 {
+    if (!startGStreamer())
+        return;
     GList *factories = providerFactories();
     std::vector<GstPluginFeature *> ordered;
     for (GList *link = factories; link; link = link->next)

@@ -21,11 +21,14 @@ class DeviceWatch : public QObject
     Q_OBJECT
 
 public:
-    // Loads the providers' plug-ins, which the first instance() would else do. From any thread, GStreamer
-    // being initialised.
+    // From any thread. False when GStreamer cannot be used at all; there are no devices then.
+    static bool startGStreamer();
+
+    // What the first instance() would else do: starts GStreamer and loads the providers' plug-ins. From any
+    // thread.
     static void loadProviders();
 
-    // The first call starts the watching and returns at once.
+    // The first call starts the watching and waits for no device.
     static DeviceWatch &instance();
 
     // Every camera that is there, each once, in a stable order: known ones keep their place, new ones come

@@ -28,18 +28,9 @@ constexpr auto movieCloseWait = 10s;
 // A camera closes in a tenth of this; one that does not is left to the end of the process.
 constexpr unsigned long cameraCloseWait = 1000; // milliseconds
 
-bool startGStreamer()
-{
-    ErrorHandle error;
-    GError *raw = nullptr;
-    const bool started = gst_init_check(nullptr, nullptr, &raw);
-    error.reset(raw);
-    return started;
-}
-
 QStringList missingParts()
 {
-    if (!startGStreamer())
+    if (!DeviceWatch::startGStreamer())
         return {QStringLiteral("GStreamer does not start")};
     return RequiredElements::missing();
 }
@@ -54,10 +45,7 @@ std::vector<CaptureMode> modesOf(const CaptureDevice &camera)
 
 void LiveVideoData::prepare()
 {
-    std::thread([] {
-        if (startGStreamer())
-            DeviceWatch::loadProviders();
-    }).detach();
+    std::thread(&DeviceWatch::loadProviders).detach();
 }
 
 LiveVideoData::LiveVideoData() : m_cameraInUse(std::make_shared<std::timed_mutex>())
@@ -65,8 +53,6 @@ LiveVideoData::LiveVideoData() : m_cameraInUse(std::make_shared<std::timed_mutex
     connect(&m_target, &VideoTarget::boxChanged, this, &LiveVideoData::updateView);
     connect(&m_watch, &QTimer::timeout, this, &LiveVideoData::watch);
     m_watch.setInterval(watchPeriod);
-    if (startGStreamer())
-        connect(&DeviceWatch::instance(), &DeviceWatch::changed, this, &LiveVideoData::device);
 }
 
 LiveVideoData::~LiveVideoData()
@@ -90,6 +76,8 @@ void LiveVideoData::Create()
         QTextStream(stderr) << missing.join(QLatin1Char('\n')) << '\n';
         return;
     }
+    connect(&DeviceWatch::instance(), &DeviceWatch::changed, this, &LiveVideoData::device,
+            Qt::UniqueConnection);
     hasVideoDevice = chooseCamera();
     created = hasVideoDevice;
     isVeltrixCam = created && m_camera.name.contains(QLatin1String(ownCameraName));

@@ -28,7 +28,7 @@ public:
     // something else is done in between; need not be called.
     static void prepare();
 
-    // Looks for devices in the background; opens none.
+    // Opens no device.
     LiveVideoData();
     // Finishes a running movie, for which it waits up to ten seconds, and closes the camera.
     ~LiveVideoData() override;

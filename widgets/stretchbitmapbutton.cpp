@@ -3,6 +3,7 @@
 #include <QFocusEvent>
 #include <QGridLayout>
 #include <QGuiApplication>
+#include <QImageReader>
 #include <QLabel>
 #include <QPainter>
 #include <QScreen>
@@ -34,10 +35,8 @@ int captionPointSize()
     return int(width * (1.0 / fullCaptionWidth) * fullCaptionPoints);
 }
 
-QPixmap scaledTo(const QSize &size, const QPixmap &pixmap)
-{
-    return pixmap.isNull() ? pixmap : pixmap.scaled(size, Qt::KeepAspectRatio, Qt::FastTransformation);
-}
+// Told the format, Qt finds it out without loading the readers of all others.
+constexpr char bitmapFormat[] = "BMP";
 
 } // namespace
 
@@ -52,24 +51,22 @@ CStretchBitmapButton::CStretchBitmapButton(const QString &name, QWidget *parent)
     setVisible(false);
 }
 
+// Only the size is needed now: most of the sixty bitmaps are not seen for a while, or never.
 void CStretchBitmapButton::setIconFromObjectNameBitmap()
 {
-    // Told the format, Qt finds it out without loading the readers of all others.
-    constexpr char format[] = "BMP";
-    const QString base = ":res/" + m_name;
-    m_up = QPixmap(base + "_up.bmp", format);
-    m_down = QPixmap(base + "_dw.bmp", format);
-    m_disabled = QPixmap(base + "_ds.bmp", format);
-
-    const QSize box(qMin(availableScreenWidth() / buttonsAcrossScreen, m_up.width()), m_up.height());
-    const QSize size = m_up.size().scaled(box, Qt::KeepAspectRatio);
-    m_up = scaledTo(size, m_up);
-    m_down = scaledTo(size, m_down);
-    m_disabled = scaledTo(size, m_disabled);
-
+    m_up = m_down = m_disabled = QPixmap();
+    const QSize whole = QImageReader(bitmapPath("_up.bmp"), bitmapFormat).size();
+    const int width = qMin(availableScreenWidth() / buttonsAcrossScreen, whole.width());
+    const QSize size =
+        whole.isValid() ? whole.scaled(width, whole.height(), Qt::KeepAspectRatio) : QSize(0, 0);
     setBaseSize(size);
     resize(size);
     update();
+}
+
+QString CStretchBitmapButton::bitmapPath(const char *ending) const
+{
+    return ":res/" + m_name + ending;
 }
 
 void CStretchBitmapButton::createCaption()
@@ -103,11 +100,18 @@ void CStretchBitmapButton::setCaptionText(const QString &text)
     setAccessibleName(text.simplified());
 }
 
-const QPixmap &CStretchBitmapButton::pixmapForState() const
+const QPixmap &CStretchBitmapButton::pixmapForState()
 {
     if (!isEnabled())
-        return m_disabled;
-    return isDown() ? m_down : m_up;
+        return loaded(&m_disabled, "_ds.bmp");
+    return isDown() ? loaded(&m_down, "_dw.bmp") : loaded(&m_up, "_up.bmp");
+}
+
+const QPixmap &CStretchBitmapButton::loaded(QPixmap *pixmap, const char *ending)
+{
+    if (pixmap->isNull() && pixmap->load(bitmapPath(ending), bitmapFormat))
+        *pixmap = pixmap->scaled(baseSize(), Qt::KeepAspectRatio, Qt::FastTransformation);
+    return *pixmap;
 }
 
 void CStretchBitmapButton::paintEvent(QPaintEvent *)

@@ -19,7 +19,7 @@ public:
     // name finds the bitmaps, and is the accessible name until there is a caption.
     explicit CStretchBitmapButton(const QString &name, QWidget *parent = nullptr);
 
-    // Loads and scales the three bitmaps anew and gives the button their size.
+    // Gives the button the size of its bitmaps, which are loaded and scaled anew when they are painted next.
     void setIconFromObjectNameBitmap();
 
     // The caption, with "\n" between its lines; on one line it is also the accessible name.
@@ -32,12 +32,14 @@ protected:
 
 private:
     void createCaption();
-    const QPixmap &pixmapForState() const;
+    QString bitmapPath(const char *ending) const;
+    const QPixmap &pixmapForState();
+    const QPixmap &loaded(QPixmap *pixmap, const char *ending);
     void paintFocusFrame(QPainter &painter) const;
 
     QLabel *m_caption = nullptr;
     QString m_name;
-    QPixmap m_up;
+    QPixmap m_up; // null until it is painted, as the next two
     QPixmap m_down;
     QPixmap m_disabled;
     bool m_focusedByKeyboard = false;
