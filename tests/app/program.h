@@ -79,7 +79,12 @@ public:
     }
 
     static QImage screen() { return QGuiApplication::primaryScreen()->grabWindow(0).toImage(); }
-    static int brightness(const QPoint &point) { return qGray(screen().pixel(point)); }
+    // Of the surroundings of a point: pictures of a page have dark letters.
+    static int brightness(const QPoint &point)
+    {
+        const QImage around = screen().copy(QRect(point - QPoint(4, 4), QSize(9, 9)));
+        return qGray(around.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).pixel(0, 0));
+    }
 
     // The buttons' places, counted from the left.
     static int width() { return QGuiApplication::primaryScreen()->size().width(); }

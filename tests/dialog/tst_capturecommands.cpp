@@ -29,7 +29,6 @@ private slots:
     void cleanup() { freeMiB = 100000; }
     void failedPhotoShowsNothing();
     void seriesByHandAndByTime();
-    void movieIsRecordedAndWatched();
     void fullDiskRefuses();
     void lossInEveryScreen();
 
@@ -96,30 +95,6 @@ void TestCaptureCommands::seriesByHandAndByTime()
     QVERIFY(isTicking(main));
     main.press("List");
     QVERIFY(!isTicking(main));
-}
-
-void TestCaptureCommands::movieIsRecordedAndWatched()
-{
-    MainWindow main;
-    main.press("Movie");
-    auto *time = main.view<TimerWidget>();
-    QCOMPARE(time->text(), QString("00:00"));
-    QTRY_COMPARE_WITH_TIMEOUT(time->text(), QString("00:02"), 3500);
-    emit time->movieTimeOver(); // the limit ends it as the button does
-    emit time->movieTimeOver(); // and coming again does no harm
-    QCOMPARE(MainWindow::captures("movie*").size(), 2);
-
-    auto *player = main.view<MovieWidget>();
-    QTRY_VERIFY_WITH_TIMEOUT(player->isPaused(), 5000);
-    main.press("MoviePlay");
-    QTRY_COMPARE(time->text(), QString("00:01/00:0%1").arg(player->totalTime() / 1000));
-    main.press("MoviePause");
-    QTRY_VERIFY(player->isPaused() && !isTicking(main));
-    for (int showing = 0; showing < 2; ++showing) { // to the end, and once more from the start
-        main.press("MoviePlay");
-        QTRY_VERIFY(main.button("MoviePause")->isVisible());
-        QTRY_VERIFY_WITH_TIMEOUT(main.button("MoviePlay")->isVisible(), 6000);
-    }
 }
 
 void TestCaptureCommands::fullDiskRefuses()

@@ -5,20 +5,17 @@
 
 #include <functional>
 
-// What happens while the disk takes a file, or the names in a folder: these are found before the C library's.
-static std::function<void()> duringFileSync;
-static std::function<void()> duringFolderSync;
-extern "C" int fdatasync(int)
-{
-    if (duringFileSync)
-        duringFileSync();
-    return 0;
-}
+// What happens while the disk takes a file or the names in a folder: these are found before the C library's.
+static std::function<void()> duringSync;
 extern "C" int fsync(int)
 {
-    if (duringFolderSync)
-        duringFolderSync();
+    if (duringSync)
+        duringSync();
     return 0;
+}
+extern "C" int fdatasync(int file)
+{
+    return fsync(file);
 }
 
 class TestClosing : public QObject
@@ -26,11 +23,7 @@ class TestClosing : public QObject
     Q_OBJECT
 
 private slots:
-    void cleanup()
-    {
-        duringFileSync = nullptr;
-        duringFolderSync = nullptr;
-    }
+    void cleanup() { duringSync = nullptr; }
     void vanishingSaveFolderLosesNothing();
     void pressDuringTheSaveIsDropped();
     void closingUnderAMessageIsSafe();
@@ -47,7 +40,7 @@ void TestClosing::vanishingSaveFolderLosesNothing()
     for (const QString &name : names)
         MainWindow::writeFile(WebcamUtil::getTemporaryPath() + "/" + name, name.toUtf8());
     int pulls = 0;
-    duringFileSync = [&] { pulls += QProcess::execute("umount", {"-l", disk.path("")}) == 0; };
+    duringSync = [&] { pulls += QProcess::execute("umount", {"-l", disk.path("")}) == 0; };
     Answers answers({"Yes", "OK"});
     main.press("Close");
     QCOMPARE(pulls, 1);
@@ -66,7 +59,7 @@ void TestClosing::pressDuringTheSaveIsDropped()
         main.press(button);
     const QPoint photo = main.button("Photo")->mapToGlobal(main.button("Photo")->rect().center());
     int clicked = -1;
-    duringFolderSync = [&] {
+    duringSync = [&] {
         clicked = QProcess::execute(
             "xdotool", {"mousemove", QString::number(photo.x()), QString::number(photo.y()), "click", "1"});
     };
