@@ -27,16 +27,37 @@ private slots:
     void windowLivesThroughALargeLoad();
 
 private:
+    struct Photo {
+        QString name;
+        QByteArray contents;
+        bool isPicture;
+    };
+    QVector<Photo> photosOfAnyKind() const;
     static QString working(const QString &name = QString())
     {
         return WebcamUtil::getTemporaryPath() + "/" + name;
     }
     static void choose(const MainWindow &main, int row);
+    static void checkList(const MainWindow &main, const QVector<Photo> &files);
     static QStringList takeRequest();
     static void load(const MainWindow &main, const QString &folder);
 
     QByteArray m_photo; // white
 };
+
+static QByteArray png(const QImage &image)
+{
+    QByteArray contents;
+    QBuffer buffer(&contents);
+    image.save(&buffer, "PNG");
+    return contents;
+}
+
+// White is 255, an empty viewer 0.
+static int brightness(const QPixmap &picture)
+{
+    return picture.toImage().pixelColor(picture.rect().center()).lightness();
+}
 
 // Root, too, shall meet files and folders that may not be read. This counts for this thread, and for all that
 // it starts from now on.
@@ -55,8 +76,7 @@ void TestReviewCommands::initTestCase()
     obeyPermissions();
     QImage image(64, 48, QImage::Format_RGB32);
     image.fill(Qt::white);
-    QBuffer buffer(&m_photo);
-    QVERIFY(image.save(&buffer, "PNG"));
+    m_photo = png(image);
 }
 
 void TestReviewCommands::choose(const MainWindow &main, int row)
@@ -103,23 +123,14 @@ void TestReviewCommands::gridPlaces()
     }
 }
 
-void TestReviewCommands::photosOfAnyKindAreChosenShownAndPasted()
+// Made in the working folder, in this order.
+QVector<TestReviewCommands::Photo> TestReviewCommands::photosOfAnyKind() const
 {
-    MainWindow main("PhotoPreview=0\n");
-    const QStringList head = {"0", "933x700", WebcamUtil::getTemporaryPath()};
-    main.press("Photo");
-    const QString taken = MainWindow::captures().first();
-    main.press("PutPhoto");
-    QCOMPARE(takeRequest(), head + QStringList(taken));
-    QFile::remove(working(taken));
-
-    const QByteArray huge = QByteArray(m_photo).replace(16, 8, QByteArray("\0\0\x75\x30\0\0\x75\x30", 8));
-    const QByteArray wrongLength = QByteArray(m_photo).replace(16, 1, "\x7f");
-    const struct {
-        QString name;
-        QByteArray contents;
-        bool isPicture;
-    } files[] = {
+    QImage hugeImage(30000, 30000, QImage::Format_Mono);
+    hugeImage.fill(1); // white
+    const QByteArray huge = png(hugeImage);
+    const QByteArray wrongLength = QByteArray(m_photo).replace(m_photo.indexOf("IDAT") - 4, 1, "\x7f");
+    const QVector<Photo> files = {
         {"photo1.png", m_photo, true},
         {"photo2 cut.png", m_photo.left(60), false},
         {"photo3 of 30000x30000.png", huge, false},
@@ -130,43 +141,59 @@ void TestReviewCommands::photosOfAnyKindAreChosenShownAndPasted()
         {"photo8\nforged.png", m_photo, true}, // would be two lines
         {QString::fromUtf8("photo9 \u0635\u0648\u0631\u0629 \U0001F600.png"), m_photo, true},
     };
-    QStringList names;
-    for (const auto &file : files) {
-        names << file.name;
+    for (const Photo &file : files)
         MainWindow::writeFile(working(file.name), file.contents);
-    }
-    QVERIFY(QFile::setPermissions(working(names.at(6)), {}) && QDir().mkdir(working("photo7.png")));
+    QFile::setPermissions(working("photo7 unreadable.png"), {});
+    QDir().mkdir(working("photo7.png"));
+    return files;
+}
 
-    main.press("List");
-    auto *list = main.view<PictureListView>();
-    QCOMPARE(list->nameList(), names);
-    const auto middle = [](const QImage &image) {
-        return image.pixelColor(image.rect().center()).lightness();
-    };
-    const auto thumbnail = [&](int row) {
-        return middle(list->item(row)->icon().pixmap(list->iconSize()).toImage());
-    };
-    const auto shown = [&](PictureWidget *view) { return middle(view->grab().toImage()); };
-    for (int row : {0, 7, 8})
-        QTRY_COMPARE(thumbnail(row), 255);
+// The thumbnails, and the preview of each when it is chosen.
+void TestReviewCommands::checkList(const MainWindow &main, const QVector<Photo> &files)
+{
+    const auto *list = main.view<PictureListView>();
     auto *preview = main.view<PictureWidget>();
-    for (int row = 0; row < names.size(); ++row) {
-        QCOMPARE(thumbnail(row), files[row].isPicture ? 255 : QColor(Qt::lightGray).lightness());
+    const auto thumbnail = [&](int row) {
+        return brightness(list->item(row)->icon().pixmap(list->iconSize()));
+    };
+    QTRY_COMPARE(thumbnail(files.size() - 1), 255); // they are read one after the other
+    for (int row = 0; row < files.size(); ++row) {
+        const bool isPicture = files[row].isPicture;
+        QTRY_COMPARE(thumbnail(row), isPicture ? 255 : QColor(Qt::lightGray).lightness());
         choose(main, row);
         QVERIFY(main.button("Show")->isEnabled());
-        QCOMPARE(preview->fileName(), names.at(row));
-        QCOMPARE(shown(preview), files[row].isPicture ? 255 : 0);
+        QCOMPARE(preview->fileName(), files[row].name);
+        QCOMPARE(brightness(preview->grab()), isPicture ? 255 : 0);
         choose(main, row);
         QVERIFY(!main.button("Show")->isEnabled());
-        QCOMPARE(shown(preview), 0);
+        QCOMPARE(brightness(preview->grab()), 0);
     }
+}
+
+void TestReviewCommands::photosOfAnyKindAreChosenShownAndPasted()
+{
+    MainWindow main("PhotoPreview=0\n");
+    const QStringList head = {"0", "933x700", WebcamUtil::getTemporaryPath()};
+    main.press("Photo");
+    const QString taken = MainWindow::captures().first();
+    main.press("PutPhoto");
+    QCOMPARE(takeRequest(), head + QStringList(taken));
+    QFile::remove(working(taken));
+
+    const QVector<Photo> files = photosOfAnyKind();
+    QStringList names;
+    for (const Photo &file : files)
+        names << file.name;
+    main.press("List");
+    QCOMPARE(main.view<PictureListView>()->nameList(), names);
+    checkList(main, files);
     for (int row = names.size() - 1; row >= 0; --row)
         choose(main, row);
     main.press("Show");
     QCOMPARE(main.tiles().size(), 9);
     QCOMPARE(main.buttons(), QString("Live+ PutPhoto+ List+ Close+"));
     for (int i = 0; i < main.tiles().size(); ++i)
-        QCOMPARE(shown(main.tiles().at(i)), files[8 - i].isPicture ? 255 : 0);
+        QCOMPARE(brightness(main.tiles().at(i)->grab()), files[8 - i].isPicture ? 255 : 0);
     main.press("PutPhoto");
     QStringList pasted(names.rbegin(), names.rend());
     pasted.removeAt(1);
@@ -178,7 +205,7 @@ void TestReviewCommands::photosOfAnyKindAreChosenShownAndPasted()
         QTest::keyClick(main.window->focusWidget(), Qt::Key_Space);
         QCOMPARE(main.tiles().size(), 1);
         QCOMPARE(main.tiles().first()->geometry(), QRect(45, 0, 933, 700));
-        QCOMPARE(shown(main.tiles().first()), files[8 - tile].isPicture ? 255 : 0);
+        QCOMPARE(brightness(main.tiles().first()->grab()), files[8 - tile].isPicture ? 255 : 0);
         QCOMPARE(main.window->focusWidget()->accessibleName(), QString("Back"));
         // A second request within the second takes the place of the first.
         QTRY_VERIFY(QTime::currentTime().msec() < 300);
