@@ -5,7 +5,6 @@
 #include <QImage>
 #include <QProcess>
 #include <QScreen>
-#include <QStandardPaths>
 #include <QtTest>
 
 #include <unistd.h>
@@ -34,6 +33,19 @@ public:
     }
     QProcess &process() { return m_process; }
 
+    // Whether it is in the middle of writing a file into the folder.
+    bool isWritingInto(const QDir &folder) const
+    {
+        const QString own = QString("/proc/%1/").arg(m_process.processId());
+        for (const QString &name : QDir(own + "fdinfo").entryList(QDir::Files)) {
+            QFile position(own + "fdinfo/" + name);
+            if (QFile::symLinkTarget(own + "fd/" + name).startsWith(folder.path() + '/') &&
+                position.open(QIODevice::ReadOnly) && position.readLine() != "pos:\t0\n")
+                return true;
+        }
+        return false;
+    }
+
     // The program's windows that can be seen, its dialogs among them; by the beginning of their title.
     static int windows(const QString &title = "Orvane")
     {
@@ -50,10 +62,29 @@ public:
         xdotool({"mousemove", QString::number(point.x()), QString::number(point.y()), "click", "1"});
     }
     static void press(const QString &key) { xdotool({"key", key}); }
-    static void type(const QString &text) { xdotool({"type", text}); }
+
+    enum Answer { Yes, No, Cancel };
+    // Presses that of the question's three buttons, which stand side by side in its lower half.
+    static void answer(Answer button)
+    {
+        // The second window from below.
+        const QStringList question = {"search", "--onlyvisible", "--name", "^Orvane"};
+        const QString size = xdotool(question + QStringList{"getwindowgeometry", "--shell", "%2"});
+        const auto pixels = [&size](const QString &key) {
+            return size.section(key, 1).section('\n', 0, 0).toInt();
+        };
+        const QString x = QString::number(pixels("WIDTH=") * (2 * button + 1) / 6);
+        const QString y = QString::number(pixels("HEIGHT=") * 3 / 4);
+        xdotool(question + QStringList{"mousemove", "--window", "%2", x, y, "click", "1"});
+    }
 
     static QImage screen() { return QGuiApplication::primaryScreen()->grabWindow(0).toImage(); }
-    static int brightness(const QPoint &point) { return qGray(screen().pixel(point)); }
+    // Of the surroundings of a point: pictures of a page have dark letters.
+    static int brightness(const QPoint &point)
+    {
+        const QImage around = screen().copy(QRect(point - QPoint(4, 4), QSize(9, 9)));
+        return qGray(around.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).pixel(0, 0));
+    }
 
     // The buttons' places, counted from the left.
     static int width() { return QGuiApplication::primaryScreen()->size().width(); }

@@ -24,12 +24,12 @@ class MainWindow
 {
 public:
     // settings: lines of the settings file.
-    explicit MainWindow(const QString &settings = QString(), const QString &formats = "YUY2 640x480 30")
+    explicit MainWindow(const QString &settings = QString())
     {
         QDir(WebcamUtil::getTemporaryPath()).removeRecursively();
         WebcamUtil::setTemporaryPath();
         writeFile(QDir::homePath() + "/.hollin_orvane.ini", "[General]\n" + settings.toUtf8());
-        devices.camera("cam").name("Board Cam").formats(formats).content("page");
+        devices.camera("cam").name("Board Cam").formats("YUY2 640x480 30").content("page");
         devices.microphone("mic").sound("silence");
         devices.write();
         LiveVideoData probe;
@@ -64,34 +64,31 @@ public:
     // The photos of the grid that are shown. The first such child is the picture view.
     QList<PictureWidget *> tiles() const
     {
-        auto tiles = window->findChildren<PictureWidget *>(QString(), Qt::FindDirectChildrenOnly).mid(1);
-        tiles.erase(std::remove_if(tiles.begin(), tiles.end(), [](auto *tile) { return tile->isHidden(); }),
-                    tiles.end());
-        return tiles;
+        QList<PictureWidget *> shown;
+        for (auto *tile :
+             window->findChildren<PictureWidget *>(QString(), Qt::FindDirectChildrenOnly).mid(1)) {
+            if (!tile->isHidden())
+                shown << tile;
+        }
+        return shown;
     }
 
     // The buttons that are shown, from left to right, those that can be pressed with a "+".
     QString buttons() const
     {
-        QList<CStretchBitmapButton *> shown;
-        for (auto *candidate :
+        QMap<std::pair<int, int>, QString> names;
+        for (auto *one :
              window->findChildren<CStretchBitmapButton *>(QString(), Qt::FindDirectChildrenOnly)) {
-            if (candidate->isVisible())
-                shown << candidate;
+            if (one->isVisible())
+                names[{one->x(), one->y()}] = one->objectName() + (one->isEnabled() ? "+" : "");
         }
-        std::sort(shown.begin(), shown.end(), [](auto *a, auto *b) {
-            return std::make_pair(a->x(), a->y()) < std::make_pair(b->x(), b->y());
-        });
-        QStringList names;
-        for (auto *one : qAsConst(shown))
-            names << one->objectName() + (one->isEnabled() ? "+" : "");
-        return names.join(' ');
+        return QStringList(names.values()).join(' ');
     }
 
-    static QStringList captures(const QString &filter = "*",
-                                const QString &folder = WebcamUtil::getTemporaryPath())
+    static QStringList captures(const QString &filter = "*")
     {
-        return QDir(folder).entryList({filter}, QDir::Files | QDir::Hidden, QDir::Name);
+        return QDir(WebcamUtil::getTemporaryPath())
+            .entryList({filter}, QDir::Files | QDir::Hidden, QDir::Name);
     }
 
     TestDevices devices;
