@@ -31,6 +31,7 @@ private slots:
     void seriesByHandAndByTime();
     void fullDiskRefuses();
     void lossInEveryScreen();
+    void keyboardReachesTheRowFromLeftToRight();
 
 private:
     static bool isTicking(const MainWindow &main)
@@ -171,6 +172,22 @@ void TestCaptureCommands::lossInEveryScreen()
         QCOMPARE(main.buttons(), QString(liveRow));
         QTRY_VERIFY_WITH_TIMEOUT(!main.view<LiveVideoWidget>()->SaveBmp().isEmpty(), 3000);
     }
+}
+
+void TestCaptureCommands::keyboardReachesTheRowFromLeftToRight()
+{
+    MainWindow main;
+    QStringList reached;
+    for (int i = 0; i < 7; ++i) {
+        reached << main.window->focusWidget()->objectName();
+        QTest::keyClick(main.window->focusWidget(), Qt::Key_Tab);
+    }
+    QCOMPARE(reached.join(' '), QString("Photo PhotoMulti Movie List Settings Close Live"));
+    QTest::keyClick(main.window->focusWidget(), Qt::Key_Return);
+    QCOMPARE(main.window->currentMode(), DisplayMode::Photo);
+    QCOMPARE(main.window->focusWidget(), main.button("Apply"));
+    QTest::keyClick(main.window->focusWidget(), Qt::Key_Space);
+    QCOMPARE(main.window->focusWidget(), main.button("Live"));
 }
 
 QTEST_MAIN(TestCaptureCommands)
