@@ -219,8 +219,7 @@ bool LiveVideoWidget::Record()
         WebcamUtil::ShowDiskWorningMessage(this);
         return false;
     }
-    QString previewPath = m_moviePath;
-    previewPath.replace(QLatin1String(".mov"), QLatin1String("tmp.png"));
+    const QString previewPath = WebcamUtil::previewName(m_moviePath);
     // A movie of the same second is replaced, and so is its preview.
     WebcamUtil::deletetmpfile(previewPath);
     m_capture.SaveBitmap(previewPath);

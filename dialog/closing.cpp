@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QCursor>
 
 void CPictorelDlg::OnClose()
 {
@@ -18,14 +19,22 @@ void CPictorelDlg::OnClose()
         case QDialog::Rejected:
             return;
         case QDialog::Accepted:
-            if (!WebcamUtil::saveData(m_saveDirectory))
-                WebcamUtil::WarningMessage(tr("Save failed."), this);
+            saveCaptures();
             break;
         default:
             WebcamUtil::deleteData();
         }
     }
     close();
+}
+
+void CPictorelDlg::saveCaptures()
+{
+    QGuiApplication::setOverrideCursor(QCursor(Qt::WaitCursor));
+    const bool isSaved = WebcamUtil::saveData(m_saveDirectory);
+    QGuiApplication::restoreOverrideCursor();
+    if (!isSaved)
+        WebcamUtil::WarningMessage(tr("Save failed."), this);
 }
 
 void CPictorelDlg::closeEvent(QCloseEvent *event)

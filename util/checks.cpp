@@ -9,13 +9,8 @@
 
 bool WebcamUtil::chkdiskFreeSpace()
 {
-    // A folder that was removed behind the program's back is made again.
-    if (m_pictureDataPath.isEmpty() || !QDir(m_pictureDataPath).exists()) {
-        m_pictureDataPath.clear();
-        setTemporaryPath();
-    }
     struct statvfs status = {};
-    if (statvfs(QFile::encodeName(m_pictureDataPath), &status) != 0)
+    if (statvfs(QFile::encodeName(existingTemporaryPath()), &status) != 0)
         return false;
     return enoughFreeSpace(status.f_bsize, status.f_bavail);
 }

@@ -9,6 +9,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 #include <vector>
 
 namespace
@@ -23,8 +24,8 @@ public:
         if (m_descriptor >= 0)
             close(m_descriptor);
     }
-    Descriptor(const Descriptor &) = delete;
-    Descriptor &operator=(const Descriptor &) = delete;
+    Descriptor(Descriptor &&other) noexcept : m_descriptor(std::exchange(other.m_descriptor, -1)) {}
+    Descriptor &operator=(Descriptor &&) = delete;
     operator int() const { return m_descriptor; }
 
 private:
@@ -45,13 +46,23 @@ bool writeAll(int to, const char *data, ssize_t length)
     return true;
 }
 
-using StopTest = std::function<bool()>;
+// How a file is copied.
+struct Copying {
+    std::function<bool()> isToStop = [] { return false; };
+    bool isLasting = false; // keeps the time, and goes to the disk while it is being copied
+};
 
-bool copyByBlocks(int from, int to, const StopTest &isToStop)
+void startWriting(int file)
+{
+    sync_file_range(file, 0, 0, SYNC_FILE_RANGE_WRITE);
+}
+
+bool copyByBlocks(int from, int to, const Copying &copying)
 {
     constexpr size_t blockBytes = size_t{256} * 1024; // past this, larger blocks gain nothing
+    constexpr int blocksBetweenWrites = 32;           // enough to keep a disk busy
     std::vector<char> block(blockBytes);
-    while (!isToStop()) {
+    for (int count = 1; !copying.isToStop(); ++count) {
         const ssize_t length = read(from, block.data(), block.size());
         if (length == 0)
             return true;
@@ -59,61 +70,111 @@ bool copyByBlocks(int from, int to, const StopTest &isToStop)
             continue;
         if (length < 0 || !writeAll(to, block.data(), length))
             return false;
+        if (copying.isLasting && count % blocksBetweenWrites == 0)
+            startWriting(to);
     }
     return false;
 }
 
 // The kernel copies where it can, between most file systems of one kind, and may even share the blocks. What
 // it leaves, up to all of the file, goes by blocks, and so does finding out why.
-bool copyContents(int from, int to, const StopTest &isToStop)
+bool copyContents(int from, int to, const Copying &copying)
 {
     // A fraction of a second even on a slow disk, after which stopping is possible.
     constexpr size_t kernelStepBytes = size_t{16} * 1024 * 1024;
-    while (!isToStop() && copy_file_range(from, nullptr, to, nullptr, kernelStepBytes, 0) > 0) {
+    while (!copying.isToStop() && copy_file_range(from, nullptr, to, nullptr, kernelStepBytes, 0) > 0) {
+        if (copying.isLasting)
+            startWriting(to);
     }
-    return copyByBlocks(from, to, isToStop);
+    return copyByBlocks(from, to, copying);
 }
 
-enum class Copy {
-    Plain,
-    // Keeps the time, and is on the disk before its name is: what has a name there counts as saved.
-    Lasting
-};
-
-bool copyFile(const QString &source, const QString &target, Copy kind, const StopTest &isToStop)
+// Without waiting, as opening a named pipe would. Not a file that is usable when it is no plain one.
+Descriptor openPlainFile(const QString &path, struct stat *status)
 {
-    // Without waiting, as opening a named pipe would.
-    const Descriptor from(open(QFile::encodeName(source), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    Descriptor file(open(QFile::encodeName(path), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    if (file < 0 || fstat(file, status) != 0 || !S_ISREG(status->st_mode))
+        return Descriptor(-1);
+    return file;
+}
+
+// The whole copy, not yet under its name; nullptr on failure.
+std::unique_ptr<WholeFile> copied(const QString &source, const QString &target, const Copying &copying)
+{
     struct stat status = {};
-    if (from < 0 || fstat(from, &status) != 0 || !S_ISREG(status.st_mode))
-        return false;
-    WholeFile file(target, status.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO));
-    if (file.descriptor() < 0 || !copyContents(from, file.descriptor(), isToStop))
-        return false;
-    if (kind == Copy::Plain)
-        return file.publish();
-    const timespec times[] = {status.st_atim, status.st_mtim};
-    futimens(file.descriptor(), times); // a file system that keeps no times keeps the capture all the same
-    return fdatasync(file.descriptor()) == 0 && file.publish();
+    const Descriptor from = openPlainFile(source, &status);
+    if (from < 0)
+        return nullptr;
+    auto file = std::make_unique<WholeFile>(target, status.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO));
+    if (file->descriptor() < 0 || !copyContents(from, file->descriptor(), copying))
+        return nullptr;
+    if (copying.isLasting) {
+        const timespec times[] = {status.st_atim, status.st_mtim};
+        futimens(file->descriptor(),
+                 times); // a file system that keeps no times keeps the capture all the same
+        startWriting(file->descriptor());
+    }
+    return file;
+}
+
+std::unique_ptr<WholeFile> lastingCopy(const QString &source, const QString &target)
+{
+    Copying copying;
+    copying.isLasting = true;
+    return copied(source, target, copying);
+}
+
+bool isOnFileSystemOf(const QString &folder, const QString &file)
+{
+    struct stat one = {};
+    struct stat other = {};
+    return stat(QFile::encodeName(folder), &one) == 0 && lstat(QFile::encodeName(file), &other) == 0 &&
+           one.st_dev == other.st_dev;
+}
+
+bool isOnDisk(int file)
+{
+    // Some file systems keep nothing that could be waited for.
+    return fdatasync(file) == 0 || errno == EINVAL;
 }
 
 } // namespace
 
-bool copyFileWhole(const QString &source, const QString &target, const StopTest &isToStop)
+bool copyFileWhole(const QString &source, const QString &target, const std::function<bool()> &isToStop)
 {
-    return copyFile(source, target, Copy::Plain, isToStop);
+    Copying copying;
+    copying.isToStop = isToStop;
+    const auto file = copied(source, target, copying);
+    return file && file->publish();
 }
 
-bool placeFileWhole(const QString &source, const QString &target)
+FilePlacement::FilePlacement(const QString &source, const QString &target)
+    : m_source(source), m_target(target)
 {
-    const QFileInfo info(source);
-    if (!info.isFile() || info.isSymLink())
-        return false;
-    if (link(QFile::encodeName(source), QFile::encodeName(target)) == 0)
-        return true;
-    if (errno == EEXIST)
-        return false;
-    return copyFile(source, target, Copy::Lasting, [] { return false; });
+    if (!isOnFileSystemOf(QFileInfo(target).absolutePath(), source))
+        m_copy = lastingCopy(source, target);
+}
+
+FilePlacement::~FilePlacement() = default;
+
+bool FilePlacement::finish()
+{
+    if (!m_copy) {
+        if (giveSecondName())
+            return true;
+        if (errno == EEXIST)
+            return false;
+        // Not every file system gives a file two names.
+        m_copy = lastingCopy(m_source, m_target);
+    }
+    return m_copy && isOnDisk(m_copy->descriptor()) && m_copy->publish();
+}
+
+bool FilePlacement::giveSecondName() const
+{
+    struct stat status = {};
+    const Descriptor file = openPlainFile(m_source, &status);
+    return file >= 0 && isOnDisk(file) && link(QFile::encodeName(m_source), QFile::encodeName(m_target)) == 0;
 }
 
 bool syncFolder(const QString &path)

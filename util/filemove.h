@@ -3,10 +3,13 @@
 #include <QString>
 
 #include <functional>
+#include <memory>
 
-// The copying operations take plain files only, never replace anything under the target's name, and make the
-// target appear whole or not at all, whenever the program or the disk gives up. The target's folder must
-// exist. They may be called from any thread.
+class WholeFile;
+
+// These take plain files only, never replace anything under the target's name, and make the target appear
+// whole or not at all, whenever the program or the disk gives up. The target's folder must exist. They may be
+// used from any thread.
 
 // Copies source to target, which gets the time of the copying. False when the target's name is taken, the
 // source cannot be read, the copy cannot be written, or isToStop, asked again and again, said so.
@@ -14,11 +17,33 @@ bool copyFileWhole(
     const QString &source, const QString &target,
     const std::function<bool()> &isToStop = [] { return false; });
 
-// Makes source's contents, with their modification time, stand at target too: on one file system as a second
-// name, which costs nothing of the size, else as a copy that is on the disk before its name is. False as
-// above. The name itself, and so the right to remove source, is safe against a loss of power only after
-// syncFolder().
-bool placeFileWhole(const QString &source, const QString &target);
+// A file on its way to a second place, with its modification time, so that the first may then be removed. On
+// one file system it gets a second name, which costs nothing of the size; else it is copied. Dropped before
+// it is finished, it leaves nothing.
+class FilePlacement
+{
+public:
+    // Begins: a copy is made now, without a name, and the disk set to work on it.
+    FilePlacement(const QString &source, const QString &target);
+    ~FilePlacement();
+    FilePlacement(FilePlacement &&) = default;
+    FilePlacement &operator=(FilePlacement &&) = default;
+
+    // Waits until the contents are on the disk, then gives them the target's name, once. False as above.
+    bool finish();
+
+    // Once finished: a copy's name, and so the right to remove the source, is safe against a loss of power
+    // only after syncFolder(). A second name and the removal of the first reach the disk in this order by
+    // themselves.
+    bool isCopy() const { return m_copy != nullptr; }
+
+private:
+    bool giveSecondName() const;
+
+    QString m_source;
+    QString m_target;
+    std::unique_ptr<WholeFile> m_copy; // none for a second name
+};
 
 // Waits until the names in the folder are on the disk. False when the disk has failed to take them; it cannot
 // be told where the file system does not sync folders.

@@ -67,6 +67,13 @@ QString WebcamUtil::getTemporaryPath()
     return m_pictureDataPath;
 }
 
+QString WebcamUtil::existingTemporaryPath()
+{
+    if (!m_pictureDataPath.isEmpty() && !QDir(m_pictureDataPath).exists())
+        m_pictureDataPath.clear();
+    return getTemporaryPath();
+}
+
 void WebcamUtil::deleteTemporaryPath()
 {
     const QString path =

@@ -1,13 +1,18 @@
 #include "util/filemove.h"
 #include "util/webcamutil.h"
+#include "util/wholefile.h"
 
+#include <QDir>
 #include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
 #include <QThread>
 
+#include <algorithm>
+#include <deque>
 #include <functional>
 #include <memory>
+#include <vector>
 
 namespace
 {
@@ -19,63 +24,89 @@ bool isSavedAlready(const QString &target)
     return info.isFile() && !info.isSymLink();
 }
 
-// The other one of a movie and its preview picture; any name for a capture that has no partner.
-QString partnerOf(const QString &name)
+// The newest capture, with its partner when it is a movie or a movie's preview; both leave the list, which is
+// oldest first.
+QStringList takeUnit(QStringList *captures)
 {
-    if (name.contains(".mov"))
-        return WebcamUtil::previewName(name);
-    return QString(name).replace("tmp.png", ".mov");
+    const QString newest = captures->takeLast();
+    const QString partner =
+        newest.contains(".mov") ? WebcamUtil::previewName(newest) : WebcamUtil::movieName(newest);
+    return captures->removeOne(partner) ? QStringList{newest, partner} : QStringList{newest};
 }
 
-// The name, followed by its partner when that is among the others, which then lose it.
-QStringList withPartner(const QString &name, QStringList &others)
+// Captures that are moved together or not at all. Copies are begun when a unit is made.
+class Unit
 {
-    const QString partner = partnerOf(name);
-    return others.removeOne(partner) ? QStringList{name, partner} : QStringList{name};
-}
-
-// Puts every one of the names into the save folder or none of them. A name that is saved already counts as
-// put.
-bool placeTogether(const QStringList &names, const QString &working, const QString &save)
-{
-    QStringList placed;
-    for (const QString &name : names) {
-        const QString target = save + "/" + name;
-        if (isSavedAlready(target))
-            continue;
-        if (!placeFileWhole(working + "/" + name, target)) {
-            for (const QString &path : qAsConst(placed))
-                QFile::remove(path);
-            return false;
+public:
+    Unit(const QStringList &names, const QString &working, const QString &save) : m_save(save)
+    {
+        for (const QString &name : names) {
+            m_sources.append(working + "/" + name);
+            const QString target = save + "/" + name;
+            if (isSavedAlready(target)) // the working copy is only to be removed
+                continue;
+            m_targets.append(target);
+            m_placements.emplace_back(m_sources.last(), target);
         }
-        placed.append(target);
     }
-    return true;
-}
-
-bool removeAll(const QStringList &names, const QString &folder)
-{
-    for (const QString &name : names) {
-        if (!QFile::remove(folder + "/" + name))
-            return false;
+    // False when not all could be placed, and then none is, or when a source could not be removed.
+    bool move()
+    {
+        if (place())
+            return removeAll(m_sources);
+        removeAll(m_targets.mid(0, m_placed));
+        return false;
     }
-    return true;
-}
 
-// The captures' units, one after the other from the newest on, up to the first that fails. Nothing is removed
-// before its name in the save folder is safe, for which one wait is enough for all.
+private:
+    bool place()
+    {
+        bool isCopied = false;
+        for (FilePlacement &placement : m_placements) {
+            if (!placement.finish())
+                return false;
+            ++m_placed;
+            isCopied = isCopied || placement.isCopy();
+        }
+        return !isCopied || syncFolder(m_save);
+    }
+    static bool removeAll(const QStringList &paths)
+    {
+        return std::all_of(paths.begin(), paths.end(),
+                           [](const QString &path) { return QFile::remove(path); });
+    }
+
+    const QString m_save;
+    QStringList m_sources;
+    QStringList m_targets; // of the placements
+    std::vector<FilePlacement> m_placements;
+    int m_placed = 0;
+};
+
+// One unit after the other from the newest on, up to the first that fails.
 bool moveAll(QStringList captures, const QString &working, const QString &save)
 {
-    QStringList placed;
+    // While the disk writes one, the next are copied: it is never without work.
+    constexpr size_t unitsUnderWay = 6;
+    std::deque<Unit> underWay;
     bool isComplete = true;
-    while (isComplete && !captures.isEmpty()) {
-        const QString newest = captures.takeLast();
-        const QStringList unit = withPartner(newest, captures);
-        isComplete = placeTogether(unit, working, save);
-        if (isComplete)
-            placed += unit;
+    while (isComplete) {
+        while (!captures.isEmpty() && underWay.size() < unitsUnderWay)
+            underWay.emplace_back(takeUnit(&captures), working, save);
+        if (underWay.empty())
+            break;
+        isComplete = underWay.front().move();
+        underWay.pop_front();
     }
-    return syncFolder(save) && removeAll(placed, working) && isComplete;
+    return syncFolder(save) && isComplete;
+}
+
+// A file system without nameless files keeps what a killed save had begun, in the folder of its day.
+void removeLeftOvers(const QString &save)
+{
+    const QDir days = QFileInfo(save).dir();
+    for (const QString &day : days.entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+        WholeFile::removeLeftOvers(days.filePath(day));
 }
 
 // Does the work on a thread of its own. The windows go on painting, and what the user presses meanwhile comes
@@ -104,5 +135,8 @@ bool WebcamUtil::saveData(const QString &dir)
     if (save.isEmpty())
         return false;
     const QStringList captures = getFileList({"photo*", "movie*"});
-    return !captures.isEmpty() && doAside([&] { return moveAll(captures, working, save); });
+    return !captures.isEmpty() && doAside([&] {
+        removeLeftOvers(save);
+        return moveAll(captures, working, save);
+    });
 }

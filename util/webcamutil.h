@@ -7,7 +7,7 @@
 class QWidget;
 
 // Folders, names, the working set, messages and checks that the whole system shares. Static operations
-// only; GUI thread only: the members have no lock.
+// only, for the GUI thread: the members have no lock. Those that need none of them say so.
 //
 // The working folder is where everything captured is first written: one for each user, below the system's
 // temporary folder. A capture is a plain file in it whose name starts with "photo" or "movie", and exists as
@@ -33,6 +33,8 @@ public:
     static void setTemporaryPath();
     // The working folder's absolute path; empty when it cannot be made, which every later call tries again.
     static QString getTemporaryPath();
+    // As getTemporaryPath(), but a folder that was removed behind the program's back is made again.
+    static QString existingTemporaryPath();
     // Removes the working folder when nothing is in it, with every parent that is then empty, and forgets its
     // path.
     static void deleteTemporaryPath();
@@ -48,8 +50,9 @@ public:
     // A full path for a movie begun now: two within one second are the same.
     static QString CreateMoviefilename();
     static QString CreateTempMoviefilename();
-    // The name or path of a movie's preview picture.
+    // The name or path of a movie's preview picture, and of a preview picture's movie. Any thread.
     static QString previewName(QString movie);
+    static QString movieName(QString preview);
 
     // Removes one file; a failure is ignored.
     static void deletetmpfile(const QString &path);
@@ -71,8 +74,9 @@ public:
     static QStringList getTempPhotoNameList();
     // Whether the working folder holds any file, capture or not; m_savefilenameList then names them all.
     static bool isSaveFile();
-    // The captures of the working folder, or of any folder, that a filter lets through.
+    // The captures of the working folder that a filter lets through.
     static QStringList getFileList(const QStringList &filters);
+    // As getFileList(), for any folder and from any thread.
     static QStringList getFileListFromDir(const QString &dir, const QStringList &filters);
     // Whether the working folder holds a photo in the BMP format.
     static bool isPhotoFile();
@@ -80,7 +84,7 @@ public:
     static bool isMovieFile();
     // The movies of the working folder that have their preview picture.
     static QStringList getMovieFileList();
-    // The movies of dir that have their preview picture, each followed by the picture's name.
+    // The movies of dir that have their preview picture, each followed by the picture's name. Any thread.
     static QStringList getLoadMovieFile(const QString &dir);
 
     // Removes every capture of the working folder; failures are ignored.

@@ -1,15 +1,32 @@
 #include "util/wholefile.h"
 
+#include <QDateTime>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
+#include <atomic>
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-static bool renameWithoutReplacing(const QByteArray &from, const QByteArray &to)
+namespace
+{
+
+const QString hiddenPrefix = QStringLiteral(".orvane-");
+const QString hiddenSuffix = QStringLiteral(".part");
+
+// Short, so that it goes wherever the target's own name does.
+QByteArray newHiddenName(const QString &folder)
+{
+    static std::atomic<int> count = 0;
+    const QString number = QString::number(getpid()) + "-" + QString::number(++count);
+    return QFile::encodeName(folder + "/" + hiddenPrefix + number + hiddenSuffix);
+}
+
+bool renameWithoutReplacing(const QByteArray &from, const QByteArray &to)
 {
     if (renameat2(AT_FDCWD, from, AT_FDCWD, to, RENAME_NOREPLACE) == 0)
         return true;
@@ -20,16 +37,29 @@ static bool renameWithoutReplacing(const QByteArray &from, const QByteArray &to)
     return lstat(to, &taken) != 0 && errno == ENOENT && rename(from, to) == 0;
 }
 
+} // namespace
+
+void WholeFile::removeLeftOvers(const QString &folder)
+{
+    // Another program of this user's may be writing right now, from another machine.
+    const QDateTime abandoned = QDateTime::currentDateTime().addSecs(-3600);
+    const QDir parts(folder, hiddenPrefix + "*" + hiddenSuffix, QDir::Unsorted, QDir::Files | QDir::Hidden);
+    for (const QFileInfo &part : parts.entryInfoList()) {
+        if (part.lastModified() < abandoned)
+            QFile::remove(part.filePath());
+    }
+}
+
 WholeFile::WholeFile(const QString &target, mode_t mode) : m_target(QFile::encodeName(target))
 {
     const QFileInfo info(target);
-    const QByteArray folder = QFile::encodeName(info.absolutePath());
-    m_descriptor = open(folder, O_TMPFILE | O_WRONLY | O_CLOEXEC, mode);
+    const QString folder = info.absolutePath();
+    m_descriptor = open(QFile::encodeName(folder), O_TMPFILE | O_WRONLY | O_CLOEXEC, mode);
     if (m_descriptor >= 0)
         return;
     // Not every file system has files without a name (FAT and NFS have not): a hidden one serves there. One
-    // that a crash left behind makes way.
-    m_hiddenName = hiddenName();
+    // that a process of the same number left behind makes way.
+    m_hiddenName = newHiddenName(folder);
     unlink(m_hiddenName);
     m_descriptor = open(m_hiddenName, O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, mode);
     if (m_descriptor < 0)
@@ -42,12 +72,6 @@ WholeFile::~WholeFile()
         close(m_descriptor);
     if (!m_hiddenName.isEmpty())
         unlink(m_hiddenName);
-}
-
-QByteArray WholeFile::hiddenName() const
-{
-    const int nameStart = m_target.lastIndexOf('/') + 1;
-    return m_target.left(nameStart) + "." + m_target.mid(nameStart) + ".part";
 }
 
 bool WholeFile::linkNamelessAs(const QByteArray &name) const
@@ -70,7 +94,7 @@ bool WholeFile::publishReplacing()
 {
     if (m_hiddenName.isEmpty()) {
         // Only renaming replaces, and only what has a name can be renamed.
-        const QByteArray hidden = hiddenName();
+        const QByteArray hidden = newHiddenName(QFileInfo(QFile::decodeName(m_target)).absolutePath());
         unlink(hidden);
         if (!linkNamelessAs(hidden))
             return false;

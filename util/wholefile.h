@@ -17,6 +17,10 @@ public:
     WholeFile(const WholeFile &) = delete;
     WholeFile &operator=(const WholeFile &) = delete;
 
+    // Removes from a folder the hidden files of killed writers: of this class, and not written to for an
+    // hour.
+    static void removeLeftOvers(const QString &folder);
+
     // Open for writing, owned by this object; -1 when it could not be opened.
     int descriptor() const { return m_descriptor; }
 
@@ -28,10 +32,9 @@ public:
     bool publishReplacing();
 
 private:
-    QByteArray hiddenName() const;
     bool linkNamelessAs(const QByteArray &name) const;
 
     QByteArray m_target;
-    QByteArray m_hiddenName; // empty for a file without a name
+    QByteArray m_hiddenName; // the whole path; empty for a file without a name
     int m_descriptor = -1;
 };

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QSet>
 
 #include <algorithm>
 #include <sys/stat.h>
@@ -62,7 +63,8 @@ QStringList pairedMovies(const QString &folder)
 {
     const QStringList names = capturesOldestFirst(folder, {"movie*"});
     const QStringList movies = names.filter(".mov");
-    const QStringList pictures = names.filter(".png");
+    const QStringList picturesList = names.filter(".png");
+    const QSet<QString> pictures(picturesList.begin(), picturesList.end());
     QStringList paired;
     for (const QString &movie : movies) {
         if (pictures.contains(WebcamUtil::previewName(movie)))
@@ -76,6 +78,11 @@ QStringList pairedMovies(const QString &folder)
 QString WebcamUtil::previewName(QString movie)
 {
     return movie.replace(".mov", "tmp.png");
+}
+
+QString WebcamUtil::movieName(QString preview)
+{
+    return preview.replace("tmp.png", ".mov");
 }
 
 void WebcamUtil::setTempMovieFilnameList() {}

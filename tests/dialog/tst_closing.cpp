@@ -6,12 +6,13 @@
 #include <functional>
 
 // What happens while the disk takes a file or the names in a folder: these are found before the C library's.
-static std::function<void()> duringSync;
+static std::function<bool()> duringSync;
 extern "C" int fsync(int)
 {
-    if (duringSync)
-        duringSync();
-    return 0;
+    if (!duringSync || duringSync())
+        return 0;
+    errno = EIO;
+    return -1;
 }
 extern "C" int fdatasync(int file)
 {
@@ -29,7 +30,7 @@ private slots:
     void closingUnderAMessageIsSafe();
 };
 
-// A stick is pulled out when the first file stands on it and the second is about to.
+// A stick is pulled out when the first file stands on it and its name is about to be made safe.
 void TestClosing::vanishingSaveFolderLosesNothing()
 {
     const SmallDisk disk(10);
@@ -40,10 +41,7 @@ void TestClosing::vanishingSaveFolderLosesNothing()
     for (const QString &name : names)
         MainWindow::writeFile(WebcamUtil::getTemporaryPath() + "/" + name, name.toUtf8());
     int syncs = 0;
-    duringSync = [&] {
-        if (++syncs == 2)
-            QCOMPARE(QProcess::execute("umount", {"-l", disk.path("")}), 0);
-    };
+    duringSync = [&] { return ++syncs < 2 || QProcess::execute("umount", {"-l", disk.path("")}) != 0; };
     Answers answers({"Yes", "OK"});
     main.press("Close");
     QCOMPARE(syncs, 2);
@@ -65,6 +63,7 @@ void TestClosing::pressDuringTheSaveIsDropped()
     duringSync = [&] {
         clicked = QProcess::execute(
             "xdotool", {"mousemove", QString::number(photo.x()), QString::number(photo.y()), "click", "1"});
+        return true;
     };
     Answers answers({"Yes"});
     main.press("Close");
