@@ -90,7 +90,8 @@ double timeOfLoading(const QString &from, const QString &to)
 {
     emptyFolder(to);
     settle();
-    FolderCopy copy(QDir(from).entryList(QDir::Files), from, to);
+    const bool isOfMovies = !QDir(from).entryList({"movie*"}).isEmpty();
+    FolderCopy copy(isOfMovies ? FolderCopy::Kind::Movies : FolderCopy::Kind::Photos, from, to);
     const double seconds = secondsOf([&copy] {
         copy.start();
         copy.wait();

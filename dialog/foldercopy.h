@@ -4,28 +4,39 @@
 #include <QStringList>
 #include <QThread>
 
-// Copies files of one folder into another in the background, those that are not there yet; nothing is ever
-// replaced, and no file appears before it is complete.
+// Copies the captures of one kind from one folder into another in the background, those that are not there
+// yet; nothing is ever replaced, and no file appears before it is complete. A movie comes with its preview or
+// not at all. May be asked to stop (requestInterruption()), in the middle of a file too, which then does not
+// appear.
 class FolderCopy : public QThread
 {
     Q_OBJECT
 
 public:
-    FolderCopy(const QStringList &names, const QString &source, const QString &target,
-               QObject *parent = nullptr);
-    // Gives up in the middle of a file, which then does not appear.
+    enum class Kind { Photos, Movies };
+
+    // source is looked at only in the background.
+    FolderCopy(Kind kind, const QString &source, const QString &target, QObject *parent = nullptr);
+    // Asks to stop, and waits for it.
     ~FolderCopy() override;
 
-    // Once finished: whether every file stands in the target folder. A file that has vanished from the
-    // source is no failure.
+    // Once finished: whether the source could be read to its end and every capture stands in the target
+    // folder. One that vanished meanwhile from a folder that is still there is no failure.
     bool isComplete() const { return m_isComplete; }
 
 protected:
     void run() override;
 
 private:
-    QStringList m_names;
-    QString m_source;
-    QString m_target;
+    bool isReadable() const;
+    QVector<QStringList> units() const;
+    bool copyAll() const;
+    bool copyUnit(const QStringList &names) const;
+    bool copyFile(const QString &name, QStringList *placed) const;
+    bool hasRoomFor(const QString &source) const;
+
+    const Kind m_kind;
+    const QString m_source;
+    const QString m_target;
     bool m_isComplete = false;
 };

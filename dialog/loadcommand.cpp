@@ -28,22 +28,18 @@ void CPictorelDlg::dirLoad()
 {
     if (m_folderCopy)
         return;
-    const QStringList names = m_isMovieShown ? WebcamUtil::getLoadMovieFile(m_loadFolder)
-                                             : WebcamUtil::getFileListFromDir(m_loadFolder, {"photo*"});
-    m_folderCopy = new FolderCopy(names, m_loadFolder, WebcamUtil::getTemporaryPath(), this);
+    const auto kind = m_isMovieShown ? FolderCopy::Kind::Movies : FolderCopy::Kind::Photos;
+    m_folderCopy = new FolderCopy(kind, m_loadFolder, WebcamUtil::existingTemporaryPath(), this);
     connect(m_folderCopy, &QThread::finished, this, &CPictorelDlg::finishLoad);
+    connect(m_waitDialog, &CWaiteMsgDlg::stopRequested, m_folderCopy, &QThread::requestInterruption);
     m_folderCopy->start();
 }
 
 void CPictorelDlg::finishLoad()
 {
-    const QFileInfo folder(m_loadFolder);
-    const bool isComplete = m_folderCopy->isComplete() && folder.isDir() && folder.isReadable();
+    const bool isComplete = m_folderCopy->isComplete();
     delete m_folderCopy;
     m_folderCopy = nullptr;
-    // The list of movies goes on offering the photos.
-    if (m_isMovieShown)
-        m_mode = DisplayMode::Movie;
     OnList();
     emit loadcomp(isComplete);
 }

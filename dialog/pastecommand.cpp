@@ -32,8 +32,9 @@ void appendName(QStringList &lines, const QString &name)
 // The software that looks for requests never finds a half one. One of the same second is replaced.
 void writeRequest(const QStringList &lines)
 {
-    const QString folder = WebcamUtil::getTemporaryPath() + "/tmp";
-    if (!QDir().mkpath(folder))
+    const QString working = WebcamUtil::existingTemporaryPath();
+    const QString folder = working + "/tmp";
+    if (working.isEmpty() || !QDir().mkpath(folder))
         return;
     WholeFile request(folder + "/PUTVXS" + CurrentSecondsQString(), requestMode);
     QFile file;
@@ -61,9 +62,7 @@ void CPictorelDlg::OnVXS()
 void CPictorelDlg::PutVXSPhoto()
 {
     const QString size = QString("%1x%2").arg(m_viewRect.width()).arg(m_viewRect.height());
-    const QString folder =
-        m_listView->folder().isEmpty() ? WebcamUtil::getTemporaryPath() : m_listView->folder();
-    QStringList lines = {photoRequest, size, folder};
+    QStringList lines = {photoRequest, size, listedFolder()};
     if (m_mode == DisplayMode::Photo) {
         appendName(lines, m_currentPhoto);
     } else if (m_mode == DisplayMode::List || m_mode == DisplayMode::Series) {

@@ -161,7 +161,10 @@ private:
     void SetPictureListMode(const QStringList &names);
     void addTile(const QString &name, const QRect &place, int number, bool zoomable);
     void showMovie();
+    // Where listed files are: the list's folder, which is empty for the working folder.
+    QString listedFolder() const;
     void finishLoad();
+    void saveCaptures();
 
     // Views and dialogs; children of this window, as the buttons are.
     LiveVideoWidget *m_liveView = nullptr; // null once the window was closed

@@ -18,18 +18,17 @@ namespace
 constexpr int mostMoviesListed = 25;
 constexpr int mostPhotosListed = 50;
 
-// Where files are looked for: the list's folder, which is empty for the working folder.
-QString listedFolder(const PictureListView &list)
-{
-    return list.folder().isEmpty() ? WebcamUtil::getTemporaryPath() : list.folder();
-}
-
 } // namespace
+
+QString CPictorelDlg::listedFolder() const
+{
+    return m_listView->folder().isEmpty() ? WebcamUtil::getTemporaryPath() : m_listView->folder();
+}
 
 void CPictorelDlg::OnList()
 {
     stop_window();
-    const QString folder = listedFolder(*m_listView);
+    const QString folder = listedFolder();
     m_listView->Reset();
     QStringList names =
         WebcamUtil::getFileListFromDir(folder, {QString(m_isMovieShown ? "movie*.png" : "photo*.png")});
@@ -42,6 +41,9 @@ void CPictorelDlg::OnList()
         m_movieView->Stop();
         m_movieView->hide();
     }
+    // The list of movies offers the photos, also after the loss of a camera has led away from them.
+    if (m_isMovieShown)
+        m_mode = DisplayMode::Movie;
     TransitionMode(DisplayMode::List);
 
     const int most = m_isMovieShown ? mostMoviesListed : mostPhotosListed;
@@ -59,6 +61,9 @@ void CPictorelDlg::OnList()
 
 void CPictorelDlg::PictureSelected()
 {
+    // A warning of the list may be answered when the camera's loss has already led to another screen.
+    if (m_mode != DisplayMode::List)
+        return;
     m_show->setEnabled(!m_listView->selectionList().isEmpty());
 
     const int previewHeight = m_viewRect.height() - m_listView->height();
@@ -91,9 +96,7 @@ void CPictorelDlg::OnShow()
 
 void CPictorelDlg::showMovie()
 {
-    QString movie = m_listView->currentName();
-    movie.replace("tmp.png", ".mov");
-    m_shownMovie = listedFolder(*m_listView) + "/" + movie;
+    m_shownMovie = listedFolder() + "/" + WebcamUtil::movieName(m_listView->currentName());
     TransitionMode(DisplayMode::Movie);
     m_movieView->Create(m_shownMovie);
     m_timerView->SetMode(TimerMode::Playback);

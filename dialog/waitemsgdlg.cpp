@@ -101,4 +101,6 @@ void CWaiteMsgDlg::reject()
 {
     if (!m_ok->isHidden())
         QDialog::reject();
+    else
+        emit stopRequested();
 }

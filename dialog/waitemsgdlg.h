@@ -9,7 +9,7 @@ class QTimer;
 
 // Tells the user to wait while something long is done, and then how it ended. Showing it starts the work:
 // OnShow() comes once, a moment after each showing, when the dialog is surely on screen. Until comp() it
-// offers no way out.
+// stays, and the Escape key only asks the work to stop.
 class CWaiteMsgDlg : public QDialog
 {
     Q_OBJECT
@@ -27,6 +27,7 @@ public:
 
 signals:
     void OnShow();
+    void stopRequested();
 
 public slots:
     // The work has ended, well or not; the user may close the dialog now.

@@ -24,12 +24,12 @@ class MainWindow
 {
 public:
     // settings: lines of the settings file.
-    explicit MainWindow(const QString &settings = QString())
+    explicit MainWindow(const QString &settings = QString(), const QString &formats = "YUY2 640x480 30")
     {
         QDir(WebcamUtil::getTemporaryPath()).removeRecursively();
         WebcamUtil::setTemporaryPath();
         writeFile(QDir::homePath() + "/.hollin_orvane.ini", "[General]\n" + settings.toUtf8());
-        devices.camera("cam").name("Board Cam").formats("YUY2 640x480 30").content("page");
+        devices.camera("cam").name("Board Cam").formats(formats).content("page");
         devices.microphone("mic").sound("silence");
         devices.write();
         LiveVideoData probe;
