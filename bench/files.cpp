@@ -6,6 +6,7 @@
 #include "dialog/foldercopy.h"
 #include "util/webcamutil.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -162,8 +163,9 @@ void compareLoading(const Captures &captures, const QString &from, const QString
 
 } // namespace
 
-int main()
+int main(int argc, char **argv)
 {
+    const QCoreApplication application(argc, argv);
     const QTemporaryDir disk(QDir::homePath() + "/disk");
     const QTemporaryDir memory("/dev/shm/orvane-bench");
     if (!disk.isValid() || !memory.isValid())
