@@ -1,5 +1,7 @@
 #include "platform/framerenderer.h"
 
+#include "platform/largepixels.h"
+
 #include <libyuv.h>
 
 #include <algorithm>
@@ -28,7 +30,7 @@ cv::Mat FrameRenderer::render(const CapturedFrame &frame, const Zoom &zoom, cons
     cv::Mat pixels = freeBuffer(size);
     if (part.size() == size)
         return m_colours.convert(frame.info, frame.picture.get(), part, &pixels) ? pixels : cv::Mat();
-    m_unscaled.create(part.height(), part.width(), CV_8UC4);
+    createLarge(&m_unscaled, part.height(), part.width(), CV_8UC4);
     if (!m_colours.convert(frame.info, frame.picture.get(), part, &m_unscaled))
         return {};
     // Reduced to less than half, pixels are averaged; else this is bilinear.
@@ -48,7 +50,8 @@ cv::Mat FrameRenderer::freeBuffer(const QSize &size)
                                      [](const cv::Mat &buffer) { return !isHeldElsewhere(buffer); });
     if (unused != m_buffers.end())
         return *unused;
-    cv::Mat fresh(size.height(), size.width(), CV_8UC4);
+    cv::Mat fresh;
+    createLarge(&fresh, size.height(), size.width(), CV_8UC4);
     if (m_buffers.size() < mostBuffers)
         m_buffers.push_back(fresh);
     return fresh;

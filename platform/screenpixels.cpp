@@ -1,5 +1,7 @@
 #include "platform/screenpixels.h"
 
+#include "platform/largepixels.h"
+
 #include <libyuv.h>
 
 namespace
@@ -85,7 +87,7 @@ ScreenPixels::Planes ScreenPixels::unpack(GstVideoFrame *frame, const QRect &par
                          ptrdiff_t(part.x()) * 2;
     Planes planes;
     for (int i = 0; i < 3; ++i) {
-        m_planes[i].create(part.height(), i == 0 ? part.width() : (part.width() + 1) / 2, CV_8UC1);
+        createLarge(&m_planes[i], part.height(), i == 0 ? part.width() : (part.width() + 1) / 2, CV_8UC1);
         planes.data[i] = m_planes[i].data;
         planes.stride[i] = int(m_planes[i].step);
     }
