@@ -16,7 +16,7 @@ constexpr gsize corruptedBytes = 200;
 std::string encoderFor(const GstStructure *format)
 {
     if (gst_structure_has_name(format, "image/jpeg"))
-        return "videoconvert ! jpegenc";
+        return "videoconvert ! video/x-raw,format=Y42B ! jpegenc"; // as USB cameras send it
     if (gst_structure_has_name(format, "video/x-h264"))
         return "videoconvert ! video/x-raw,format=I420 ! x264enc tune=zerolatency speed-preset=ultrafast "
                "key-int-max=1 ! h264parse config-interval=-1";

@@ -2,6 +2,7 @@
 #include "tests/plugins/counterpicture.h"
 
 #include <algorithm>
+#include <cmath>
 #include <random>
 
 namespace
@@ -53,6 +54,19 @@ void drawQuarters(Picture *picture)
     picture->fill(x / 2 - unit, y / 2, 2 * unit, unit, white);
 }
 
+// A lens never draws a hard edge: each pixel is mixed with the ones beside it, two bits of a colour being
+// lost.
+void soften(Picture *picture)
+{
+    const auto quarter = [](uint32_t rgb) { return rgb >> 2 & 0x3f3f3f; };
+    for (int pass = 0; pass < 2; ++pass) {
+        const std::vector<uint32_t> sharp = picture->pixels;
+        const size_t step = pass == 0 ? 1 : size_t(picture->width);
+        for (size_t i = step; i + step < sharp.size(); ++i)
+            picture->pixels[i] = quarter(sharp[i - step]) + 2 * quarter(sharp[i]) + quarter(sharp[i + step]);
+    }
+}
+
 // A sheet of print on a desk, with the noise of a small sensor in a lit room.
 void drawPage(Picture *picture, int variant)
 {
@@ -73,10 +87,11 @@ void drawPage(Picture *picture, int variant)
             }
         }
     }
+    soften(picture);
     std::minstd_rand random(1 + variant);
     std::normal_distribution<double> noise(0, noiseDeviation);
     for (uint32_t &pixel : picture->pixels) {
-        const int grain = std::clamp(int(noise(random)), -noiseLimit, noiseLimit);
+        const int grain = std::clamp(int(std::lround(noise(random))), -noiseLimit, noiseLimit);
         // Ink and paper are clear of overflow by the noise.
         pixel += uint32_t(grain * 0x010101);
     }
