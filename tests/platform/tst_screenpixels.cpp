@@ -56,7 +56,8 @@ void TestScreenPixels::showsWhatGStreamerShows()
             QVERIFY(gst_video_colorimetry_from_string(&info.colorimetry, format == "RGB" ? "sRGB" : colours));
             const BufferHandle picture = patches(info);
             for (const QRect &part : {QRect(0, 0, 322, 242), QRect(64, 34, 200, 150)})
-                QVERIFY2(mostDifference(info, picture.get(), part) <= invisible, QByteArray(format + colours));
+                QVERIFY2(mostDifference(info, picture.get(), part) <= invisible,
+                         QByteArray(format + colours));
         }
     }
 }
