@@ -3,6 +3,7 @@
 #include "util/filemove.h"
 #include "util/freespace.h"
 #include "util/webcamutil.h"
+#include "util/wholefile.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -22,6 +23,7 @@ FolderCopy::~FolderCopy()
 
 void FolderCopy::run()
 {
+    WholeFile::removeLeftOvers(m_target);
     // Looked at again at the end: a stick may have been pulled out.
     m_isComplete = !m_target.isEmpty() && isReadable() && copyAll() && isReadable();
 }
@@ -47,24 +49,42 @@ QVector<QStringList> FolderCopy::units() const
     return units;
 }
 
-// One that fails does not keep the others from being copied.
+// One that fails does not keep the others from being copied; a full disk does.
 bool FolderCopy::copyAll() const
 {
     bool isComplete = true;
     for (const QStringList &unit : units()) {
-        if (isInterruptionRequested())
+        const QStringList names = missing(unit);
+        if (isInterruptionRequested() || !hasRoomFor(names))
             return false;
-        isComplete = copyUnit(unit) && isComplete;
+        isComplete = copyTogether(names) && isComplete;
     }
     return isComplete;
 }
 
-bool FolderCopy::copyUnit(const QStringList &names) const
+// What is to be copied of a unit: nothing when a part of it has vanished since the folder was listed.
+QStringList FolderCopy::missing(const QStringList &unit) const
+{
+    QStringList names;
+    for (const QString &name : unit) {
+        if (QFile::exists(m_target + "/" + name))
+            continue;
+        if (!QFile::exists(m_source + "/" + name))
+            return {};
+        names.append(name);
+    }
+    return names;
+}
+
+bool FolderCopy::copyTogether(const QStringList &names) const
 {
     QStringList placed;
     for (const QString &name : names) {
-        if (copyFile(name, &placed))
+        const QString target = m_target + "/" + name;
+        if (copyFileWhole(m_source + "/" + name, target, [this] { return isInterruptionRequested(); })) {
+            placed.append(target);
             continue;
+        }
         for (const QString &path : qAsConst(placed))
             QFile::remove(path);
         return false;
@@ -72,22 +92,13 @@ bool FolderCopy::copyUnit(const QStringList &names) const
     return true;
 }
 
-bool FolderCopy::copyFile(const QString &name, QStringList *placed) const
-{
-    const QString from = m_source + "/" + name;
-    const QString to = m_target + "/" + name;
-    if (!QFile::exists(from) || QFile::exists(to))
-        return true;
-    if (!hasRoomFor(from) || !copyFileWhole(from, to, [this] { return isInterruptionRequested(); }))
-        return false;
-    placed->append(to);
-    return true;
-}
-
 // As much as a capture needs must stay free.
-bool FolderCopy::hasRoomFor(const QString &source) const
+bool FolderCopy::hasRoomFor(const QStringList &names) const
 {
-    const QStorageInfo disk(m_target);
-    const qint64 left = disk.bytesAvailable() - QFileInfo(source).size();
+    if (names.isEmpty())
+        return true;
+    qint64 left = QStorageInfo(m_target).bytesAvailable();
+    for (const QString &name : names)
+        left -= QFileInfo(m_source + "/" + name).size();
     return left > 0 && enoughFreeSpace(1, fsblkcnt_t(left));
 }

@@ -31,9 +31,9 @@ private:
     bool isReadable() const;
     QVector<QStringList> units() const;
     bool copyAll() const;
-    bool copyUnit(const QStringList &names) const;
-    bool copyFile(const QString &name, QStringList *placed) const;
-    bool hasRoomFor(const QString &source) const;
+    QStringList missing(const QStringList &unit) const;
+    bool hasRoomFor(const QStringList &names) const;
+    bool copyTogether(const QStringList &names) const;
 
     const Kind m_kind;
     const QString m_source;

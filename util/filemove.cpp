@@ -172,9 +172,14 @@ bool FilePlacement::finish()
 
 bool FilePlacement::giveSecondName() const
 {
+    const QByteArray source = QFile::encodeName(m_source);
     struct stat status = {};
+    if (lstat(source, &status) != 0 || !S_ISREG(status.st_mode))
+        return false;
     const Descriptor file = openPlainFile(m_source, &status);
-    return file >= 0 && isOnDisk(file) && link(QFile::encodeName(m_source), QFile::encodeName(m_target)) == 0;
+    // What may not be read can be moved all the same.
+    const bool isSafe = file >= 0 ? isOnDisk(file) : errno == EACCES;
+    return isSafe && link(source, QFile::encodeName(m_target)) == 0;
 }
 
 bool syncFolder(const QString &path)

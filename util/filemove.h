@@ -29,13 +29,9 @@ public:
     FilePlacement(FilePlacement &&) = default;
     FilePlacement &operator=(FilePlacement &&) = default;
 
-    // Waits until the contents are on the disk, then gives them the target's name, once. False as above.
+    // Waits until the contents are on the disk, then gives them the target's name, once. False as above. The
+    // name, and so the right to remove the source, is safe against a loss of power only after syncFolder().
     bool finish();
-
-    // Once finished: a copy's name, and so the right to remove the source, is safe against a loss of power
-    // only after syncFolder(). A second name and the removal of the first reach the disk in this order by
-    // themselves.
-    bool isCopy() const { return m_copy != nullptr; }
 
 private:
     bool giveSecondName() const;

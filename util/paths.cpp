@@ -69,7 +69,7 @@ QString WebcamUtil::getTemporaryPath()
 
 QString WebcamUtil::existingTemporaryPath()
 {
-    if (!m_pictureDataPath.isEmpty() && !QDir(m_pictureDataPath).exists())
+    if (!isOwnFolder(QFile::encodeName(m_pictureDataPath)))
         m_pictureDataPath.clear();
     return getTemporaryPath();
 }

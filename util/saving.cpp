@@ -61,14 +61,12 @@ public:
 private:
     bool place()
     {
-        bool isCopied = false;
         for (FilePlacement &placement : m_placements) {
             if (!placement.finish())
                 return false;
             ++m_placed;
-            isCopied = isCopied || placement.isCopy();
         }
-        return !isCopied || syncFolder(m_save);
+        return syncFolder(m_save);
     }
     static bool removeAll(const QStringList &paths)
     {
@@ -98,7 +96,7 @@ bool moveAll(QStringList captures, const QString &working, const QString &save)
         isComplete = underWay.front().move();
         underWay.pop_front();
     }
-    return syncFolder(save) && isComplete;
+    return isComplete;
 }
 
 // A file system without nameless files keeps what a killed save had begun, in the folder of its day.

@@ -33,7 +33,8 @@ public:
     static void setTemporaryPath();
     // The working folder's absolute path; empty when it cannot be made, which every later call tries again.
     static QString getTemporaryPath();
-    // As getTemporaryPath(), but a folder that was removed behind the program's back is made again.
+    // As getTemporaryPath(), but a folder that was removed behind the program's back is made again, and one
+    // that somebody else put in its place is not taken.
     static QString existingTemporaryPath();
     // Removes the working folder when nothing is in it, with every parent that is then empty, and forgets its
     // path.

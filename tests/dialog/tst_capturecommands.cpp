@@ -167,6 +167,7 @@ void TestCaptureCommands::lossInEveryScreen()
         // Again there, the camera comes back by way of the list.
         main.devices.plug("cam");
         main.press("List");
+        QVERIFY2(main.button("SwitchPhoto")->isVisible() == (screen.movies > 0), screen.screen);
         QTRY_COMPARE(main.view<LiveVideoWidget>()->getVideoDeviceList().size(), 1);
         main.press("Live");
         QCOMPARE(main.buttons(), QString(liveRow));

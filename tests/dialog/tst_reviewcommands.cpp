@@ -2,6 +2,7 @@
 #include "dialog/gridlayout.h"
 #include "dialog/waitemsgdlg.h"
 #include "tests/dialog/mainwindow.h"
+#include "tests/support/smalldisk.h"
 #include "widgets/moviewidget.h"
 #include "widgets/picturelistview.h"
 
@@ -25,6 +26,7 @@ private slots:
     void moviesOfAnyKindAreWatchedAndPasted();
     void folderIsLoaded();
     void windowLivesThroughALargeLoad();
+    void loadLeavesRoomForCaptures();
 
 private:
     struct Photo {
@@ -178,7 +180,10 @@ void TestReviewCommands::photosOfAnyKindAreChosenShownAndPasted()
     const QString taken = MainWindow::captures().first();
     main.press("PutPhoto");
     QCOMPARE(takeRequest(), head + QStringList(taken));
-    QFile::remove(working(taken));
+    QVERIFY(QDir(working()).removeRecursively()); // made again, for this user alone
+    main.press("PutPhoto");
+    QCOMPARE(takeRequest(), head + QStringList(taken));
+    QCOMPARE(int(QFile(working()).permissions() & 0x77), 0);
 
     const QVector<Photo> files = photosOfAnyKind();
     QStringList names;
@@ -216,6 +221,8 @@ void TestReviewCommands::photosOfAnyKindAreChosenShownAndPasted()
         QTest::keyClick(main.window->focusWidget(), Qt::Key_Space);
         QCOMPARE(main.tiles().size(), 9);
     }
+    QVERIFY(WebcamUtil::saveData(QDir::homePath())); // also what could not be read
+    QCOMPARE(MainWindow::captures(), QStringList());
 }
 
 void TestReviewCommands::moviesOfAnyKindAreWatchedAndPasted()
@@ -308,6 +315,11 @@ void TestReviewCommands::folderIsLoaded()
     loadAndRead("Complete");
     QCOMPARE(MainWindow::captures("movie*"), QStringList({"movie1.mov", "movie1tmp.png"}));
     QCOMPARE(main.view<PictureListView>()->nameList(), QStringList("movie1tmp.png"));
+    for (const char *name : {"movie1.mov", "movie1tmp.png"})
+        QVERIFY(QFile::remove(working(name)));
+    QVERIFY(QFile::setPermissions(earlier + "/movie1tmp.png", {})); // both or none
+    loadAndRead("Failed.");
+    QCOMPARE(MainWindow::captures("movie*"), QStringList());
     main.press("SwitchPhoto");
 
     // A copy that cannot be made is told, and the others are made all the same.
@@ -366,6 +378,29 @@ void TestReviewCommands::windowLivesThroughALargeLoad()
     QVERIFY(!dialog->isVisible());
     QCOMPARE(MainWindow::captures(), names);
     QCOMPARE(main.view<PictureListView>()->nameList(), names.mid(names.size() - 50));
+}
+
+void TestReviewCommands::loadLeavesRoomForCaptures()
+{
+    const SmallDisk disk(200);
+    if (!disk.isMounted())
+        QSKIP("a small file system takes root to mount");
+    const QString earlier = QDir::homePath() + "/earlier of few";
+    QDir().mkpath(earlier);
+    MainWindow::writeFile(earlier + "/photo1.png", m_photo);
+    const QByteArray before = qgetenv("TMPDIR");
+    qputenv("TMPDIR", disk.path("").toUtf8());
+    WebcamUtil::setTemporaryPath();
+    Answers answers({"OK", "OK"}); // the first to the warning of so small a disk
+    {
+        MainWindow main;
+        main.press("List");
+        load(main, earlier);
+        QTRY_COMPARE(answers.told().value(1), QString("Failed."));
+        QCOMPARE(MainWindow::captures(), QStringList());
+    }
+    qputenv("TMPDIR", before);
+    WebcamUtil::setTemporaryPath();
 }
 
 QTEST_MAIN(TestReviewCommands)
