@@ -23,11 +23,13 @@ struct OrvaneDemoProviderClass {
 constexpr const char *cameraClass = "Video/Source";
 constexpr const char *microphoneClass = "Audio/Source";
 
-// A clock's ticking, as quiet as one across the room.
-constexpr const char *microphone =
-    "audiotestsrc is-live=true wave=ticks freq=2500 volume=0.08 tick-interval=1000000000 "
-    "sine-periods-per-tick=12 apply-tick-ramp=true ! "
-    "audio/x-raw,format=S16LE,rate=48000,channels=2";
+// A clock's ticking, as quiet as one across the room: a tone of which only the beginning of each second is
+// left. (The source's own ticks leave what lies between them as the memory happened to be, in
+// GStreamer 1.22.)
+constexpr int soundRate = 48000;
+constexpr int tickSamples = soundRate / 200;
+constexpr const char *microphone = "audiotestsrc name=tone is-live=true wave=sine freq=2500 volume=0.08 ! "
+                                   "audio/x-raw,format=S16LE,rate=48000,channels=2";
 
 } // namespace
 
@@ -37,12 +39,36 @@ G_DEFINE_TYPE(OrvaneDemoProvider, orvane_demo_provider, GST_TYPE_DEVICE_PROVIDER
 namespace
 {
 
+GstPadProbeReturn leaveTicks(GstPad *, GstPadProbeInfo *info, gpointer)
+{
+    GstBuffer *buffer = gst_buffer_make_writable(gst_pad_probe_info_get_buffer(info));
+    GST_PAD_PROBE_INFO_DATA(info) = buffer;
+    const guint64 first = gst_util_uint64_scale_round(GST_BUFFER_PTS(buffer), soundRate, GST_SECOND);
+    GstMapInfo mapped;
+    if (!gst_buffer_map(buffer, &mapped, GST_MAP_READWRITE))
+        return GST_PAD_PROBE_DROP;
+    auto *frames = reinterpret_cast<guint32 *>(mapped.data); // both channels of one sample
+    for (gsize i = 0; i < mapped.size / sizeof(*frames); ++i) {
+        if ((first + i) % soundRate >= tickSamples)
+            frames[i] = 0;
+    }
+    gst_buffer_unmap(buffer, &mapped);
+    return GST_PAD_PROBE_OK;
+}
+
 GstElement *createElement(GstDevice *device, const gchar *name)
 {
     if (gst_device_has_classes(device, cameraClass))
         return gst_element_factory_make("orvanedemocamera", name);
     GstElement *bin = gst_parse_bin_from_description(microphone, TRUE, nullptr);
-    if (bin && name)
+    if (!bin)
+        return nullptr;
+    GstElement *tone = gst_bin_get_by_name(GST_BIN(bin), "tone");
+    GstPad *pad = gst_element_get_static_pad(tone, "src");
+    gst_pad_add_probe(pad, GST_PAD_PROBE_TYPE_BUFFER, leaveTicks, nullptr, nullptr);
+    gst_object_unref(pad);
+    gst_object_unref(tone);
+    if (name)
         gst_object_set_name(GST_OBJECT(bin), name);
     return bin;
 }

@@ -48,7 +48,7 @@ private slots:
              "1 5 4 1 640x480 default"},
             {"AutoShoot=yes\nAutoShootTime=x\nContinuShootCount=\nPhotoPreview=y\n",
              "0 5 4 0 640x480 default"},
-            {QByteArray("\x00\xff]]==\nAutoShootTime=10\n[Gen", 30), "1 10 4 1 640x480 default"},
+            {QByteArray("\x00\xff]]==\nAutoShootTime=10\n[Gen", 28), "1 10 4 1 640x480 default"},
         };
         for (const auto &row : table) {
             QFile file(m_path);
