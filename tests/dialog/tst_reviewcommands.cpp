@@ -234,7 +234,7 @@ void TestReviewCommands::moviesOfAnyKindAreWatchedAndPasted()
     main.press("Movie");
     auto *time = main.view<TimerWidget>();
     QCOMPARE(time->text(), QString("00:00"));
-    QTRY_COMPARE_WITH_TIMEOUT(time->text(), QString("00:02"), 3500);
+    QTRY_COMPARE_WITH_TIMEOUT(time->text(), QString("00:03"), 4500);
     emit time->movieTimeOver(); // the limit ends it as the button does
     emit time->movieTimeOver(); // and coming again does no harm
     auto *player = main.view<MovieWidget>();

@@ -83,8 +83,10 @@ private:
     }
     GstBuffer *encode()
     {
-        GstBuffer *drawn =
-            gst_buffer_new_memdup(m_picture.pixels.data(), m_picture.pixels.size() * sizeof(uint32_t));
+        // Nothing reads the picture any more once its frame has come out.
+        const gsize size = m_picture.pixels.size() * sizeof(uint32_t);
+        GstBuffer *drawn = gst_buffer_new_wrapped_full(GST_MEMORY_FLAG_READONLY, m_picture.pixels.data(),
+                                                       size, 0, size, nullptr, nullptr);
         GST_BUFFER_PTS(drawn) = GstClockTime(m_encodedCount++) * GST_SECOND;
         gst_app_src_push_buffer(GST_APP_SRC(m_in), drawn);
         GstSample *sample = gst_app_sink_try_pull_sample(GST_APP_SINK(m_out), encodeLimit);
