@@ -254,6 +254,11 @@ void LiveVideoWidget::RecordStop()
     m_capture.RecordStop();
 }
 
+bool LiveVideoWidget::isFinishingMovie()
+{
+    return m_capture.isFinishingMovie();
+}
+
 void LiveVideoWidget::Zoomin()
 {
     if (m_capture.created)

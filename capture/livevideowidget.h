@@ -59,6 +59,8 @@ public:
     // or the microphone is not usable.
     bool Record();
     void RecordStop();
+    // Whether the file of a movie that was stopped is not yet whole.
+    bool isFinishingMovie();
     // Full path of the latest movie; empty before the first.
     QString moviePath() const { return m_moviePath; }
 

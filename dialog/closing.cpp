@@ -9,6 +9,8 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QCursor>
+#include <QEventLoop>
+#include <QTimer>
 
 void CPictorelDlg::OnClose()
 {
@@ -31,10 +33,28 @@ void CPictorelDlg::OnClose()
 void CPictorelDlg::saveCaptures()
 {
     QGuiApplication::setOverrideCursor(QCursor(Qt::WaitCursor));
+    waitForMovie();
     const bool isSaved = WebcamUtil::saveData(m_saveDirectory);
     QGuiApplication::restoreOverrideCursor();
     if (!isSaved)
         WebcamUtil::WarningMessage(tr("Save failed."), this);
+}
+
+// On a slow disk a movie is still being finished, and a copy of it now would lack its end.
+void CPictorelDlg::waitForMovie()
+{
+    constexpr int period = 50; // milliseconds
+    const auto isFinishing = [this] { return m_liveView && m_liveView->isFinishingMovie(); };
+    if (!isFinishing())
+        return;
+    QEventLoop loop;
+    QTimer look;
+    connect(&look, &QTimer::timeout, &loop, [&] {
+        if (!isFinishing())
+            loop.quit();
+    });
+    look.start(period);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
 void CPictorelDlg::closeEvent(QCloseEvent *event)

@@ -24,7 +24,7 @@ constexpr auto watchPeriod = 250ms;
 
 constexpr auto firstFrameWait = 1000ms;
 constexpr auto movieStopWait = 450ms;
-constexpr auto movieCloseWait = 10s;
+constexpr auto movieCloseWait = 30s;
 // A camera closes in a tenth of this; one that does not is left to the end of the process.
 constexpr unsigned long cameraCloseWait = 1000; // milliseconds
 
@@ -283,12 +283,23 @@ void LiveVideoData::finishMovie()
         return;
     if (m_grabThread)
         m_grabThread->setSink(nullptr);
-    m_unfinished.erase(std::remove_if(m_unfinished.begin(), m_unfinished.end(),
-                                      [](const auto &movie) { return movie->finish(0ms); }),
-                       m_unfinished.end());
+    forgetFinishedMovies();
     if (!m_movie->finish(movieStopWait))
         m_unfinished.push_back(m_movie);
     m_movie.reset();
+}
+
+void LiveVideoData::forgetFinishedMovies()
+{
+    m_unfinished.erase(std::remove_if(m_unfinished.begin(), m_unfinished.end(),
+                                      [](const auto &movie) { return movie->finish(0ms); }),
+                       m_unfinished.end());
+}
+
+bool LiveVideoData::isFinishingMovie()
+{
+    forgetFinishedMovies();
+    return !m_unfinished.empty();
 }
 
 bool LiveVideoData::SaveBitmap(QString path) // NOLINT(performance-unnecessary-value-param)

@@ -30,7 +30,7 @@ public:
 
     // Opens no device.
     LiveVideoData();
-    // Finishes a running movie, for which it waits up to ten seconds, and closes the camera.
+    // Finishes a running movie, for which it waits up to thirty seconds, and closes the camera.
     ~LiveVideoData() override;
 
     bool created = false;        // Create() has succeeded, and Release() has not been called since
@@ -84,6 +84,8 @@ public:
     // Ends the movie. The file is finished within half a second, or in the background where the disk is
     // slower. Without a movie nothing happens.
     void RecordStop();
+    // Whether a file is still being finished in the background; that ends within thirty seconds.
+    bool isFinishingMovie();
 
     // Saves the newest picture at the camera's full size as a PNG file, waiting up to a second for a whole
     // one. False when none came or the file cannot be written; no file is left then.
@@ -115,6 +117,7 @@ private:
     void watch();
     void lose();
     void finishMovie();
+    void forgetFinishedMovies();
     void applyResolution();
 
     VideoTarget m_target;

@@ -13,6 +13,9 @@ constexpr int stopBeforeSeconds = 20;
 
 // The index is written anew this often, so that a movie whose program dies plays up to here.
 constexpr GstClockTime indexPeriod = 500 * GST_MSECOND;
+// Each time the muxer waits for the disk, twice. On one that takes a second for that it would fall behind
+// ever further, so it catches up first; on one too slow even for the movie the index comes this often.
+constexpr GstClockTime seldomIndexPeriod = 20 * GST_SECOND;
 
 // The index takes 4 bytes for a sample's size and 8 for its duration where frames come unevenly; twice that
 // leaves room for key frames and chunks. An index that outgrows its place ends the movie.
@@ -144,14 +147,15 @@ MoviePipeline buildMoviePipeline(const MovieSettings &settings)
 {
     Assembly assembly;
     MoviePipeline movie;
-    GstElement *muxer = addMuxer(assembly, settings);
-    assembly.chain({muxer, addFile(assembly, settings.path)});
+    movie.muxer = addMuxer(assembly, settings);
+    assembly.chain({movie.muxer, addFile(assembly, settings.path)});
 
     movie.pictures = addPictures(assembly, settings);
+    movie.pictureQueue = addMuxQueue(assembly);
     // Many cameras' JPEG holds more colour than most players' H.264 decoders read.
     assembly.chain({movie.pictures, assembly.add("videoconvert"),
                     assembly.addFilter("video/x-raw,format=I420"), addVideoEncoder(assembly, settings),
-                    assembly.add("h264parse"), addMuxQueue(assembly), muxer});
+                    assembly.add("h264parse"), movie.pictureQueue, movie.muxer});
 
     // The sound track is a live silence on which the microphone lies: a microphone that opens late, stalls
     // or is pulled out leaves a gap in the sound and holds nothing up.
@@ -160,7 +164,7 @@ MoviePipeline buildMoviePipeline(const MovieSettings &settings)
     movie.soundEncoder = assembly.add(RequiredElements::aacEncoder().constData());
     assembly.chain({movie.silence, assembly.addFilter("audio/x-raw,format=F32LE,rate=48000,channels=2"),
                     movie.mixer, assembly.add("audioconvert"), movie.soundEncoder, assembly.add("aacparse"),
-                    addMuxQueue(assembly), muxer});
+                    addMuxQueue(assembly), movie.muxer});
     if (!assembly.isComplete())
         return {};
     g_object_set(movie.silence, "is-live", TRUE, nullptr);
@@ -169,6 +173,19 @@ MoviePipeline buildMoviePipeline(const MovieSettings &settings)
     g_object_set(movie.soundEncoder, "bitrate", soundBitRate, nullptr);
     movie.pipeline = assembly.take();
     return movie;
+}
+
+void paceIndex(const MoviePipeline &movie)
+{
+    guint64 waiting = 0;
+    g_object_get(movie.pictureQueue, "current-level-time", &waiting, nullptr);
+    g_object_set(movie.muxer, "reserved-moov-update-period",
+                 guint64(waiting < indexPeriod ? indexPeriod : seldomIndexPeriod), nullptr);
+}
+
+void leaveIndexToEnd(const MoviePipeline &movie)
+{
+    g_object_set(movie.muxer, "reserved-moov-update-period", guint64(GST_CLOCK_TIME_NONE), nullptr);
 }
 
 GstClockTime soundDelay()

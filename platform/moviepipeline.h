@@ -5,6 +5,8 @@
 // The elements of one movie file, put together and stopped. The pipeline owns the others.
 struct MoviePipeline {
     ElementHandle pipeline;
+    GstElement *muxer = nullptr;        // writes the index
+    GstElement *pictureQueue = nullptr; // encoded pictures that wait for the muxer, and it for the disk
     GstElement *pictures = nullptr;     // appsrc that takes the frames
     GstElement *silence = nullptr;      // live source under the microphone's sound
     GstElement *mixer = nullptr;        // where the microphone joins
@@ -15,6 +17,12 @@ struct MoviePipeline {
 
 // An incomplete one when an element is missing.
 MoviePipeline buildMoviePipeline(const MovieSettings &settings);
+
+// Makes the muxer write the index often, or seldom while it is behind with writing the movie itself. To be
+// called again and again while the movie runs, from any one thread.
+void paceIndex(const MoviePipeline &movie);
+// Leaves the index to the end of the movie, which is then reached as fast as the disk allows.
+void leaveIndexToEnd(const MoviePipeline &movie);
 
 // By how much the sound of such a movie is later than its time stamps say, nanoseconds: the encoder puts a
 // packet of its own before the first, which no player is told to leave out.

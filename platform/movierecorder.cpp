@@ -18,7 +18,7 @@ using namespace std::chrono_literals;
 constexpr guint64 mostWaitingFrames = 10;
 
 // How long a file may take to be finished in the background, on a slow disk.
-constexpr auto closingLimit = 10s;
+constexpr auto closingLimit = 30s;
 
 // Room for the index and what is on its way to the disk; below this a movie is ended while it still can be.
 constexpr double leastFreeBytes = 16.0 * 1024 * 1024;
@@ -127,6 +127,7 @@ void MovieRecorder::push(const CapturedFrame &frame, const Zoom &zoom, GstClockT
     GST_BUFFER_DTS(buffer.get()) = GST_CLOCK_TIME_NONE;
     GST_BUFFER_DURATION(buffer.get()) = GST_CLOCK_TIME_NONE;
     gst_app_src_push_buffer(pictures, buffer.release());
+    paceIndex(m_movie);
 }
 
 // The part of the frame that the zoom shows, at the frame's size. Without zoom it shares the frame's pixels.
@@ -179,6 +180,7 @@ void MovieRecorder::close()
 
 void MovieRecorder::endStreams()
 {
+    leaveIndexToEnd(m_movie);
     gst_app_src_end_of_stream(GST_APP_SRC(m_movie.pictures));
     // Behind the mixer: in front of it the end would wait for a microphone that may have stopped giving
     // sound.

@@ -17,19 +17,21 @@ public:
     {
         m_process.kill();
         m_process.waitForFinished();
+        if (QTest::currentTestFailed())
+            qInfo("%s", m_process.readAllStandardError().constData());
     }
 
     // Starts it and waits for its live picture, or only for its window.
     bool start(bool withPicture = true)
     {
-        m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         m_process.start(ORVANE_PROGRAM, QStringList());
-        return m_process.waitForStarted() && QTest::qWaitFor([] { return windows() > 0; }, 10000) &&
-               (!withPicture || QTest::qWaitFor([] { return brightness(QPoint(400, 300)) > 30; }, 10000));
+        return m_process.waitForStarted() && QTest::qWaitFor([] { return windows() > 0; }, 20000) &&
+               (!withPicture || QTest::qWaitFor([] { return brightness(QPoint(400, 300)) > 30; }, 20000));
     }
-    bool waitForEnd(int milliseconds = 10000)
+    // With what it saves: on a busy disk each file may take seconds.
+    bool waitForEnd()
     {
-        return QTest::qWaitFor([this] { return m_process.state() == QProcess::NotRunning; }, milliseconds);
+        return QTest::qWaitFor([this] { return m_process.state() == QProcess::NotRunning; }, 60000);
     }
     QProcess &process() { return m_process; }
 

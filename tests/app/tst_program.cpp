@@ -117,7 +117,8 @@ void TestProgram::startMovie()
     Program::click(Program::liveRow(3));
     QTRY_COMPARE(Program::captures({"movie*"}).size(), 2);
     const QString movie = Program::workingFolder().filePath(Program::captures({"movie*.mov"}).first());
-    QTRY_VERIFY(QFileInfo(movie).size() > 4300000); // what is reserved for its index, and pictures
+    // What is reserved for its index, and pictures.
+    QTRY_VERIFY_WITH_TIMEOUT(QFileInfo(movie).size() > 4300000, 20000);
 }
 
 // Requests are named by the second: waits for one without a request.
@@ -147,7 +148,7 @@ void TestProgram::loadEarlierDay(const QStringList &photos)
     for (const QString &name : photos.mid(0, 2))
         QFile::copy(Program::workingFolder().filePath(name), earlier.filePath("photo1" + name.mid(5)));
     loadFolder(Program::row(2), earlier.path());
-    QTRY_COMPARE(Program::captures({"photo*"}).size(), photos.size() + 2);
+    QTRY_COMPARE_WITH_TIMEOUT(Program::captures({"photo*"}).size(), photos.size() + 2, 20000);
     // The wait dialog stays until it was read.
     QTRY_COMPARE(Program::windows(), 2);
     QTRY_VERIFY((Program::press("Return"), Program::windows() == 1));
@@ -264,7 +265,7 @@ void TestProgram::losesNothingWhenKilledWhileSaving()
     Program next;
     QVERIFY(next.start());
     leave(Program::Yes);
-    QVERIFY(next.waitForEnd(30000));
+    QVERIFY(next.waitForEnd());
     QCOMPARE(checksums(target), taken);
     QCOMPARE(Program::captures(), QStringList());
 }

@@ -1,5 +1,6 @@
 #include "tests/platform/camerawindow.h"
 #include "tests/platform/moviereader.h"
+#include "tests/platform/slowdisk.h"
 #include "tests/support/smalldisk.h"
 
 #include <QProcess>
@@ -22,6 +23,7 @@ private slots:
     void playsAfterTheProgramWasKilled();
     void endsOnAFullDisk();
     void isFinishedWhenTheCameraIsClosed();
+    void losesNothingToASlowDisk();
 
 private:
     QString path() const { return m_folder->filePath("movie.mov"); }
@@ -252,6 +254,30 @@ void TestMovie::isFinishedWhenTheCameraIsClosed()
     }
     QVERIFY(readMovie(path()).length() > 0.4);
     QVERIFY(playsInAnotherPlayer(path()));
+}
+
+void TestMovie::losesNothingToASlowDisk()
+{
+    TestDevices devices;
+    devices.camera("cam").content("counter");
+    devices.microphone("mic");
+    devices.write();
+    CameraWindow camera;
+    QVERIFY(camera.start());
+    const SlowDisk disk(std::chrono::milliseconds(1000));
+    camera.capture.Record(path());
+    QTest::qWait(6000);
+    QElapsedTimer clock;
+    clock.start();
+    camera.capture.RecordStop();
+    QVERIFY(clock.elapsed() < 600);
+    QVERIFY(camera.capture.isFinishingMovie());
+    QTRY_VERIFY(nowMicroseconds() - camera.shownSince() < 200000);
+    QTRY_VERIFY_WITH_TIMEOUT(!camera.capture.isFinishingMovie(), 15000);
+    QVERIFY(playsInAnotherPlayer(path()));
+    const MovieContents movie = readMovie(path());
+    QVERIFY(std::abs(movie.length() - 6) < 0.3 && std::abs(movie.soundLength - 6) < 0.3);
+    QVERIFY(movie.frames.size() > 170);
 }
 
 QTEST_MAIN(TestMovie)
