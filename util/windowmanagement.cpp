@@ -10,6 +10,17 @@
 // Last: Xlib's macros break Qt's headers.
 #include <X11/Xlib.h>
 
+namespace
+{
+
+bool isUnmapped(Display *display, Window window)
+{
+    XWindowAttributes attributes = {};
+    return XGetWindowAttributes(display, window, &attributes) && attributes.map_state == IsUnmapped;
+}
+
+} // namespace
+
 CWMUpdateTimer::CWMUpdateTimer(int ms, CWMUpdateCallback *callback) : m_callback(callback)
 {
     start(ms);
@@ -101,7 +112,9 @@ void CWindowManagement::raiseParentWidgetTop(QWidget *widget)
 void CWindowManagement::raiseQtWindowTop(WId window)
 {
     Display *display = QX11Info::display();
-    if (!display)
+    // A window manager that is busy has yet to map it. Mapped behind the manager's back, it would never come
+    // into its care: without focus, and over every dialog of its own.
+    if (!display || isUnmapped(display, window))
         return;
     Window root = 0;
     Window parent = 0;

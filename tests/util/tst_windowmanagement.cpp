@@ -1,7 +1,11 @@
 #include "util/windowmanagement.h"
 
+#include <QProcess>
 #include <QScreen>
 #include <QtTest>
+
+#include <csignal>
+#include <unistd.h>
 
 #include <X11/Xlib.h>
 #undef None
@@ -74,6 +78,21 @@ private slots:
         const qint64 elapsed = sinceStart.elapsed();
         const qint64 pollMs = 50; // looking takes a while, too
         QVERIFY2(elapsed <= raisePeriodMs + pollMs, qPrintable(QString::number(elapsed)));
+    }
+
+    // As at a log-in, when everything starts at once.
+    void waitsForASlowWindowManager()
+    {
+        QProcess search;
+        search.start("pgrep", {"-x", "openbox", "-P", QString::number(getppid())});
+        QVERIFY(search.waitForFinished());
+        const pid_t manager = search.readAllStandardOutput().toInt();
+        QVERIFY(manager > 0);
+        QCOMPARE(kill(manager, SIGSTOP), 0);
+        RaisedWindow window;
+        QTest::qWait(3 * raisePeriodMs);
+        QCOMPARE(kill(manager, SIGCONT), 0);
+        QVERIFY(QTest::qWaitForWindowActive(&window));
     }
 };
 
