@@ -1,9 +1,11 @@
+#include "capture/timerwidget.h"
 #include "tests/dialog/mainwindow.h"
 #include "tests/support/smalldisk.h"
 
 #include <QProcess>
 
 #include <functional>
+#include <thread>
 
 // What happens while the disk takes a file or the names in a folder: these are found before the C library's.
 static std::function<bool()> duringSync;
@@ -27,6 +29,7 @@ private slots:
     void cleanup() { duringSync = nullptr; }
     void vanishingSaveFolderLosesNothing();
     void pressDuringTheSaveIsDropped();
+    void movieIsSavedWithItsEnd();
     void closingUnderAMessageIsSafe();
 };
 
@@ -71,6 +74,31 @@ void TestClosing::pressDuringTheSaveIsDropped()
     QTest::qWait(0); // brings the click
     QVERIFY(!main.window->isVisible());
     QCOMPARE(MainWindow::captures(), QStringList());
+}
+
+// The disk is so slow that a movie that was stopped is not yet finished when it is to be saved elsewhere.
+void TestClosing::movieIsSavedWithItsEnd()
+{
+    const SmallDisk disk(40);
+    if (!disk.isMounted())
+        QSKIP("a small file system takes root to mount");
+    MainWindow main("SaveDirectory=" + disk.path("") + "\n");
+    duringSync = [] {
+        std::this_thread::sleep_for(std::chrono::seconds(1));
+        return true;
+    };
+    main.press("Movie");
+    QTRY_COMPARE(main.view<TimerWidget>()->text(), QString("00:03"));
+    main.press("MovieStop");
+    Answers answers({"Yes"});
+    main.press("Close");
+    QCOMPARE(MainWindow::captures(), QStringList());
+    QProcess player;
+    player.start(
+        "sh", {"-c", "ffprobe -v error -show_entries format=duration -of csv=p=0 " + disk.path("*/*/*.mov")});
+    QVERIFY(player.waitForFinished());
+    const double length = player.readAllStandardOutput().trimmed().toDouble();
+    QVERIFY2(length > 2.8, qPrintable(QString::number(length)));
 }
 
 void TestClosing::closingUnderAMessageIsSafe()
