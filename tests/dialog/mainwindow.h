@@ -9,6 +9,7 @@
 #include "widgets/stretchbitmapbutton.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QDir>
 #include <QLabel>
 #include <QMessageBox>
@@ -17,7 +18,43 @@
 #include <QTimer>
 #include <QtTest>
 
+#include <linux/capability.h>
 #include <memory>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+// Root, too, shall meet files and folders that may not be read. This counts for this thread, and for all that
+// it starts from now on.
+inline void obeyPermissions()
+{
+    __user_cap_header_struct version = {_LINUX_CAPABILITY_VERSION_3, 0};
+    __user_cap_data_struct rights[_LINUX_CAPABILITY_U32S_3] = {};
+    QCOMPARE(syscall(SYS_capget, &version, rights), 0L);
+    rights[0].permitted &= ~(1U << CAP_DAC_OVERRIDE | 1U << CAP_DAC_READ_SEARCH);
+    rights[0].effective = rights[0].permitted;
+    QCOMPARE(syscall(SYS_capset, &version, rights), 0L);
+}
+
+inline QByteArray png(const QImage &image)
+{
+    QByteArray contents;
+    QBuffer buffer(&contents);
+    image.save(&buffer, "PNG");
+    return contents;
+}
+
+inline QByteArray whitePhoto()
+{
+    QImage image(64, 48, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    return png(image);
+}
+
+// A capture's path in the working folder.
+inline QString working(const QString &name = QString())
+{
+    return WebcamUtil::getTemporaryPath() + "/" + name;
+}
 
 // The program's main window on a test camera and microphone, used as a user uses it: by its buttons.
 class MainWindow

@@ -1,32 +1,18 @@
 #include "capture/timerwidget.h"
 #include "dialog/gridlayout.h"
-#include "dialog/waitemsgdlg.h"
 #include "tests/dialog/mainwindow.h"
-#include "tests/support/smalldisk.h"
 #include "widgets/moviewidget.h"
 #include "widgets/picturelistview.h"
-
-#include <QBuffer>
-#include <QFileDialog>
-#include <QLineEdit>
-#include <QProgressBar>
-
-#include <linux/capability.h>
-#include <sys/syscall.h>
-#include <unistd.h>
 
 class TestReviewCommands : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void initTestCase() { obeyPermissions(); }
     void gridPlaces();
     void photosOfAnyKindAreChosenShownAndPasted();
     void moviesOfAnyKindAreWatchedAndPasted();
-    void folderIsLoaded();
-    void windowLivesThroughALargeLoad();
-    void loadLeavesRoomForCaptures();
 
 private:
     struct Photo {
@@ -35,50 +21,15 @@ private:
         bool isPicture;
     };
     QVector<Photo> photosOfAnyKind() const;
-    static QString working(const QString &name = QString())
-    {
-        return WebcamUtil::getTemporaryPath() + "/" + name;
-    }
     static void choose(const MainWindow &main, int row);
     static void checkList(const MainWindow &main, const QVector<Photo> &files);
     static QStringList takeRequest();
-    static void load(const MainWindow &main, const QString &folder);
-
-    QByteArray m_photo; // white
 };
-
-static QByteArray png(const QImage &image)
-{
-    QByteArray contents;
-    QBuffer buffer(&contents);
-    image.save(&buffer, "PNG");
-    return contents;
-}
 
 // White is 255, an empty viewer 0.
 static int brightness(const QPixmap &picture)
 {
     return picture.toImage().pixelColor(picture.rect().center()).lightness();
-}
-
-// Root, too, shall meet files and folders that may not be read. This counts for this thread, and for all that
-// it starts from now on.
-static void obeyPermissions()
-{
-    __user_cap_header_struct version = {_LINUX_CAPABILITY_VERSION_3, 0};
-    __user_cap_data_struct rights[_LINUX_CAPABILITY_U32S_3] = {};
-    QCOMPARE(syscall(SYS_capget, &version, rights), 0L);
-    rights[0].permitted &= ~(1U << CAP_DAC_OVERRIDE | 1U << CAP_DAC_READ_SEARCH);
-    rights[0].effective = rights[0].permitted;
-    QCOMPARE(syscall(SYS_capset, &version, rights), 0L);
-}
-
-void TestReviewCommands::initTestCase()
-{
-    obeyPermissions();
-    QImage image(64, 48, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    m_photo = png(image);
 }
 
 void TestReviewCommands::choose(const MainWindow &main, int row)
@@ -131,17 +82,18 @@ QVector<TestReviewCommands::Photo> TestReviewCommands::photosOfAnyKind() const
     QImage hugeImage(30000, 30000, QImage::Format_Mono);
     hugeImage.fill(1); // white
     const QByteArray huge = png(hugeImage);
-    const QByteArray wrongLength = QByteArray(m_photo).replace(m_photo.indexOf("IDAT") - 4, 1, "\x7f");
+    const QByteArray photo = whitePhoto();
+    const QByteArray wrongLength = QByteArray(photo).replace(photo.indexOf("IDAT") - 4, 1, "\x7f");
     const QVector<Photo> files = {
-        {"photo1.png", m_photo, true},
-        {"photo2 cut.png", m_photo.left(60), false},
+        {"photo1.png", photo, true},
+        {"photo2 cut.png", photo.left(60), false},
         {"photo3 of 30000x30000.png", huge, false},
         {"photo4 of a wrong length.png", wrongLength, false},
         {"photo5 of text.png", "not a picture", false},
         {"photo6 of nothing.png", "", false},
-        {"photo7 unreadable.png", m_photo, false},
-        {"photo8\nforged.png", m_photo, true}, // would be two lines
-        {QString::fromUtf8("photo9 \u0635\u0648\u0631\u0629 \U0001F600.png"), m_photo, true},
+        {"photo7 unreadable.png", photo, false},
+        {"photo8\nforged.png", photo, true}, // would be two lines
+        {QString::fromUtf8("photo9 \u0635\u0648\u0631\u0629 \U0001F600.png"), photo, true},
     };
     for (const Photo &file : files)
         MainWindow::writeFile(working(file.name), file.contents);
@@ -264,147 +216,6 @@ void TestReviewCommands::moviesOfAnyKindAreWatchedAndPasted()
         QTRY_VERIFY(main.button("MoviePause")->isVisible());
         QTRY_VERIFY_WITH_TIMEOUT(main.button("MoviePlay")->isVisible(), 6000);
     }
-}
-
-// The wait dialog stands when this returns; the work begins afterwards. No folder: the choice is cancelled.
-void TestReviewCommands::load(const MainWindow &main, const QString &folder)
-{
-    QTimer look;
-    connect(&look, &QTimer::timeout, [&] {
-        auto *chooser = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
-        if (!chooser)
-            return;
-        if (folder.isEmpty()) {
-            chooser->reject();
-            return;
-        }
-        auto *name = chooser->findChild<QLineEdit *>("fileNameEdit");
-        name->setText(folder);
-        name->setFocus();
-        QTest::keyClick(name, Qt::Key_Return);
-    });
-    look.start(50); // until it is accepted: it may still be reading the folder
-    main.press("Load");
-}
-
-void TestReviewCommands::folderIsLoaded()
-{
-    MainWindow main;
-    const QString earlier = QDir::homePath() + "/earlier";
-    QDir().mkpath(earlier);
-    for (const char *name :
-         {"photo0.png", "photo1.png", "photo2.png", "notes.txt", "movie1.mov", "movie1tmp.png", "movie2.mov"})
-        MainWindow::writeFile(earlier + "/" + name, m_photo);
-    MainWindow::writeFile(working("photo1.png"), "kept");
-    main.press("List");
-    load(main, QString());
-    QVERIFY(!main.view<CWaiteMsgDlg>()->isVisible());
-    const auto loadAndRead = [&](
-                                 const QString &told, const std::function<void()> &meanwhile = [] {}) {
-        Answers answers({"OK"});
-        load(main, earlier);
-        meanwhile();
-        QTRY_COMPARE(answers.told(), QStringList(told));
-    };
-    loadAndRead("Complete");
-    QCOMPARE(MainWindow::captures(), QStringList({"photo0.png", "photo1.png", "photo2.png"}));
-    QCOMPARE(QFileInfo(working("photo1.png")).size(), 4);
-    QCOMPARE(main.view<PictureListView>()->nameList().size(), 3);
-
-    // Movies come with their previews, and the list of them still leads back to the photos.
-    main.press("SwitchMovie");
-    loadAndRead("Complete");
-    QCOMPARE(MainWindow::captures("movie*"), QStringList({"movie1.mov", "movie1tmp.png"}));
-    QCOMPARE(main.view<PictureListView>()->nameList(), QStringList("movie1tmp.png"));
-    for (const char *name : {"movie1.mov", "movie1tmp.png"})
-        QVERIFY(QFile::remove(working(name)));
-    QVERIFY(QFile::setPermissions(earlier + "/movie1tmp.png", {})); // both or none
-    loadAndRead("Failed.");
-    QCOMPARE(MainWindow::captures("movie*"), QStringList());
-    main.press("SwitchPhoto");
-
-    // A copy that cannot be made is told, and the others are made all the same.
-    QFile::remove(working("photo0.png"));
-    QFile::remove(working("photo2.png"));
-    QVERIFY(QFile::setPermissions(earlier + "/photo0.png", {}));
-    loadAndRead("Failed.");
-    QCOMPARE(MainWindow::captures("photo*"), QStringList({"photo1.png", "photo2.png"}));
-    loadAndRead("Failed.", [&] { QVERIFY(QFile::setPermissions(earlier, {})); });
-    QVERIFY(QFile::setPermissions(earlier, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
-    loadAndRead("Failed.", [&] { QVERIFY(QDir(earlier).removeRecursively()); });
-}
-
-void TestReviewCommands::windowLivesThroughALargeLoad()
-{
-    MainWindow main;
-    const QString earlier = QDir::homePath() + "/earlier";
-    QDir().mkpath(earlier);
-    QStringList names;
-    for (int i = 0; i < 3000; ++i) {
-        names << QString("photo%1.png").arg(i, 4, 10, QLatin1Char('0'));
-        MainWindow::writeFile(earlier + "/" + names.last(), m_photo);
-    }
-    names << "photo9 large.png";
-    QFile large(earlier + "/" + names.last());
-    QVERIFY(large.open(QIODevice::WriteOnly) && large.resize(1 << 30));
-    main.press("List");
-    load(main, earlier);
-
-    auto *dialog = main.view<CWaiteMsgDlg>();
-    auto *bar = dialog->findChild<QProgressBar *>();
-    QSet<QByteArray> looks; // of the bar on the screen
-    qint64 longestGap = 0;
-    QElapsedTimer sinceTick;
-    QTimer heart;
-    connect(&heart, &QTimer::timeout, [&] {
-        longestGap = qMax(longestGap, sinceTick.restart());
-        const QPoint corner = bar->mapToGlobal(QPoint());
-        const QImage look =
-            bar->screen()->grabWindow(0, corner.x(), corner.y(), bar->width(), bar->height()).toImage();
-        if (bar->isVisible())
-            looks << QByteArray(reinterpret_cast<const char *>(look.constBits()), int(look.sizeInBytes()));
-    });
-    sinceTick.start();
-    heart.start(10);
-    QTRY_VERIFY(looks.size() > 5);
-    QCOMPARE(dialog->findChild<QLabel *>()->text(), QString("Please Waite.."));
-    QTest::keyClick(dialog, Qt::Key_Escape); // stops the work, and only that
-    QVERIFY(dialog->isVisible());
-    Answers answers({"OK", "OK"});
-    QTRY_COMPARE(answers.told(), QStringList("Failed."));
-    QVERIFY(MainWindow::captures().size() < names.size());
-    QElapsedTimer whole;
-    whole.start();
-    load(main, earlier);
-    QTRY_COMPARE_WITH_TIMEOUT(answers.told(), QStringList({"Failed.", "Complete"}), 30000);
-    qInfo("of %lld ms the longest gap was %lld", whole.elapsed(), longestGap);
-    QVERIFY(longestGap < qMax<qint64>(250, whole.elapsed() / 5));
-    QVERIFY(!dialog->isVisible());
-    QCOMPARE(MainWindow::captures(), names);
-    QCOMPARE(main.view<PictureListView>()->nameList(), names.mid(names.size() - 50));
-}
-
-void TestReviewCommands::loadLeavesRoomForCaptures()
-{
-    const SmallDisk disk(200);
-    if (!disk.isMounted())
-        QSKIP("a small file system takes root to mount");
-    const QString earlier = QDir::homePath() + "/earlier of few";
-    QDir().mkpath(earlier);
-    MainWindow::writeFile(earlier + "/photo1.png", m_photo);
-    const QByteArray before = qgetenv("TMPDIR");
-    qputenv("TMPDIR", disk.path("").toUtf8());
-    WebcamUtil::setTemporaryPath();
-    Answers answers({"OK", "OK"}); // the first to the warning of so small a disk
-    {
-        MainWindow main;
-        main.press("List");
-        load(main, earlier);
-        QTRY_COMPARE(answers.told().value(1), QString("Failed."));
-        QCOMPARE(MainWindow::captures(), QStringList());
-    }
-    qputenv("TMPDIR", before);
-    WebcamUtil::setTemporaryPath();
 }
 
 QTEST_MAIN(TestReviewCommands)
