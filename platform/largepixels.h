@@ -15,10 +15,9 @@ inline void createLarge(cv::Mat *pixels, int rows, int columns, int type)
     if (pixels->rows == rows && pixels->cols == columns && pixels->type() == type)
         return;
     pixels->create(rows, columns, type);
-    const auto page = uintptr_t(sysconf(_SC_PAGESIZE));
-    const auto start = reinterpret_cast<uintptr_t>(pixels->data);
-    const uintptr_t first = (start + page - 1) / page * page;
-    const uintptr_t last = (start + pixels->total() * pixels->elemSize()) / page * page;
-    if (first < last) // where the system cannot, they come one by one
-        madvise(reinterpret_cast<void *>(first), last - first, MADV_POPULATE_WRITE);
+    const auto page = size_t(sysconf(_SC_PAGESIZE));
+    const size_t bytes = pixels->total() * pixels->elemSize();
+    const size_t toFirstPage = (page - reinterpret_cast<uintptr_t>(pixels->data) % page) % page;
+    if (toFirstPage < bytes) // where the system cannot, they come one by one
+        madvise(pixels->data + toFirstPage, (bytes - toFirstPage) / page * page, MADV_POPULATE_WRITE);
 }
