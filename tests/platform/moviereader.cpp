@@ -44,7 +44,8 @@ void readSound(GstElement *sink, MovieContents *contents)
         GstMapInfo mapped;
         gst_buffer_map(buffer, &mapped, GST_MAP_READ);
         const auto *samples = reinterpret_cast<const gint16 *>(mapped.data);
-        for (size_t i = 0; i < mapped.size / 2; ++i) {
+        const size_t count = mapped.size / sizeof *samples;
+        for (size_t i = 0; i < count; ++i) {
             const double time = seconds(buffer) + double(i) / 48000;
             if (std::abs(samples[i]) < loud)
                 continue;
@@ -52,7 +53,7 @@ void readSound(GstElement *sink, MovieContents *contents)
                 contents->loudMoments.push_back(time);
             lastLoud = time;
         }
-        contents->soundLength = seconds(buffer) + double(mapped.size / 2) / 48000;
+        contents->soundLength = seconds(buffer) + double(count) / 48000;
         gst_buffer_unmap(buffer, &mapped);
     }
 }

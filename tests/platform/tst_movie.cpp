@@ -224,7 +224,7 @@ void TestMovie::playsAfterTheProgramWasKilled()
 
 void TestMovie::endsOnAFullDisk()
 {
-    constexpr qint64 nearlyFull = 12 * 1024 * 1024;
+    constexpr qint64 nearlyFull = qint64(12) << 20;
     for (const qint64 left : {nearlyFull, qint64(0)}) {
         const SmallDisk disk(40);
         if (!disk.isMounted())

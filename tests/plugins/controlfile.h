@@ -8,13 +8,12 @@
 //   damaged   of a JPEG camera: every so manieth frame is
 //   sound     of a microphone: silence, tone or beep
 //   fault     stall (gives nothing more and tells nothing), hang-open, hang-close (blocks there as long as
-//   this
-//             stands), busy (cannot be opened), read-error (the next frame is an error)
+//             this stands), busy (cannot be opened), read-error (the next frame is an error)
 //   order     how it is told that a running device has gone: error-first (by the stream, then by the
-//   provider),
-//             removed-first, removed-only, error-only
+//             provider), removed-first, removed-only, error-only
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <map>
 #include <memory>
@@ -35,6 +34,6 @@ using ControlFile = std::map<std::string, DeviceSettings>;
 std::shared_ptr<const ControlFile> readControlFile();
 
 // How often the devices look whether the file was replaced: short against what tests wait for.
-constexpr int pollMilliseconds = 5;
+constexpr auto pollPeriod = std::chrono::milliseconds(5);
 // Between the two ways in which a loss is told, so that their order is sure.
 constexpr int64_t tellingGap = 50'000'000;

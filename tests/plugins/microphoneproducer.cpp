@@ -20,8 +20,10 @@ public:
     {
         const int samples = sound == "beep" ? beepSamples : sound == "tone" ? soundRate : 0;
         const double frequency = sound == "beep" ? beepFrequency : toneFrequency;
-        for (int i = 0; i < samples * channels; ++i)
-            m_second[i] = int16_t(amplitude * std::sin(2 * M_PI * frequency * (i / channels) / soundRate));
+        for (int i = 0; i < samples * channels; ++i) {
+            const int sample = i / channels;
+            m_second[i] = int16_t(amplitude * std::sin(2 * M_PI * frequency * sample / soundRate));
+        }
     }
     GstBuffer *make(const Moment &moment, const DeviceSettings &) override
     {

@@ -104,7 +104,7 @@ void Picture::fill(int x, int y, int fillWidth, int fillHeight, uint32_t rgb)
     const int left = std::clamp(x, 0, width);
     const int right = std::clamp(x + fillWidth, left, width);
     for (int row = std::max(y, 0); row < std::min(y + fillHeight, height); ++row)
-        std::fill_n(pixels.begin() + row * width + left, right - left, rgb);
+        std::fill_n(pixels.begin() + ptrdiff_t(row) * width + left, right - left, rgb);
 }
 
 int pictureVariant(const std::string &content, const Moment &moment)

@@ -71,7 +71,7 @@ public:
     {
         update();
         m_thread = std::thread([this] {
-            for (; !m_isStopped; g_usleep(1000 * pollMilliseconds))
+            for (; !m_isStopped; std::this_thread::sleep_for(pollPeriod))
                 update();
         });
     }

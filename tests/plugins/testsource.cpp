@@ -4,14 +4,12 @@
 #include <gst/base/gstpushsrc.h>
 
 #include <algorithm>
-#include <chrono>
 #include <condition_variable>
 #include <sstream>
+#include <thread>
 
 namespace
 {
-
-constexpr auto pollPeriod = std::chrono::milliseconds(pollMilliseconds);
 
 // What a device keeps for a reader that is late; older frames are lost. A driver fills one frame while the
 // reader works on the one before; the ring buffer of usual sound sources holds 200 ms.
@@ -80,7 +78,7 @@ bool look(SourceState *state)
 void waitWhileFaultIs(SourceState *state, const char *fault)
 {
     while (look(state) && state->device.value("fault") == fault)
-        g_usleep(1000 * pollMilliseconds);
+        std::this_thread::sleep_for(pollPeriod);
 }
 
 } // namespace
