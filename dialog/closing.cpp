@@ -9,8 +9,11 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QCursor>
+#include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QTimer>
+
+#include <chrono>
 
 void CPictorelDlg::OnClose()
 {
@@ -33,33 +36,36 @@ void CPictorelDlg::OnClose()
 void CPictorelDlg::saveCaptures()
 {
     QGuiApplication::setOverrideCursor(QCursor(Qt::WaitCursor));
-    waitForMovie();
-    const bool isSaved = WebcamUtil::saveData(m_saveDirectory);
+    const bool isSaved = waitForMovie() && WebcamUtil::saveData(m_saveDirectory);
     QGuiApplication::restoreOverrideCursor();
     if (!isSaved)
         WebcamUtil::WarningMessage(tr("Save failed."), this);
 }
 
-// On a slow disk a movie is still being finished, and a copy of it now would lack its end.
-void CPictorelDlg::waitForMovie()
+// On a slow disk a movie is still being finished, and a copy of it now would lack its end. False when it is
+// not finished in time, or the program has to end before.
+bool CPictorelDlg::waitForMovie()
 {
-    constexpr int period = 50; // milliseconds
+    constexpr auto limit = std::chrono::minutes(1);
+    constexpr auto period = std::chrono::milliseconds(50);
     const auto isFinishing = [this] { return m_liveView && m_liveView->isFinishingMovie(); };
-    if (!isFinishing())
-        return;
     QEventLoop loop;
+    const QDeadlineTimer deadline(limit);
     QTimer look;
     connect(&look, &QTimer::timeout, &loop, [&] {
-        if (!isFinishing())
+        if (deadline.hasExpired() || !isFinishing())
             loop.quit();
     });
     look.start(period);
-    loop.exec(QEventLoop::ExcludeUserInputEvents);
+    if (isFinishing())
+        loop.exec(QEventLoop::ExcludeUserInputEvents);
+    return m_liveView && !isFinishing();
 }
 
 void CPictorelDlg::closeEvent(QCloseEvent *event)
 {
     m_timerView->Stop(); // no shot is taken any more
+    hide();              // a slow disk may still take a movie
     if (m_liveView) {
         if (m_liveView->isCreate())
             m_liveView->Release();

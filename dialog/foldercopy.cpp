@@ -23,9 +23,11 @@ FolderCopy::~FolderCopy()
 
 void FolderCopy::run()
 {
+    if (m_target.isEmpty())
+        return;
     WholeFile::removeLeftOvers(m_target);
     // Looked at again at the end: a stick may have been pulled out.
-    m_isComplete = !m_target.isEmpty() && isReadable() && copyAll() && isReadable();
+    m_isComplete = isReadable() && copyAll() && isReadable();
 }
 
 bool FolderCopy::isReadable() const

@@ -165,7 +165,7 @@ private:
     QString listedFolder() const;
     void finishLoad();
     void saveCaptures();
-    void waitForMovie();
+    bool waitForMovie();
 
     // Views and dialogs; children of this window, as the buttons are.
     LiveVideoWidget *m_liveView = nullptr; // null once the window was closed

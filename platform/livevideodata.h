@@ -84,7 +84,7 @@ public:
     // Ends the movie. The file is finished within half a second, or in the background where the disk is
     // slower. Without a movie nothing happens.
     void RecordStop();
-    // Whether a file is still being finished in the background; that ends within thirty seconds.
+    // Whether a file is still being finished in the background. That takes as long as the disk goes on.
     bool isFinishingMovie();
 
     // Saves the newest picture at the camera's full size as a PNG file, waiting up to a second for a whole

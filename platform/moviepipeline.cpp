@@ -183,9 +183,11 @@ void paceIndex(const MoviePipeline &movie)
                  guint64(waiting < indexPeriod ? indexPeriod : seldomIndexPeriod), nullptr);
 }
 
-void leaveIndexToEnd(const MoviePipeline &movie)
+qint64 waitingBytes(const MoviePipeline &movie)
 {
-    g_object_set(movie.muxer, "reserved-moov-update-period", guint64(GST_CLOCK_TIME_NONE), nullptr);
+    guint bytes = 0;
+    g_object_get(movie.pictureQueue, "current-level-bytes", &bytes, nullptr);
+    return bytes;
 }
 
 GstClockTime soundDelay()

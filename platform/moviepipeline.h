@@ -21,8 +21,9 @@ MoviePipeline buildMoviePipeline(const MovieSettings &settings);
 // Makes the muxer write the index often, or seldom while it is behind with writing the movie itself. To be
 // called again and again while the movie runs, from any one thread.
 void paceIndex(const MoviePipeline &movie);
-// Leaves the index to the end of the movie, which is then reached as fast as the disk allows.
-void leaveIndexToEnd(const MoviePipeline &movie);
+
+// Bytes of encoded pictures that wait for the disk.
+qint64 waitingBytes(const MoviePipeline &movie);
 
 // By how much the sound of such a movie is later than its time stamps say, nanoseconds: the encoder puts a
 // packet of its own before the first, which no player is told to leave out.

@@ -8,6 +8,7 @@
 #include <sys/statvfs.h>
 
 #include <thread>
+#include <utility>
 
 namespace
 {
@@ -17,10 +18,10 @@ using namespace std::chrono_literals;
 // Frames that may wait for the encoder; with more of them the end of a movie would take too long.
 constexpr guint64 mostWaitingFrames = 10;
 
-// How long a file may take to be finished in the background, on a slow disk.
+// How long a slow disk may take nothing of what is left of a movie before it is given up.
 constexpr auto closingLimit = 30s;
 
-// Room for the index and what is on its way to the disk; below this a movie is ended while it still can be.
+// Room for the index and what the encoders hold; with less of it a movie is ended while it still can be.
 constexpr double leastFreeBytes = 16.0 * 1024 * 1024;
 
 double freeBytes(const QString &path)
@@ -150,7 +151,7 @@ bool MovieRecorder::mustEnd() const
         return true;
     const auto length = std::chrono::steady_clock::now() - m_startedAt;
     return length > std::chrono::seconds(longestMovieSeconds()) ||
-           freeBytes(m_settings.path) < leastFreeBytes;
+           freeBytes(m_settings.path) < leastFreeBytes + double(waitingBytes(m_movie));
 }
 
 bool MovieRecorder::finish(std::chrono::milliseconds wait)
@@ -167,10 +168,7 @@ bool MovieRecorder::finish(std::chrono::milliseconds wait)
 void MovieRecorder::close()
 {
     endStreams();
-    {
-        std::unique_lock<std::mutex> lock(m_mutex);
-        m_changed.wait_for(lock, closingLimit, [this] { return m_isFileComplete; });
-    }
+    waitForFile();
     m_microphone.reset();
     gst_element_set_state(m_movie.pipeline.get(), GST_STATE_NULL);
     const std::lock_guard<std::mutex> lock(m_mutex);
@@ -178,9 +176,21 @@ void MovieRecorder::close()
     m_changed.notify_all();
 }
 
+// As long as the disk takes something.
+void MovieRecorder::waitForFile()
+{
+    std::unique_lock<std::mutex> lock(m_mutex);
+    qint64 before = 0;
+    qint64 waiting = waitingBytes(m_movie);
+    do {
+        if (m_changed.wait_for(lock, closingLimit, [this] { return m_isFileComplete; }))
+            return;
+        before = std::exchange(waiting, waitingBytes(m_movie));
+    } while (waiting < before);
+}
+
 void MovieRecorder::endStreams()
 {
-    leaveIndexToEnd(m_movie);
     gst_app_src_end_of_stream(GST_APP_SRC(m_movie.pictures));
     // Behind the mixer: in front of it the end would wait for a microphone that may have stopped giving
     // sound.

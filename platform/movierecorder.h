@@ -10,8 +10,9 @@
 #include <memory>
 #include <mutex>
 
-// One movie from its start to its finished file. The file is playable at any moment up to about a second
-// before, should the program die, and is kept whatever happens while it is finished.
+// One movie from its start to its finished file. Should the program die, the file is playable up to about a
+// second before, or some more seconds where the disk does not keep up. It is kept whatever happens while it
+// is finished.
 class MovieRecorder : public FrameSink, public std::enable_shared_from_this<MovieRecorder>
 {
 public:
@@ -43,6 +44,7 @@ private:
     BufferHandle shown(const CapturedFrame &frame, const Zoom &zoom);
     void close();
     void endStreams();
+    void waitForFile();
 
     const MovieSettings m_settings;
     MoviePipeline m_movie;

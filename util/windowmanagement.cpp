@@ -19,6 +19,21 @@ bool isUnmapped(Display *display, Window window)
     return XGetWindowAttributes(display, window, &attributes) && attributes.map_state == IsUnmapped;
 }
 
+// Window managers leave this mark on the windows in their care, as on icons.
+bool isManaged(Display *display, Window window)
+{
+    Atom type = 0;
+    int format = 0;
+    unsigned long count = 0;
+    unsigned long left = 0;
+    unsigned char *state = nullptr;
+    XGetWindowProperty(display, window, XInternAtom(display, "WM_STATE", False), 0, 0, False, AnyPropertyType,
+                       &type, &format, &count, &left, &state);
+    if (state)
+        XFree(state);
+    return type != 0;
+}
+
 } // namespace
 
 CWMUpdateTimer::CWMUpdateTimer(int ms, CWMUpdateCallback *callback) : m_callback(callback)
@@ -112,9 +127,9 @@ void CWindowManagement::raiseParentWidgetTop(QWidget *widget)
 void CWindowManagement::raiseQtWindowTop(WId window)
 {
     Display *display = QX11Info::display();
-    // A window manager that is busy has yet to map it. Mapped behind the manager's back, it would never come
-    // into its care: without focus, and over every dialog of its own.
-    if (!display || isUnmapped(display, window))
+    // A busy window manager has yet to map it. Mapped behind the manager's back, it would never come into its
+    // care: without focus, and over every dialog of its own.
+    if (!display || (isUnmapped(display, window) && !isManaged(display, window)))
         return;
     Window root = 0;
     Window parent = 0;
