@@ -199,6 +199,8 @@ void TestReviewCommands::moviesOfAnyKindAreWatchedAndPasted()
         main.press("Show");
         QCOMPARE(main.window->currentMode(), DisplayMode::Movie);
         QTest::qWait(300); // past the moment at which the player holds its first picture
+        if (row == 2)
+            QTRY_VERIFY(player->totalTime() > 0); // it is loaded
         main.window->OnVXS();
         QCOMPARE(takeRequest(), QStringList({"1", "XXX", WebcamUtil::getTemporaryPath(), "/" + movie}));
         main.press("MoviePlay");
