@@ -19,7 +19,7 @@ using namespace std::chrono_literals;
 constexpr guint64 mostWaitingFrames = 10;
 
 // How long a slow disk may take nothing of what is left of a movie before it is given up.
-constexpr auto closingLimit = 30s;
+constexpr auto closingLimit = 10s;
 
 // Room for the index and what the encoders hold; with less of it a movie is ended while it still can be.
 constexpr double leastFreeBytes = 16.0 * 1024 * 1024;
