@@ -21,10 +21,6 @@ constexpr guint64 mostWaitingFrames = 10;
 // How long a slow disk may take nothing of what is left of a movie before it is given up.
 constexpr auto closingLimit = 10s;
 
-// How long the sound is waited for that has not begun.
-constexpr int soundStartLooks = 200;
-constexpr auto soundStartPeriod = 5ms;
-
 // Room for the index and what the encoders hold; with less of it a movie is ended while it still can be.
 constexpr double leastFreeBytes = 16.0 * 1024 * 1024;
 
@@ -34,6 +30,14 @@ double freeBytes(const QString &path)
     if (statvfs(QFile::encodeName(QFileInfo(path).path()).constData(), &fileSystem) != 0)
         return 0;
     return double(fileSystem.f_bavail) * double(fileSystem.f_frsize);
+}
+
+// Ends the sound with the next piece of the silence under it. At any other moment the end of a movie that is
+// stopped at once might come before the sound's beginning, which would undo it.
+GstPadProbeReturn endSound(GstPad *sound, GstPadProbeInfo *, gpointer)
+{
+    gst_pad_send_event(sound, gst_event_new_eos());
+    return GST_PAD_PROBE_REMOVE;
 }
 
 } // namespace
@@ -199,8 +203,5 @@ void MovieRecorder::endStreams()
     // Behind the mixer: in front of it the end would wait for a microphone that may have stopped giving
     // sound.
     const PadHandle sound(gst_element_get_static_pad(m_movie.soundEncoder, "sink"));
-    // Of a movie that is stopped at once the sound may not have begun, and its beginning would undo the end.
-    for (int look = 0; look < soundStartLooks && !gst_pad_has_current_caps(sound.get()); ++look)
-        std::this_thread::sleep_for(soundStartPeriod);
-    gst_pad_send_event(sound.get(), gst_event_new_eos());
+    gst_pad_add_probe(sound.get(), GST_PAD_PROBE_TYPE_BUFFER, endSound, nullptr, nullptr);
 }
