@@ -1,6 +1,5 @@
 #include "dialog/waitemsgdlg.h"
 #include "tests/dialog/mainwindow.h"
-#include "tests/support/smalldisk.h"
 #include "widgets/picturelistview.h"
 
 #include <QFileDialog>
@@ -15,7 +14,6 @@ private slots:
     void initTestCase() { obeyPermissions(); }
     void folderIsLoaded();
     void windowLivesThroughALargeLoad();
-    void loadLeavesRoomForCaptures();
 
 private:
     const QByteArray m_photo = whitePhoto();
@@ -137,29 +135,6 @@ void TestLoadCommand::windowLivesThroughALargeLoad()
     QVERIFY(!dialog->isVisible());
     QCOMPARE(MainWindow::captures(), names);
     QCOMPARE(main.view<PictureListView>()->nameList(), names.mid(names.size() - 50));
-}
-
-void TestLoadCommand::loadLeavesRoomForCaptures()
-{
-    const SmallDisk disk(200);
-    if (!disk.isMounted())
-        QSKIP("a small file system takes root to mount");
-    const QString earlier = QDir::homePath() + "/earlier of few";
-    QDir().mkpath(earlier);
-    MainWindow::writeFile(earlier + "/photo1.png", m_photo);
-    const QByteArray before = qgetenv("TMPDIR");
-    qputenv("TMPDIR", disk.path("").toUtf8());
-    WebcamUtil::setTemporaryPath();
-    Answers answers({"OK", "OK"}); // the first to the warning of so small a disk
-    {
-        MainWindow main;
-        main.press("List");
-        load(main, earlier);
-        QTRY_COMPARE(answers.told().value(1), QString("Failed."));
-        QCOMPARE(MainWindow::captures(), QStringList());
-    }
-    qputenv("TMPDIR", before);
-    WebcamUtil::setTemporaryPath();
 }
 
 QTEST_MAIN(TestLoadCommand)
