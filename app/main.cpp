@@ -4,6 +4,7 @@
 #include "dialog/pictoreldlg.h"
 
 #include <QDir>
+#include <QSessionManager>
 
 int main(int argc, char **argv)
 {
@@ -28,14 +29,20 @@ int main(int argc, char **argv)
     if (!dialog.isStartable())
         return -1;
 
-    // Closed from outside, nobody is there to be asked: what was taken waits in the working folder.
+    // At a log-out nobody is there to be asked, and the working folder may be empty after the next start.
     TerminationSignals signalsFromOutside;
     bool isToEnd = false;
     QObject::connect(&signalsFromOutside, &TerminationSignals::requested, &dialog, [&dialog, &isToEnd] {
         isToEnd = true;
-        dialog.close();
-        QCoreApplication::quit();
+        dialog.saveAndLeave();
     });
+    // A session manager says it otherwise, and may still think better of it.
+    QGuiApplication::setFallbackSessionManagementEnabled(false);
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, &dialog,
+                     [&dialog](QSessionManager &session) {
+                         session.setRestartHint(QSessionManager::RestartNever);
+                         dialog.saveQuietly();
+                     });
 
     dialog.SetPluginPath(QCoreApplication::applicationDirPath());
     dialog.show();

@@ -1,5 +1,6 @@
 #include "capture/boardgesture.h"
 
+#include "capture/livecapture.h"
 #include "capture/livevideowidget.h"
 
 #include <QMouseEvent>
@@ -46,7 +47,7 @@ bool LiveVideoWidget::eventFilter(QObject *watched, QEvent *event)
 
 void LiveVideoWidget::mousePressEvent(QMouseEvent *event)
 {
-    if (m_capture.isVeltrixCam) {
+    if (m_capture->data.isVeltrixCam) {
         m_lastShadowDistance = 0;
         if (event->button() == Qt::RightButton)
             m_isZoomDrag = true;
@@ -56,7 +57,7 @@ void LiveVideoWidget::mousePressEvent(QMouseEvent *event)
 
 void LiveVideoWidget::mouseMoveEvent(QMouseEvent *event)
 {
-    if (m_capture.isVeltrixCam && m_isZoomDrag) {
+    if (m_capture->data.isVeltrixCam && m_isZoomDrag) {
         CDriverExtraInfo info{};
         CDriverProxy::get()->getExtraInfo(info);
         if (info.gestureState == twoContacts)
@@ -85,7 +86,7 @@ void LiveVideoWidget::followGesture(int distance)
 
 void LiveVideoWidget::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (m_capture.isVeltrixCam) {
+    if (m_capture->data.isVeltrixCam) {
         m_lastShadowDistance = 0;
         setCursor(m_savedCursor);
         m_isZoomDrag = false;

@@ -1,5 +1,6 @@
 #include "capture/livevideowidget.h"
 
+#include "capture/livecapture.h"
 #include "util/webcamutil.h"
 
 #include <QFrame>
@@ -9,10 +10,21 @@
 #include <QRegExp>
 #include <QTimer>
 
+#include <chrono>
+#include <utility>
+
 namespace
 {
 
+using namespace std::chrono_literals;
+
 constexpr int seriesPeriod = 5000; // milliseconds
+
+// Most cameras open in a fraction of this, and a note would only flash up.
+constexpr auto noteworthyOpening = 700ms;
+
+// A little less than what is pressed is kept for afterwards.
+constexpr auto noteworthyWait = 900ms;
 
 const QColor captionColour(Qt::green);
 
@@ -31,7 +43,40 @@ void LiveVideoWidget::prepare()
     LiveVideoData::prepare();
 }
 
-LiveVideoWidget::LiveVideoWidget(QWidget *parent, Qt::WindowFlags flags) : QWidget(parent, flags)
+// Stands for as long as an operation waits.
+class LiveVideoWidget::Waiting
+{
+public:
+    explicit Waiting(LiveVideoWidget *view) : m_view(view)
+    {
+        ++m_view->m_busy;
+        QObject::connect(&m_patience, &QTimer::timeout, [view] { setHeldUp(view, true); });
+        m_patience.setSingleShot(true);
+        m_patience.start(noteworthyWait);
+    }
+    ~Waiting()
+    {
+        --m_view->m_busy;
+        if (m_view->facts().now().isHeldUp)
+            setHeldUp(m_view, false);
+        if (!m_view->isBusy() && std::exchange(m_view->m_isLossToTell, false))
+            QMetaObject::invokeMethod(m_view, &LiveVideoWidget::disconnectDevice, Qt::QueuedConnection);
+    }
+    Waiting(const Waiting &) = delete;
+    Waiting &operator=(const Waiting &) = delete;
+
+private:
+    static void setHeldUp(LiveVideoWidget *view, bool isHeldUp)
+    {
+        view->m_capture->facts.change([isHeldUp](Facts &now) { now.isHeldUp = isHeldUp; });
+    }
+
+    LiveVideoWidget *m_view;
+    QTimer m_patience;
+};
+
+LiveVideoWidget::LiveVideoWidget(QWidget *parent, Qt::WindowFlags flags)
+    : QWidget(parent, flags), m_capture(std::make_unique<LiveCapture>())
 {
     setAttribute(Qt::WA_OpaquePaintEvent, false);
     setAttribute(Qt::WA_NoSystemBackground, false);
@@ -41,10 +86,11 @@ LiveVideoWidget::LiveVideoWidget(QWidget *parent, Qt::WindowFlags flags) : QWidg
     m_pictureFrame = new QFrame(this);
     m_shotTimer = new QTimer(this);
     connect(m_shotTimer, &QTimer::timeout, this, &LiveVideoWidget::execShot);
-    connect(&m_capture, &LiveVideoData::disconnectDevice, this, &LiveVideoWidget::slotdisconnectDevice);
+    connect(&m_capture->data, &LiveVideoData::disconnectDevice, this, &LiveVideoWidget::slotdisconnectDevice);
     setUpPictureFrame();
     setUpOverlay();
     setUpCaption();
+    setUpOpeningNote();
     CDriverProxy::get()->initialize(this);
 }
 
@@ -59,7 +105,7 @@ void LiveVideoWidget::setUpPictureFrame()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_pictureFrame);
     adjustSize();
-    m_capture.SetTarget(m_pictureFrame);
+    m_capture->data.SetTarget(m_pictureFrame);
 }
 
 // Lies over the picture, so that the mouse is caught wherever it is pressed.
@@ -80,31 +126,71 @@ void LiveVideoWidget::setUpCaption()
     m_liveCaption->hide();
 }
 
+void LiveVideoWidget::setUpOpeningNote()
+{
+    m_openingNote = new QLabel(tr("The camera is being opened. Please wait..."), this);
+    m_openingNote->setPalette(blackWithGreenText(m_openingNote->palette()));
+    m_openingNote->setFont(QFont(QStringLiteral("Arial"), 24, 5));
+    m_openingNote->setWordWrap(true);
+    m_openingNote->setAlignment(Qt::AlignCenter);
+    m_openingNote->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_openingNote->hide();
+    m_openingTimer = new QTimer(this);
+    m_openingTimer->setSingleShot(true);
+    m_openingTimer->setInterval(noteworthyOpening);
+    connect(m_openingTimer, &QTimer::timeout, m_openingNote, &QWidget::show);
+    connect(&m_capture->facts, &CaptureFacts::changed, this, &LiveVideoWidget::followFacts);
+}
+
+void LiveVideoWidget::followFacts()
+{
+    if (facts().now().camera.state != CameraState::Opening) {
+        m_openingTimer->stop();
+        m_openingNote->hide();
+    } else if (!m_openingTimer->isActive() && m_openingNote->isHidden()) {
+        m_openingTimer->start();
+    }
+}
+
+const CaptureFacts &LiveVideoWidget::facts() const
+{
+    return m_capture->facts;
+}
+
 void LiveVideoWidget::Create()
 {
-    if (m_capture.created)
+    if (m_capture->data.created)
         return;
-    m_capture.Create();
-    if (!m_capture.supported) {
+    m_capture->data.Create();
+    if (!m_capture->data.supported) {
         WebcamUtil::CriticalMessage(tr("Not Suport"), this);
         return;
     }
     // A missing camera is told by the dialog, together with a missing microphone.
-    m_isVideoValid = m_capture.hasVideoDevice;
-    m_isAudioValid = true;
+    const bool hasCamera = m_capture->data.hasVideoDevice;
+    m_capture->facts.change([hasCamera](Facts &now) {
+        now.camera = {hasCamera ? CameraState::Opening : CameraState::None, Cause::None};
+        now.canReopen = false;
+        now.sound = SoundState::There;
+    });
+}
+
+void LiveVideoWidget::lookForCamera()
+{
+    m_capture->devicesChanged();
 }
 
 bool LiveVideoWidget::isCreate() const
 {
-    return m_capture.created;
+    return m_capture->data.created;
 }
 
 void LiveVideoWidget::Start()
 {
-    if (!m_capture.created)
+    if (!m_capture->data.created)
         return;
     m_liveCaption->hide();
-    m_capture.Start();
+    m_capture->data.Start();
     m_liveCaption->show();
     m_overlay->setGeometry(rect());
     m_overlay->show();
@@ -112,16 +198,22 @@ void LiveVideoWidget::Start()
 
 void LiveVideoWidget::Stop()
 {
-    m_capture.Stop();
+    m_capture->data.Stop();
     endSeries();
 }
 
 void LiveVideoWidget::Release()
 {
-    if (m_capture.created)
-        m_capture.Release();
+    if (m_capture->data.created)
+        m_capture->data.Release();
     endSeries();
-    m_isVideoValid = false;
+    const bool isFinishing = isFinishingMovie();
+    m_capture->facts.change([isFinishing](Facts &now) {
+        if (now.hasCamera())
+            now.camera = {CameraState::None, Cause::None};
+        if (now.isMovieRunning())
+            now.movie.state = isFinishing ? MovieState::Finishing : MovieState::None;
+    });
 }
 
 void LiveVideoWidget::endSeries()
@@ -132,12 +224,12 @@ void LiveVideoWidget::endSeries()
 
 void LiveVideoWidget::Reset()
 {
-    m_capture.Reset();
+    m_capture->data.Reset();
 }
 
 void LiveVideoWidget::showEvent(QShowEvent *)
 {
-    m_capture.Reset();
+    m_capture->data.Reset();
     update();
 }
 
@@ -145,47 +237,73 @@ void LiveVideoWidget::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
     m_overlay->setGeometry(rect());
+    m_openingNote->setGeometry(rect());
 }
 
 void LiveVideoWidget::setResolution(const QString &text)
 {
     const QStringList parts = text.split(QRegExp(QStringLiteral("x")));
-    if (m_capture.created)
-        m_capture.SetResolution(parts.value(0).toInt(), parts.value(1).toInt());
+    if (m_capture->data.created)
+        m_capture->data.SetResolution(parts.value(0).toInt(), parts.value(1).toInt());
 }
 
 QStringList LiveVideoWidget::GetResoList() const
 {
-    return m_capture.GetResoList();
+    return m_capture->data.GetResoList();
 }
 
 QStringList LiveVideoWidget::getVideoDeviceList()
 {
-    return m_capture.GetVideoDeviceList();
+    return m_capture->data.GetVideoDeviceList();
 }
 
 void LiveVideoWidget::setVideoDevice(int index)
 {
-    m_capture.SetVideoDevice(index);
+    m_capture->data.SetVideoDevice(index);
 }
 
 QSize LiveVideoWidget::getNativeSize() const
 {
-    return {m_capture.nativeWidth, m_capture.nativeHeight};
+    return {m_capture->data.nativeWidth, m_capture->data.nativeHeight};
 }
 
 bool LiveVideoWidget::isVeltrixCam() const
 {
-    return m_capture.isVeltrixCam;
+    return m_capture->data.isVeltrixCam;
+}
+
+void LiveVideoWidget::announcePhoto()
+{
+    m_capture->facts.change([](Facts &now) { now.photo = {PhotoState::Pending, Cause::None, {}, {}}; });
 }
 
 QString LiveVideoWidget::SaveBmp()
 {
-    if (!m_capture.created)
+    if (isBusy())
         return {};
+    if (!m_capture->data.created) {
+        m_capture->facts.change([](Facts &now) { now.photo = {PhotoState::Failed, Cause::Camera, {}, {}}; });
+        return {};
+    }
+    const Waiting waiting(this);
     const QString name = WebcamUtil::CreatePhotofilename();
-    const QString path = WebcamUtil::getTemporaryPath() + QLatin1Char('/') + name;
-    return m_capture.SaveBitmap(path) ? name : QString();
+    m_capture->facts.change([&name](Facts &now) {
+        now.photo = {PhotoState::Pending, Cause::None, name, {}};
+    });
+    const bool isSaved = m_capture->data.SaveBitmap(WebcamUtil::getTemporaryPath() + QLatin1Char('/') + name);
+    const Cause why = isSaved ? Cause::None : causeOf(m_capture->data.lastPhotoFault());
+    m_capture->facts.change([&](Facts &now) {
+        now.photo = {isSaved ? PhotoState::Done : PhotoState::Failed, why, isSaved ? name : QString(), {}};
+        now.hasRoom = now.hasRoom && why != Cause::Disk;
+    });
+    return isSaved ? name : QString();
+}
+
+bool LiveVideoWidget::hasRoom()
+{
+    const bool hasRoom = WebcamUtil::chkdiskFreeSpace();
+    m_capture->facts.change([hasRoom](Facts &now) { now.hasRoom = hasRoom; });
+    return hasRoom;
 }
 
 void LiveVideoWidget::ContinuesShot(int max)
@@ -199,7 +317,7 @@ void LiveVideoWidget::ContinuesShot(int max)
 void LiveVideoWidget::execShot()
 {
     const QString name = WebcamUtil::CreatePhotofilename();
-    m_capture.SaveBitmap(name);
+    m_capture->data.SaveBitmap(name);
     m_shotList.append(name);
     ++m_shotCount;
     if (m_shotCount >= m_shotLimit) {
@@ -210,70 +328,117 @@ void LiveVideoWidget::execShot()
 
 bool LiveVideoWidget::Record()
 {
-    m_moviePath = WebcamUtil::CreateMoviefilename();
-    m_capture.Record(m_moviePath);
-    if (warnOfInvalidDevices())
+    if (isBusy())
         return false;
-    if (!m_capture.IsRecording()) {
+    const Waiting waiting(this);
+    const QString path = WebcamUtil::CreateMoviefilename();
+    m_capture->facts.change([&path](Facts &now) { now.movie = {MovieState::None, Cause::None, path}; });
+    m_capture->data.Record(path);
+    if (warnOfInvalidDevices()) {
+        dropMovie();
+        return false;
+    }
+    if (!m_capture->data.IsRecording()) {
         // With both devices at hand only the file can have been refused.
         WebcamUtil::ShowDiskWorningMessage(this);
         return false;
     }
-    const QString previewPath = WebcamUtil::previewName(m_moviePath);
+    m_capture->facts.change([](Facts &now) {
+        now.movie.state = MovieState::Recording;
+        now.sound = SoundState::There;
+    });
+    const QString previewPath = WebcamUtil::previewName(path);
     // A movie of the same second is replaced, and so is its preview.
     WebcamUtil::deletetmpfile(previewPath);
-    m_capture.SaveBitmap(previewPath);
+    m_capture->data.SaveBitmap(previewPath);
     return true;
+}
+
+// One that began before its microphone was found to be of no use.
+void LiveVideoWidget::dropMovie()
+{
+    if (!m_capture->data.IsRecording())
+        return;
+    m_capture->data.RecordStop();
+    WebcamUtil::deletetmpfile(moviePath());
+}
+
+QString LiveVideoWidget::invalidAudioText()
+{
+    return tr("The audio device is invalid. Please confirm whether the device is correctly connected.");
 }
 
 // The blank at the end of two of the texts belongs to them, for their translations.
 bool LiveVideoWidget::warnOfInvalidDevices()
 {
     QString warning;
-    const bool isAudioValid = m_capture.IsValidAudioDevice();
-    if (!m_capture.IsValidVideoDevice()) {
-        m_isVideoValid = false;
+    const bool isAudioValid = m_capture->data.IsValidAudioDevice();
+    if (!m_capture->data.IsValidVideoDevice())
         warning = isAudioValid
                       ? tr("The video device is invalid. Please confirm whether the device is correctly "
                            "connected. ")
                       : tr("The video device and the audio device are invalid. Please confirm whether the "
                            "device is correctly connected. ");
-    } else if (!isAudioValid) {
-        warning =
-            tr("The audio device is invalid. Please confirm whether the device is correctly connected.");
-    }
+    else if (!isAudioValid)
+        warning = invalidAudioText();
+    if (!isAudioValid)
+        m_capture->facts.change([](Facts &now) { now.sound = SoundState::Missing; });
     if (warning.isEmpty())
         return false;
-    m_isAudioValid = m_isAudioValid && isAudioValid;
     WebcamUtil::WarningMessage(warning, this);
     return true;
 }
 
 void LiveVideoWidget::RecordStop()
 {
-    m_capture.RecordStop();
+    const Waiting waiting(this);
+    m_capture->data.RecordStop();
+    const bool isFinishing = isFinishingMovie();
+    const bool hadHole = m_capture->data.hadSoundHole();
+    m_capture->facts.change([=](Facts &now) {
+        now.movie.state = isFinishing ? MovieState::Finishing : MovieState::None;
+        now.sound = hadHole ? SoundState::LostInMovie : SoundState::There;
+    });
+}
+
+QString LiveVideoWidget::moviePath() const
+{
+    return facts().now().movie.path;
+}
+
+bool LiveVideoWidget::isVideoValid() const
+{
+    return facts().now().hasCamera();
+}
+
+bool LiveVideoWidget::isAudioValid() const
+{
+    return facts().now().sound != SoundState::Missing;
 }
 
 bool LiveVideoWidget::isFinishingMovie()
 {
-    return m_capture.isFinishingMovie();
+    return m_capture->data.isFinishingMovie();
 }
 
 void LiveVideoWidget::Zoomin()
 {
-    if (m_capture.created)
-        m_capture.ZoomIn();
+    if (m_capture->data.created)
+        m_capture->data.ZoomIn();
 }
 
 void LiveVideoWidget::Zoomout()
 {
-    if (m_capture.created)
-        m_capture.ZoomOut();
+    if (m_capture->data.created)
+        m_capture->data.ZoomOut();
 }
 
 void LiveVideoWidget::slotdisconnectDevice()
 {
-    emit disconnectDevice();
+    if (isBusy())
+        m_isLossToTell = true;
+    else
+        emit disconnectDevice();
 }
 
 // The picture is painted on the frame inside; the view itself paints nothing.

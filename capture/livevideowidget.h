@@ -1,19 +1,25 @@
 #pragma once
 
-#include "platform/driverproxy.h"
-#include "platform/livevideodata.h"
+#include "capture/capturefacts.h"
+#include "capture/driverproxy.h"
 
 #include <QCursor>
 #include <QStringList>
 #include <QWidget>
 
+#include <memory>
+
+class LiveCapture;
 class QFrame;
 class QLabel;
 class QTimer;
 
 // The live picture of the camera with its "LIVE" caption: opens and closes the camera, takes photos into the
 // working folder, records movies, and zooms by a two-contact drag on the board where the camera is the
-// maker's own.
+// maker's own. What is so with all of them stands in facts().
+//
+// SaveBmp(), Record() and RecordStop() wait for a camera or a disk. The windows live on meanwhile, and so
+// signals come and timers tick; the loss of the camera is told after them.
 class LiveVideoWidget : public QWidget, public IDriverEventListener
 {
     Q_OBJECT
@@ -26,9 +32,16 @@ public:
     explicit LiveVideoWidget(QWidget *parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags());
     ~LiveVideoWidget() override;
 
+    // What is so now; facts().changed() tells of every change.
+    const CaptureFacts &facts() const;
+    // Whether one of the operations that wait is under way.
+    bool isBusy() const { return m_busy > 0; }
+
     // Opens the camera, unless it is open. Says so when cameras cannot be used at all on this machine; a
-    // missing camera only shows in isVideoValid().
+    // missing camera only shows in isVideoValid(). The camera that was open before comes first.
     void Create();
+    // Looks whether a camera that was lost, or a new one, could be opened now: Facts::canReopen.
+    void lookForCamera();
     bool isCreate() const;
     // Starts the live picture; does nothing while no camera is open.
     void Start();
@@ -52,21 +65,30 @@ public:
     QSize getNativeSize() const;
     bool isVeltrixCam() const;
 
-    // Saves a photo in the working folder. Its bare file name; empty when it could not be saved.
+    // Says that SaveBmp() is about to be called: the photo is pending from now on.
+    void announcePhoto();
+    // Saves a photo in the working folder, and answers when the file is whole. Its bare file name; empty when
+    // it could not be saved, and why in facts(). A camera that is still opening is waited for.
     QString SaveBmp();
+    // Measures whether the disk has room for a capture.
+    bool hasRoom();
 
     // Starts a movie in the working folder, with its preview picture. False, after a warning, when the camera
-    // or the microphone is not usable.
+    // or the microphone is not usable; nothing is left of the movie then.
     bool Record();
+    // Ends the movie. Its file may be finished in the background: the movie is finishing then.
     void RecordStop();
     // Whether the file of a movie that was stopped is not yet whole.
     bool isFinishingMovie();
     // Full path of the latest movie; empty before the first.
-    QString moviePath() const { return m_moviePath; }
+    QString moviePath() const;
 
-    // Whether the devices were usable when last looked at, by Create(), Record() or Release().
-    bool isVideoValid() const { return m_isVideoValid; }
-    bool isAudioValid() const { return m_isAudioValid; }
+    // Whether a camera is open and not lost. True before anybody has looked.
+    bool isVideoValid() const;
+    // Whether the microphone was usable when last looked at, by Record(); Create() hopes for the best.
+    bool isAudioValid() const;
+    // What is said of a microphone that is not.
+    static QString invalidAudioText();
 
     bool eventFilter(QObject *watched, QEvent *event) override;
     QPaintEngine *paintEngine() const override;
@@ -103,19 +125,25 @@ private:
     void setUpPictureFrame();
     void setUpOverlay();
     void setUpCaption();
+    void setUpOpeningNote();
     void endSeries();
     bool warnOfInvalidDevices();
+    void dropMovie();
+    void followFacts();
     void followGesture(int distance);
 
-    LiveVideoData m_capture;
-    QString m_moviePath;
+    class Waiting;
+
+    const std::unique_ptr<LiveCapture> m_capture;
+    int m_busy = 0;
+    bool m_isLossToTell = false; // held back while something waits
     QLabel *m_liveCaption = nullptr;
+    QLabel *m_openingNote = nullptr; // of a camera that takes its time
+    QTimer *m_openingTimer = nullptr;
     QTimer *m_shotTimer = nullptr;
     int m_shotLimit = 0;
     int m_shotCount = 0;
     QFrame *m_pictureFrame = nullptr;
-    bool m_isVideoValid = true;
-    bool m_isAudioValid = true;
     QStringList m_shotList;
     int m_lastShadowDistance = 0; // 0 while no gesture is under way
     bool m_isZoomDrag = false;

@@ -17,11 +17,16 @@ TimerWidget::TimerWidget(QWidget *parent, Qt::WindowFlags flags)
     colours.setColor(QPalette::Window, Qt::black);
     colours.setColor(QPalette::WindowText, Qt::green);
     setPalette(colours);
-    setAutoFillBackground(true); // the caption lies over the live picture
     setFont(QFont("Arial", 24, 5));
 
     m_ticker->setInterval(tickMilliseconds);
     connect(m_ticker, &QTimer::timeout, this, &TimerWidget::showtime);
+}
+
+void TimerWidget::setText(const QString &text)
+{
+    setAutoFillBackground(!text.isEmpty()); // it lies over a picture
+    QLabel::setText(text);
 }
 
 void TimerWidget::setcount(int seconds)

@@ -40,6 +40,9 @@ public:
     // As Stop(), and clears caption and mode.
     void reset();
 
+    // The caption; without a text nothing of it covers what lies below.
+    void setText(const QString &text);
+
     // Hides the caption. A mode other than the present one also clears the time and the text, and puts the
     // caption at the right end of the screen, wide enough for what the mode will show.
     void SetMode(TimerMode mode);

@@ -1,15 +1,26 @@
-# What every target of the project shares: warnings as errors, includes written from the project's root.
+# What every target of the project shares: warnings as errors.
 add_library(orvane_common INTERFACE)
 target_compile_options(orvane_common INTERFACE -Wall -Wextra -Werror)
 target_compile_definitions(orvane_common INTERFACE
   QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_USE_QSTRINGBUILDER)
-target_include_directories(orvane_common INTERFACE ${PROJECT_SOURCE_DIR})
 
-# orvane_add_folder(<folder> SOURCES ... LINKS ...): the static library of one folder.
+# orvane_share_headers(<target> <scope> <folder>): lets the target, or whoever links it, include "<folder>/...". The
+# include path has a link to that folder alone, so an include of a folder that is not linked finds nothing.
+function(orvane_share_headers target scope folder)
+  set(path ${PROJECT_BINARY_DIR}/include/${target})
+  get_filename_component(parent ${path}/${folder} DIRECTORY)
+  file(MAKE_DIRECTORY ${parent})
+  file(CREATE_LINK ${PROJECT_SOURCE_DIR}/${folder} ${path}/${folder} SYMBOLIC)
+  target_include_directories(${target} ${scope} ${path})
+endfunction()
+
+# orvane_add_folder(<folder> SOURCES ... LINKS ... [HIDES ...]): the static library of one folder. Whoever links it may
+# include its headers and those of LINKS; what HIDES names serves its own sources alone.
 function(orvane_add_folder folder)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;HIDES" ${ARGN})
   add_library(orvane_${folder} STATIC ${ARG_SOURCES})
-  target_link_libraries(orvane_${folder} PUBLIC orvane_common ${ARG_LINKS})
+  orvane_share_headers(orvane_${folder} PUBLIC ${folder})
+  target_link_libraries(orvane_${folder} PUBLIC orvane_common ${ARG_LINKS} PRIVATE ${ARG_HIDES})
 endfunction()
 
 # orvane_add_test(<name> SOURCES ... LINKS ... [TIMEOUT seconds] [SCREEN WxH]): a QtTest program that ctest runs on a
@@ -24,7 +35,7 @@ function(orvane_add_test name)
   endif()
   add_executable(${name} ${ARG_SOURCES})
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/tests)
-  target_link_libraries(${name} PRIVATE ${ARG_LINKS} Qt5::Test)
+  target_link_libraries(${name} PRIVATE orvane_testheaders ${ARG_LINKS} Qt5::Test)
   add_test(NAME ${name} COMMAND ${PROJECT_SOURCE_DIR}/tests/support/on-own-display --screen ${ARG_SCREEN}
     ${PROJECT_BINARY_DIR} $<TARGET_FILE:${name}>)
   set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT})

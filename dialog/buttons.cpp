@@ -2,137 +2,116 @@
 
 #include "widgets/stretchbitmapbutton.h"
 
-#include <algorithm>
+namespace
+{
+
+// A button: its bitmaps' name, its caption, and what pressing it does.
+struct Entry {
+    const char *bitmap;
+    const char *caption;
+    void (CPictorelDlg::*command)();
+};
+
+// By their numbers. A new button is a new entry, and a place in a row of screenFor().
+const Entry entries[] = {
+    {"Live", QT_TRANSLATE_NOOP("CPictorelDlg", "Live"), &CPictorelDlg::OnLive},
+    {"Photo", QT_TRANSLATE_NOOP("CPictorelDlg", "Photo"), &CPictorelDlg::OnPhoto},
+    {"PhotoMulti", QT_TRANSLATE_NOOP("CPictorelDlg", "Continuous\nCapture"), &CPictorelDlg::OnPhotSeq},
+    {"Movie", QT_TRANSLATE_NOOP("CPictorelDlg", "Movie"), &CPictorelDlg::OnRecord},
+    {"MovieStop", QT_TRANSLATE_NOOP("CPictorelDlg", "Stop"), &CPictorelDlg::OnMovieStop},
+    {"List", QT_TRANSLATE_NOOP("CPictorelDlg", "List"), &CPictorelDlg::OnList},
+    {"Settings", QT_TRANSLATE_NOOP("CPictorelDlg", "Settings"), &CPictorelDlg::OnSettingDlg},
+    {"Close", QT_TRANSLATE_NOOP("CPictorelDlg", "Exit"), &CPictorelDlg::OnClose},
+    {"Apply", QT_TRANSLATE_NOOP("CPictorelDlg", "Accept"), &CPictorelDlg::OnAply},
+    {"Retry", QT_TRANSLATE_NOOP("CPictorelDlg", "Retry"), &CPictorelDlg::OnRetake},
+    {"MoviePlay", QT_TRANSLATE_NOOP("CPictorelDlg", "Play"), &CPictorelDlg::OnMoviePlay},
+    {"MoviePause", QT_TRANSLATE_NOOP("CPictorelDlg", "Pause"), &CPictorelDlg::OnMoviePause},
+    {"Show", QT_TRANSLATE_NOOP("CPictorelDlg", "View"), &CPictorelDlg::OnShow},
+    {"SwitchPhoto", QT_TRANSLATE_NOOP("CPictorelDlg", "Movie /\n    Photo"), &CPictorelDlg::OnPhotoChange},
+    {"SwitchMovie", QT_TRANSLATE_NOOP("CPictorelDlg", "Photo /\n    Movie"), &CPictorelDlg::OnMovieChange},
+    {"Back", QT_TRANSLATE_NOOP("CPictorelDlg", "Back"), nullptr},
+    {"Load", QT_TRANSLATE_NOOP("CPictorelDlg", "Load"), &CPictorelDlg::OnDirLoad},
+    {"PutPhoto", QT_TRANSLATE_NOOP("CPictorelDlg", "Paste"), &CPictorelDlg::OnVXS},
+    {"PutMovie", QT_TRANSLATE_NOOP("CPictorelDlg", "Paste"), &CPictorelDlg::OnVXS},
+};
+static_assert(sizeof entries / sizeof *entries == buttonCount, "every button has an entry");
+
+} // namespace
 
 void CPictorelDlg::SetButtonInstance()
 {
-    m_live = createButton("Live");
-    m_photo = createButton("Photo");
-    m_photoMulti = createButton("PhotoMulti");
-    m_movie = createButton("Movie");
-    m_movieStop = createButton("MovieStop");
-    m_list = createButton("List");
-    m_settings = createButton("Settings");
-    m_close = createButton("Close");
-    m_apply = createButton("Apply");
-    m_retry = createButton("Retry");
-    m_moviePlay = createButton("MoviePlay");
-    m_moviePause = createButton("MoviePause");
-    m_show = createButton("Show");
-    m_switchPhoto = createButton("SwitchPhoto");
-    m_switchMovie = createButton("SwitchMovie");
-    m_back = createButton("Back");
-    m_load = createButton("Load");
-    m_rowButtonWidth = m_live->width();
-    m_rowButtonHeight = m_live->height();
+    for (int id = 0; id < int(Button::PutPhoto); ++id)
+        createButton(Button(id));
     placeCornerButtons();
     setVXSButton();
     setTabSequence();
-    hideAllButton();
+    m_screen.hideAllButton();
+    showButtons(m_screen);
 }
 
-CStretchBitmapButton *CPictorelDlg::createButton(const QString &name)
+void CPictorelDlg::createButton(Button id)
 {
-    auto *button = new CStretchBitmapButton(name, this);
-    button->setObjectName(name);
-    button->installEventFilter(this);
-    m_buttons.append(button);
-    return button;
+    const Entry &entry = entries[int(id)];
+    auto *made = new CStretchBitmapButton(entry.bitmap, this);
+    made->setObjectName(entry.bitmap);
+    made->installEventFilter(this);
+    if (entry.command)
+        connect(made, &QPushButton::clicked, this, entry.command);
+    m_buttons.append(made);
 }
 
 void CPictorelDlg::setVXSButton()
 {
-    m_putPhoto = createButton("PutPhoto");
-    m_putMovie = createButton("PutMovie");
+    createButton(Button::PutPhoto);
+    createButton(Button::PutMovie);
 }
 
 // Close and Settings share the height of the row, at the right end of it.
 void CPictorelDlg::placeCornerButtons()
 {
-    const int halfHeight = m_rowButtonHeight / 2;
-    if (halfHeight <= m_close->height() - 1) {
-        const QSize size = m_close->size().scaled(m_rowButtonWidth, halfHeight, Qt::KeepAspectRatio);
-        m_close->resize(size);
-        m_settings->resize(size);
+    CStretchBitmapButton *close = button(Button::Close);
+    CStretchBitmapButton *settings = button(Button::Settings);
+    m_layout.rowButton = button(Button::Live)->baseSize();
+    QSize closeSize = close->baseSize();
+    QSize settingsSize = settings->baseSize();
+    const int halfHeight = m_layout.rowButton.height() / 2;
+    if (halfHeight <= closeSize.height() - 1) {
+        closeSize.scale(m_layout.rowButton.width(), halfHeight, Qt::KeepAspectRatio);
+        settingsSize = closeSize;
     }
-    m_close->move(int(m_screenWidth - m_close->width()), int(m_screenHeight - m_close->height()));
-    m_settings->move(m_close->x(), m_close->y() - m_settings->height());
+    m_layout.closeButton = closeSize;
+    const QSize &screen = m_layout.screen;
+    close->setGeometry(
+        {{screen.width() - closeSize.width(), screen.height() - closeSize.height()}, closeSize});
+    settings->setGeometry({{close->x(), close->y() - settingsSize.height()}, settingsSize});
 }
 
 void CPictorelDlg::SetButtonCaptionText()
 {
-    m_live->setCaptionText(tr("Live"));
-    m_photo->setCaptionText(tr("Photo"));
-    m_photoMulti->setCaptionText(tr("Continuous\nCapture"));
-    m_movie->setCaptionText(tr("Movie"));
-    m_movieStop->setCaptionText(tr("Stop"));
-    m_list->setCaptionText(tr("List"));
-    m_settings->setCaptionText(tr("Settings"));
-    m_close->setCaptionText(tr("Exit"));
-    m_apply->setCaptionText(tr("Accept"));
-    m_retry->setCaptionText(tr("Retry"));
-    m_moviePlay->setCaptionText(tr("Play"));
-    m_moviePause->setCaptionText(tr("Pause"));
-    m_show->setCaptionText(tr("View"));
-    m_switchPhoto->setCaptionText(tr("Movie /\n    Photo"));
-    m_switchMovie->setCaptionText(tr("Photo /\n    Movie"));
-    m_back->setCaptionText(tr("Back"));
-    m_putPhoto->setCaptionText(tr("Paste"));
-    m_putMovie->setCaptionText(tr("Paste"));
-    m_load->setCaptionText(tr("Load"));
+    for (int id = 0; id < m_buttons.size(); ++id)
+        m_buttons[id]->setCaptionText(tr(entries[id].caption));
 }
 
 // One sequence that runs from left to right in every row.
 void CPictorelDlg::setTabSequence()
 {
-    const std::initializer_list<CStretchBitmapButton *> sequence = {
-        m_apply,       m_retry,       m_live,  m_photo,      m_putPhoto,  m_show,
-        m_photoMulti,  m_movieStop,   m_movie, m_moviePause, m_moviePlay, m_load,
-        m_switchPhoto, m_switchMovie, m_list,  m_settings,   m_close};
     CStretchBitmapButton *previous = nullptr;
-    for (CStretchBitmapButton *button : sequence) {
+    for (const Button id : {Button::Apply, Button::Retry, Button::Live, Button::Photo, Button::PutPhoto,
+                            Button::Show, Button::PhotoMulti, Button::MovieStop, Button::Movie,
+                            Button::MoviePause, Button::MoviePlay, Button::Load, Button::SwitchPhoto,
+                            Button::SwitchMovie, Button::List, Button::Settings, Button::Close}) {
         if (previous)
-            setTabOrder(previous, button);
-        previous = button;
+            setTabOrder(previous, button(id));
+        previous = button(id);
     }
 }
 
-void CPictorelDlg::connectButtons()
+void CPictorelDlg::SignalBlockAll(bool block)
 {
-    using Slot = void (CPictorelDlg::*)();
-    const std::initializer_list<std::pair<CStretchBitmapButton *, Slot>> commands = {
-        {m_live, &CPictorelDlg::OnLive},
-        {m_close, &CPictorelDlg::OnClose},
-        {m_movie, &CPictorelDlg::OnRecord},
-        {m_moviePlay, &CPictorelDlg::OnMoviePlay},
-        {m_movieStop, &CPictorelDlg::OnMovieStop},
-        {m_moviePause, &CPictorelDlg::OnMoviePause},
-        {m_photo, &CPictorelDlg::OnPhoto},
-        {m_retry, &CPictorelDlg::OnRetake},
-        {m_apply, &CPictorelDlg::OnAply},
-        {m_load, &CPictorelDlg::OnDirLoad},
-        {m_putPhoto, &CPictorelDlg::OnVXS},
-        {m_putMovie, &CPictorelDlg::OnVXS},
-        {m_list, &CPictorelDlg::OnList},
-        {m_show, &CPictorelDlg::OnShow},
-        {m_photoMulti, &CPictorelDlg::OnPhotSeq},
-        {m_switchPhoto, &CPictorelDlg::OnPhotoChange},
-        {m_switchMovie, &CPictorelDlg::OnMovieChange},
-        {m_settings, &CPictorelDlg::OnSettingDlg},
-    };
-    for (const auto &[button, slot] : commands)
-        connect(button, &QPushButton::clicked, this, slot);
-}
-
-QVector<CStretchBitmapButton *>
-CPictorelDlg::buttonsExcept(std::initializer_list<const CStretchBitmapButton *> excepted) const
-{
-    QVector<CStretchBitmapButton *> buttons;
-    for (CStretchBitmapButton *button : m_buttons) {
-        if (std::find(excepted.begin(), excepted.end(), button) == excepted.end())
-            buttons.append(button);
+    for (int id = 0; id < m_buttons.size(); ++id) {
+        if (Button(id) != Button::PutPhoto && Button(id) != Button::PutMovie && Button(id) != Button::Load)
+            m_buttons[id]->blockSignals(block);
     }
-    return buttons;
 }
 
 // Whoever works with the keyboard sees where the focus went when the row changed under it. Nobody else is to
@@ -142,16 +121,4 @@ void CPictorelDlg::focusOn(QWidget *widget)
     if (QWidget *meanwhile = focusWidget())
         meanwhile->clearFocus();
     widget->setFocus(m_isKeyboardUsed ? Qt::TabFocusReason : Qt::OtherFocusReason);
-}
-
-// The button that is most likely pressed next on the screen as it is.
-void CPictorelDlg::focusMainButton()
-{
-    for (CStretchBitmapButton *button :
-         {m_apply, m_photo, m_movieStop, m_moviePause, m_moviePlay, m_photoMulti, m_live, m_list, m_close}) {
-        if (!button->isHidden() && button->isEnabled()) {
-            focusOn(button);
-            return;
-        }
-    }
 }

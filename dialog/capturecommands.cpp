@@ -8,7 +8,6 @@
 #include "widgets/moviewidget.h"
 #include "widgets/picturelistview.h"
 #include "widgets/picturewidget.h"
-#include "widgets/stretchbitmapbutton.h"
 
 #include <QCoreApplication>
 #include <QProcess>
@@ -17,7 +16,6 @@ void CPictorelDlg::OnLive()
 {
     if (m_mode == DisplayMode::Live)
         return;
-    allWidgethide();
     hiddenPictList();
     if (m_movieView->isCreated()) {
         m_movieView->Stop();
@@ -26,16 +24,17 @@ void CPictorelDlg::OnLive()
     m_isErrorMode = false;
     if (!m_liveView->isCreate())
         openCamera();
-    m_liveView->setGeometry(m_viewRect);
+    showLive();
+    m_isMovieShown = false;
+}
+
+void CPictorelDlg::showLive()
+{
+    m_liveView->setGeometry(viewRect());
     m_liveView->Start();
-    m_movieView->hide();
-    m_pictureView->hide();
     m_listView->Reset();
-    m_listView->hide();
     m_timerView->Stop();
     TransitionMode(DisplayMode::Live);
-    m_isMovieShown = false;
-    update();
 }
 
 void CPictorelDlg::OnPhoto()
@@ -43,18 +42,38 @@ void CPictorelDlg::OnPhoto()
     stop_window();
     if (refuseOnFullDisk())
         return;
-    allWidgethide();
     playShutterSound();
+    m_pictureView->Release();
+    m_liveView->announcePhoto();
     TransitionMode(DisplayMode::Photo);
-    if (m_hasPhotoPreview)
-        m_liveView->show();
     m_currentPhoto.clear();
     m_currentPhoto = m_liveView->SaveBmp();
-    showInPictureView(m_currentPhoto, QString());
-    m_pictureView->setLabelText(tr("Still"));
-    m_pictureView->show();
     m_isMovieShown = false;
-    update();
+    if (m_currentPhoto.isEmpty())
+        tellOfFailedPhoto();
+    refreshScreen();
+}
+
+// The photo as it was taken, while its file is still being written.
+void CPictorelDlg::showTakenPicture()
+{
+    const Facts::Photo &photo = facts().photo;
+    if (photo.picture.isNull() || (m_mode != DisplayMode::Photo && m_mode != DisplayMode::Series))
+        return;
+    m_pictureView->showPicture(photo.name, photo.picture);
+    if (m_mode == DisplayMode::Photo)
+        m_pictureView->setLabelText(tr("Still"));
+}
+
+// The picture stays empty. A camera that was lost is told as such.
+void CPictorelDlg::tellOfFailedPhoto()
+{
+    m_pictureView->Release();
+    const Facts now = facts();
+    if (now.photo.why == Cause::Disk)
+        WebcamUtil::ShowDiskWorningMessage(this);
+    else if (now.hasCamera())
+        WebcamUtil::WarningMessage(tr("Save failed."), this);
 }
 
 void CPictorelDlg::OnRetake()
@@ -70,16 +89,10 @@ void CPictorelDlg::OnAply()
 {
     if (m_movieView->isCreated())
         m_movieView->Release();
-    m_movieView->hide();
-    m_liveView->hide();
-    const bool hasPhotoPreview = m_hasPhotoPreview;
-    m_hasPhotoPreview = false;
-    TransitionMode(DisplayMode::Photo);
-    m_hasPhotoPreview = hasPhotoPreview;
+    TransitionMode(DisplayMode::Photo, Variant::Accepted);
     // The viewer keeps what it has scaled down; the larger place deserves the photo itself.
     showInPictureView(m_currentPhoto, QString());
     m_pictureView->setLabelText(tr("Still"));
-    update();
 }
 
 void CPictorelDlg::OnPhotSeq()
@@ -100,49 +113,40 @@ void CPictorelDlg::OnPhotSeq()
 
 void CPictorelDlg::startSeries()
 {
-    allWidgethide();
     m_shotsTaken = 0;
     m_seriesList.clear();
     m_pictureView->Release();
-    m_pictureView->Loadbmp(QString(), QString());
     m_timerView->reset();
     m_timerView->setcount(m_autoShootingTime);
-
+    m_isMovieShown = false;
+    m_isSeriesRunning = true;
     TransitionMode(DisplayMode::Series);
-    m_liveView->show();
-    m_listView->Release();
     m_listView->setSelectionMode(QAbstractItemView::NoSelection);
-    m_listView->show();
-    m_pictureView->show();
 
-    disableAllButton(false);
-    m_settings->hide();
-    m_photoMulti->setEnabled(true);
-    m_live->setEnabled(true);
-    m_close->setEnabled(false);
-    focusMainButton();
-
-    if (m_isAutoShooting) {
-        m_timerView->show();
+    if (m_isAutoShooting)
         m_timerView->run();
-    } else {
+    else
         OnShot();
-    }
     // After run(): the first tick of a series passes unseen, and whoever pressed has a second to look up.
     m_timerView->SetMode(TimerMode::Countdown);
-    m_isMovieShown = false;
-    update();
 }
 
 void CPictorelDlg::OnShot()
 {
+    // The timer may tick while a shot is still being written, on a slow disk.
+    if (m_liveView->isBusy())
+        return;
     stop_window();
     playShutterSound();
-    m_currentPhoto.clear();
-    m_currentPhoto = m_liveView->SaveBmp();
-    showInPictureView(m_currentPhoto, QString());
     m_pictureView->setLabelText(QString::number(m_shotsTaken + 1) + tr("/") +
                                 QString::number(m_continuousCount));
+    m_currentPhoto.clear();
+    m_currentPhoto = m_liveView->SaveBmp();
+    if (m_currentPhoto.isEmpty()) {
+        tellOfFailedPhoto();
+        finishSeries();
+        return;
+    }
     m_seriesList.append(m_currentPhoto);
     m_listView->AddPictureWithSelect(m_currentPhoto);
     ++m_shotsTaken;
@@ -152,24 +156,23 @@ void CPictorelDlg::OnShot()
 
 void CPictorelDlg::finishSeries()
 {
-    m_listView->hide();
-    m_liveView->hide();
-    m_pictureView->hide();
-    SetPictureListMode(m_seriesList);
     m_shotsTaken = 0;
+    m_isSeriesRunning = false;
     m_timerView->Stop();
-    m_timerView->hide();
     m_timerView->reset();
-    update();
+    if (m_seriesList.isEmpty())
+        OnLive();
+    else
+        SetPictureListMode(m_seriesList);
 }
 
 bool CPictorelDlg::refuseOnFullDisk()
 {
-    if (WebcamUtil::chkdiskFreeSpace())
+    if (m_liveView->hasRoom())
         return false;
     WebcamUtil::ShowDiskWorningMessage(this);
     m_isErrorMode = true;
-    setErrModeButtonEnable();
+    refreshScreen();
     return true;
 }
 

@@ -8,6 +8,22 @@
 #include "util/webcamutil.h"
 #include "widgets/moviewidget.h"
 
+#include <QTimer>
+
+#include <chrono>
+
+namespace
+{
+
+using namespace std::chrono_literals;
+
+// How soon a camera is tried that is there again. One that is there but cannot be opened is tried ever more
+// seldom.
+constexpr std::chrono::milliseconds firstReturn = 300ms;
+constexpr std::chrono::milliseconds longestReturn = 30s;
+
+} // namespace
+
 bool CPictorelDlg::selectVideoDevice()
 {
     const QStringList devices = m_liveView->getVideoDeviceList();
@@ -28,13 +44,13 @@ bool CPictorelDlg::selectVideoDevice()
 
 void CPictorelDlg::chkdevice()
 {
-    if (m_isVideoPresent && m_isAudioPresent)
+    if (m_liveView->isVideoValid() && m_liveView->isAudioValid())
         return;
     stop_window();
     QString warning = tr("Cannot find Video / Audio Devices.");
-    if (m_isAudioPresent)
+    if (m_liveView->isAudioValid())
         warning = tr("Cannot find Video Devices.");
-    else if (m_isVideoPresent)
+    else if (m_liveView->isVideoValid())
         warning = tr("Cannot find Audio Devices.");
     WebcamUtil::WarningMessage(warning, this);
 }
@@ -43,11 +59,12 @@ void CPictorelDlg::changeNodevicemode()
 {
     const bool isKnown = m_isErrorMode;
     m_isErrorMode = true;
+    m_isReturning = false;
     m_timerView->Stop();
-    if (m_movieView->isCreated() && m_movieView->isPlaying()) {
+    if (m_isPlaying) {
         m_movieView->pause();
         m_timerView->Pause();
-        showPlayButton();
+        m_isPlaying = false;
     }
     if (m_liveView->isCreate())
         m_liveView->Release();
@@ -56,6 +73,49 @@ void CPictorelDlg::changeNodevicemode()
         WebcamUtil::WarningMessage(
             tr("The video device is invalid. Please confirm whether the device is correctly connected. "),
             this);
-    m_isVideoPresent = false;
     TransitionMode(DisplayMode::Live);
+    m_liveView->lookForCamera();
+}
+
+// The facts have changed, in the middle of a command or by themselves.
+void CPictorelDlg::followFacts()
+{
+    if (!m_liveView)
+        return;
+    showTakenPicture();
+    refreshScreen();
+    if (m_liveView->isBusy())
+        return;
+    loadRecordedMovie();
+    // One that has lost its camera is told, and left, with the camera.
+    if (facts().movie.state == MovieState::Ended && facts().movie.why != Cause::Camera)
+        OnMovieStop();
+    followCamera();
+}
+
+// A camera that was lost, or has only now been plugged in, shows its picture without being asked for.
+void CPictorelDlg::followCamera()
+{
+    const Facts now = facts();
+    if (now.camera.state == CameraState::Live || !(now.canReopen || m_liveView->isCreate()))
+        m_returnTimer->setInterval(firstReturn);
+    if (now.camera.state == CameraState::Live && m_isReturning) {
+        m_isReturning = false;
+        m_isErrorMode = false;
+        if (m_mode == DisplayMode::Live)
+            showLive();
+    } else if (now.canReopen && m_mode == DisplayMode::Live && !m_returnTimer->isActive()) {
+        m_returnTimer->start();
+    }
+}
+
+void CPictorelDlg::reopenCamera()
+{
+    m_liveView->lookForCamera();
+    if (m_mode != DisplayMode::Live || m_liveView->isCreate() || !facts().canReopen)
+        return;
+    m_isReturning = true;
+    m_returnTimer->setInterval(qMin(2 * m_returnTimer->intervalAsDuration(), longestReturn));
+    openCamera();
+    m_liveView->Start();
 }

@@ -1,4 +1,4 @@
-// The screens.
+// The screens: what entering one does, and what is to be seen of it.
 
 #include "dialog/pictoreldlg.h"
 
@@ -10,136 +10,73 @@
 #include "widgets/picturewidget.h"
 #include "widgets/stretchbitmapbutton.h"
 
-namespace
-{
-// The strip of thumbnails takes this part of the height above the row.
-constexpr double stripsPerHeight = 5.0;
-} // namespace
-
-// The mode is stored last: while the new screen is built, m_mode is still the one that is being left.
-void CPictorelDlg::TransitionMode(DisplayMode mode)
+// The mode is stored last: while the new screen is entered, m_mode is still the one that is being left.
+void CPictorelDlg::TransitionMode(DisplayMode mode, Variant variant)
 {
     switch (mode) {
     case DisplayMode::Movie:
         SetMovieMode();
         break;
-    case DisplayMode::Photo:
-        SetPhotoMode();
+    case DisplayMode::Photo: // nothing but what is to be seen
         break;
     case DisplayMode::List:
         SetListMode();
         break;
     case DisplayMode::Series:
-        SetPhotSeqMode();
+        if (variant != Variant::Grid)
+            SetPhotSeqMode();
         break;
     case DisplayMode::Live:
     default:
         SetLiveMode();
     }
     m_mode = mode;
-    focusMainButton();
+    m_variant = variant;
+    showScreen(screenFor(situation(), m_screen), true);
 }
 
 void CPictorelDlg::SetLiveMode()
 {
-    if (!WebcamUtil::chkdiskFreeSpace() && !m_isErrorMode) {
+    if (!m_liveView->hasRoom() && !m_isErrorMode) {
         stop_window();
         WebcamUtil::ShowDiskWorningMessage(this);
         m_isErrorMode = true;
     }
     hiddenPictList();
-    m_pictureView->hide();
-    m_movieView->hide();
     m_timerView->Stop();
-    m_timerView->hide();
-    m_liveView->setVisible(m_isVideoPresent);
-    m_listView->hide();
-    m_isRecording = false;
-    setLivemodeButtonEnabled();
-    setErrModeButtonEnable();
+    m_isSeriesRunning = false;
 }
 
 void CPictorelDlg::SetMovieMode()
 {
-    m_liveView->hide();
-    m_movieView->setGeometry(m_viewRect);
-    setMovieModeButton();
-}
-
-void CPictorelDlg::SetPhotoMode()
-{
-    if (m_hasPhotoPreview) {
-        SetLivePhotoMode();
-        return;
-    }
-    m_pictureView->setGeometry(m_viewRect);
-    m_live->setGeometry(m_rowRect);
-    m_live->show();
-    setPhotoModeButtonEnabled();
-    m_close->setEnabled(true);
-}
-
-// The photo beside the live picture.
-void CPictorelDlg::SetLivePhotoMode()
-{
-    m_liveView->setGeometry(m_halfRect);
-    QRect mirrored = m_halfRect;
-    mirrored.setLeft(m_halfRect.right() + 1);
-    mirrored.setRight(2 * (m_halfRect.right() + 1) - m_halfRect.left() - 1);
-    m_pictureView->setGeometry(mirrored);
-
-    const double middle = width() * 0.5;
-    const int top = height() - 2 * m_rowButtonHeight;
-    m_apply->setGeometry(int(middle - m_rowButtonWidth), top, m_rowButtonWidth, m_rowButtonHeight);
-    m_retry->setGeometry(int(middle), top, m_rowButtonWidth, m_rowButtonHeight);
-
-    m_isRecording = false;
-    setLivePhotoModeButtonEnabled();
-    m_settings->show();
-    m_settings->setEnabled(false);
-    m_close->setEnabled(false);
+    m_isMovieLoaded = false;
+    m_isPlaying = false;
 }
 
 void CPictorelDlg::SetListMode()
 {
-    layOutStrip();
+    releaseStrip();
     m_pictureView->Release();
-    m_pictureView->setGeometry(m_halfRect);
-    setListButton();
+    // The list of movies offers the photos, also after the loss of a camera has led away from them.
+    m_offersPhotos = m_mode == DisplayMode::Movie || m_isMovieShown;
+    m_showsChoice = false;
+    m_isSeriesRunning = false;
 }
 
 // The live picture and the photo just taken side by side, above the strip.
 void CPictorelDlg::SetPhotSeqMode()
 {
-    const int areaHeight = layOutStrip();
-    const double halfWidth = width() * 0.5;
-    const QSize fitted = m_liveView->size().scaled(int(halfWidth), areaHeight, Qt::KeepAspectRatio);
-    const double x = (halfWidth - fitted.width()) * 0.5;
-    const int y = int((areaHeight - fitted.height()) * 0.5);
-    m_liveView->setGeometry(QRect(QPoint(int(x), y), fitted));
+    releaseStrip();
     m_liveView->Reset();
-    m_pictureView->setGeometry(QRect(QPoint(int(x + halfWidth), y), fitted));
     m_pictureView->setLabelText(QString());
-    m_isRecording = false;
-    setLivemodeButtonEnabled();
 }
 
-// Empties the strip of thumbnails and gives it its place above the row; returns the height above it.
-int CPictorelDlg::layOutStrip()
+// Its thumbnails take their size from the height that it has by then.
+void CPictorelDlg::releaseStrip()
 {
     m_listView->Release();
-    const double stripHeight = (height() - m_rowButtonHeight) / stripsPerHeight;
-    const double top = height() - (m_rowButtonHeight + stripHeight);
-    m_listView->setGeometry(0, int(top), width(), int(stripHeight));
+    m_listView->setGeometry(m_layout.rectOf(Place::Strip));
     m_listView->setPictSize(QSize(0, 0));
-    return int(top);
-}
-
-void CPictorelDlg::allWidgethide()
-{
-    m_liveView->hide();
-    m_movieView->hide();
-    m_pictureView->hide();
 }
 
 // The press that leads here may come from a button on one of the photos, which must outlive it.
@@ -150,4 +87,77 @@ void CPictorelDlg::hiddenPictList()
         photo->deleteLater();
     }
     m_thumbnails.clear();
+}
+
+Situation CPictorelDlg::situation() const
+{
+    Situation now;
+    now.mode = m_mode;
+    now.variant = m_variant;
+    now.facts = facts();
+    now.isErrorMode = m_isErrorMode;
+    now.isReturning = m_isReturning;
+    now.hasPhotoPreview = m_hasPhotoPreview;
+    now.isSeriesRunning = m_isSeriesRunning;
+    now.isTimed = m_isAutoShooting;
+    now.isMovieLoaded = m_isMovieLoaded;
+    now.isPlaying = m_isPlaying;
+    now.offersPhotos = m_offersPhotos;
+    now.hasThumbnails = m_listView->count() > 0;
+    now.hasChoice = !m_listView->selectionList().isEmpty();
+    now.showsChoice = m_showsChoice;
+    return now;
+}
+
+// After anything that a screen depends on has changed. The focus stays where the user has put it, unless
+// another button is now the one to press.
+void CPictorelDlg::refreshScreen()
+{
+    const Screen screen = screenFor(situation(), m_screen);
+    showScreen(screen, screen.focus != m_screen.focus || screen.isStripFocused != m_screen.isStripFocused);
+}
+
+void CPictorelDlg::showScreen(const Screen &screen, bool movesFocus)
+{
+    m_screen = screen;
+    showViews(screen);
+    showButtons(screen);
+    if (movesFocus)
+        moveFocus(screen);
+}
+
+void CPictorelDlg::showViews(const Screen &screen)
+{
+    const std::pair<QWidget *, Place> views[] = {{m_liveView, screen.live},
+                                                 {m_movieView, screen.movie},
+                                                 {m_pictureView, screen.picture},
+                                                 {m_listView, screen.strip}};
+    for (const auto &[view, place] : views) {
+        if (place != Place::Hidden)
+            view->setGeometry(m_layout.rectOf(place));
+        view->setVisible(place != Place::Hidden);
+    }
+    m_timerView->setVisible(screen.hasTimer);
+}
+
+void CPictorelDlg::showButtons(const Screen &screen)
+{
+    for (int id = 0; id < m_buttons.size(); ++id) {
+        const ButtonState &state = screen[Button(id)];
+        if (state.slot.kind != Slot::Kind::AsItIs)
+            m_buttons[id]->setGeometry(m_layout.rectOf(state.slot));
+        m_buttons[id]->setVisible(state.isShown);
+        m_buttons[id]->setEnabled(state.isEnabled);
+    }
+    // On a wide screen the views beside them would reach down to these.
+    button(Button::Apply)->raise();
+    button(Button::Retry)->raise();
+}
+
+void CPictorelDlg::moveFocus(const Screen &screen)
+{
+    if (screen.isStripFocused)
+        focusOn(m_listView);
+    else if (screen.focus)
+        focusOn(button(*screen.focus));
 }

@@ -61,7 +61,7 @@ void CPictorelDlg::OnVXS()
 
 void CPictorelDlg::PutVXSPhoto()
 {
-    const QString size = QString("%1x%2").arg(m_viewRect.width()).arg(m_viewRect.height());
+    const QString size = QString("%1x%2").arg(viewRect().width()).arg(viewRect().height());
     QStringList lines = {photoRequest, size, listedFolder()};
     if (m_mode == DisplayMode::Photo) {
         appendName(lines, m_currentPhoto);

@@ -8,12 +8,14 @@
 #include "widgets/moviewidget.h"
 #include "widgets/picturelistview.h"
 #include "widgets/picturewidget.h"
+#include "widgets/stretchbitmapbutton.h"
 
 #include <QEvent>
 #include <QFile>
 #include <QGuiApplication>
 #include <QIcon>
 #include <QScreen>
+#include <QTimer>
 
 CPictorelDlg::CPictorelDlg(QWidget *parent, Qt::WindowFlags flags)
     : QWidget(parent, flags), CWindowManagement(this, raisePeriodMs, true, QString())
@@ -33,13 +35,11 @@ CPictorelDlg::CPictorelDlg(QWidget *parent, Qt::WindowFlags flags)
     GetSetting();
     setWindowFrame();
     openCamera();
-    m_liveView->setGeometry(m_viewRect);
+    m_liveView->setGeometry(viewRect());
     // A camera may be lost as soon as it runs: a warning of the first screen leaves time for it.
     connect(m_liveView, &LiveVideoWidget::disconnectDevice, this, &CPictorelDlg::changeNodevicemode);
     m_liveView->Start();
     TransitionMode(DisplayMode::Live);
-    m_movieView->setGeometry(m_viewRect);
-    m_movieView->hide();
     SetLocalConnect();
 
     // A picture is never mirrored, whatever the language.
@@ -61,9 +61,35 @@ void CPictorelDlg::setThisPropaty()
 void CPictorelDlg::takeScreenSize()
 {
     const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
-    m_screenWidth = available.width();
-    m_screenHeight = available.height();
+    m_layout.screen = available.size();
     m_screenCorner = available.topLeft();
+}
+
+// A projector is plugged in, a panel appears, or another screen becomes the primary one.
+void CPictorelDlg::followScreen()
+{
+    const auto follow = [this](const QScreen *screen) {
+        connect(screen, &QScreen::availableGeometryChanged, this, &CPictorelDlg::fitToScreen,
+                Qt::UniqueConnection);
+    };
+    for (const QScreen *screen : QGuiApplication::screens())
+        follow(screen);
+    connect(qApp, &QGuiApplication::screenAdded, this, follow);
+    connect(qApp, &QGuiApplication::primaryScreenChanged, this, &CPictorelDlg::fitToScreen);
+}
+
+void CPictorelDlg::fitToScreen()
+{
+    takeScreenSize();
+    for (CStretchBitmapButton *one : qAsConst(m_buttons))
+        one->setIconFromObjectNameBitmap();
+    placeCornerButtons();
+    setFixedSize(m_layout.screen);
+    move(m_screenCorner);
+    m_timerView->move(m_layout.screen.width() - m_timerView->width(), m_timerView->y());
+    refreshScreen();
+    if (m_mode == DisplayMode::Series && m_variant == Variant::Grid)
+        placeTiles();
 }
 
 // The order of making is the order of stacking: the timer lies over the views.
@@ -84,13 +110,15 @@ void CPictorelDlg::SetChildInstance()
     m_waitDialog->hide();
     m_waitDialog->setLoadingTexts(tr("File is loading. Please wait..."), tr("File loaded successfully."),
                                   tr("Load failed."));
+    m_returnTimer = new QTimer(this);
+    m_returnTimer->setSingleShot(true);
     m_settingDialog->installEventFilter(this);
     m_waitDialog->installEventFilter(this);
 }
 
 void CPictorelDlg::setWindowFrame()
 {
-    setFixedSize(int(m_screenWidth), int(m_screenHeight));
+    setFixedSize(m_layout.screen);
     move(m_screenCorner);
     setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
     setWindowTitle(tr("Orvane"));
@@ -99,43 +127,26 @@ void CPictorelDlg::setWindowFrame()
 
 void CPictorelDlg::SetBaseRect()
 {
-    const int rowTop = int(m_screenHeight - m_rowButtonHeight);
-    m_rowRect = QRect(0, rowTop, m_rowButtonWidth, m_rowButtonHeight);
-
-    QSize native = m_liveView->getNativeSize();
-    if (native.width() < 1 || native.height() < 1)
-        native = QSize(1, 1);
-
-    const QSize full = native.scaled(int(m_screenWidth), rowTop, Qt::KeepAspectRatio);
-    m_viewRect = QRect(QPoint(int((m_screenWidth - full.width()) * 0.5), 0), full);
-
-    const QSize half = native.scaled(int(m_screenWidth * 0.5), rowTop, Qt::KeepAspectRatio);
-    const double halfTop = (m_screenHeight - 2 * m_rowButtonHeight - half.height()) * 0.5;
-    m_halfRect = QRect(QPoint(0, int(halfTop)), half);
-
-    m_movieView->setGeometry(m_viewRect);
+    m_layout.native = m_liveView->getNativeSize();
 }
 
 // The size of the camera's picture is known from here on, and with it where pictures are shown.
 void CPictorelDlg::openCamera()
 {
     m_liveView->Create();
-    copyDeviceFlags();
-    if (!m_isVideoPresent || !m_liveView->isCreate())
+    if (!m_liveView->isVideoValid() || !m_liveView->isCreate())
         m_isErrorMode = true;
     m_settingDialog->setResolutionList(m_liveView->GetResoList());
     SetBaseRect();
 }
 
-void CPictorelDlg::copyDeviceFlags()
+const Facts &CPictorelDlg::facts() const
 {
-    m_isVideoPresent = m_liveView->isVideoValid();
-    m_isAudioPresent = m_liveView->isAudioValid();
+    return m_liveView->facts().now();
 }
 
 void CPictorelDlg::SetLocalConnect()
 {
-    connectButtons();
     connect(m_movieView, &MovieWidget::finished, this, &CPictorelDlg::OnMovieFinished);
     connect(m_timerView, &TimerWidget::movieTimeOver, this, &CPictorelDlg::OnMovieStop);
     connect(m_timerView, &TimerWidget::shot, this, &CPictorelDlg::OnShot);
@@ -144,6 +155,11 @@ void CPictorelDlg::SetLocalConnect()
     connect(m_listView, &PictureListView::selectedPhoto, this, &CPictorelDlg::PictureSelected);
     connect(this, &CPictorelDlg::loadcomp, m_waitDialog, &CWaiteMsgDlg::comp);
     connect(m_waitDialog, &CWaiteMsgDlg::OnShow, this, &CPictorelDlg::dirLoad);
+    // Later: a command in the middle of which they change goes on first.
+    connect(&m_liveView->facts(), &CaptureFacts::changed, this, &CPictorelDlg::followFacts,
+            Qt::QueuedConnection);
+    connect(m_returnTimer, &QTimer::timeout, this, &CPictorelDlg::reopenCamera);
+    followScreen();
 }
 
 bool CPictorelDlg::eventFilter(QObject *watched, QEvent *event)
@@ -185,8 +201,7 @@ void CPictorelDlg::OnSettingDlg()
         return;
     m_settingDialog->SaveFile();
     GetSetting();
-    copyDeviceFlags();
-    if (!m_isVideoPresent)
+    if (!m_liveView->isVideoValid())
         m_isErrorMode = true;
     TransitionMode(m_mode);
 }

@@ -1,14 +1,14 @@
 #pragma once
 
+#include "dialog/screen.h"
 #include "util/windowmanagement.h"
 
-#include <QRect>
 #include <QString>
 #include <QStringList>
 #include <QVector>
 #include <QWidget>
 
-#include <initializer_list>
+#include <chrono>
 
 class CStretchBitmapButton;
 class CWaiteMsgDlg;
@@ -18,20 +18,13 @@ class MovieWidget;
 class PictureListView;
 class PictureWidget;
 class Setting;
+class QTimer;
 class TimerWidget;
-
-// The screens of the main window.
-enum class DisplayMode : int {
-    Live = 0,
-    Movie = 1,
-    Photo = 2, // the photo just taken
-    List = 3,
-    Series = 4 // a continuous series; also the grid of photos
-};
 
 // The main window: covers the primary screen's available area with one screen at a time (live picture, movie,
 // photo, list, series or grid) over one row of buttons, and keeps itself above the whiteboard software until
-// its first command. It owns every view and dialog of the program. Commands are the slots behind the buttons.
+// its first command. It owns every view and dialog of the program. Commands are the slots behind the buttons;
+// what is to be seen after each is not theirs to say but screenFor()'s.
 class CPictorelDlg : public QWidget, public CWindowManagement
 {
     Q_OBJECT
@@ -52,8 +45,14 @@ public:
     void chkdevice();
 
     // Builds the screen, then stores mode as the current one; a value that is no mode shows the live screen.
-    void TransitionMode(DisplayMode mode);
+    void TransitionMode(DisplayMode mode, Variant variant = Variant::Usual);
     DisplayMode currentMode() const { return m_mode; }
+
+    // Saves what was taken as if it had been asked for, saying nothing, closes and ends the program: for a
+    // log-out, when nobody is there to answer. What cannot be saved stays where it is.
+    void saveAndLeave();
+    // The same without leaving: the session may go on.
+    void saveQuietly();
 
 signals:
     void comp(bool ret); // never emitted
@@ -95,7 +94,8 @@ public slots:
     void dirLoad();
 
 protected:
-    // Closes the camera, which finishes a running movie. Captures stay where they are.
+    // Asks as the button for leaving does when it is the window manager that closes. Else closes the camera,
+    // which finishes a running movie; captures stay where they are.
     void closeEvent(QCloseEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -103,6 +103,8 @@ private:
     // The frame.
     void setThisPropaty();
     void takeScreenSize();
+    void followScreen();
+    void fitToScreen();
     void SetButtonInstance();
     void placeCornerButtons();
     void setVXSButton();
@@ -112,60 +114,56 @@ private:
     void setWindowFrame();
     void SetBaseRect();
     void SetLocalConnect();
-    void connectButtons();
     void GetSetting();
     void openCamera();
-    void copyDeviceFlags();
 
-    // Screens and rows.
+    // Screens.
     void SetLiveMode();
     void SetMovieMode();
-    void SetPhotoMode();
-    void SetLivePhotoMode();
     void SetListMode();
     void SetPhotSeqMode();
-    int layOutStrip();
-    void allWidgethide();
     void hiddenPictList();
-
-    CStretchBitmapButton *createButton(const QString &name);
-    QVector<CStretchBitmapButton *>
-    buttonsExcept(std::initializer_list<const CStretchBitmapButton *> excepted) const;
-    double setButtonX(CStretchBitmapButton *button, double x);
-    double firstButtonX(int buttons) const;
-    double putOn(CStretchBitmapButton *button, double x);
-    void clearRow();
-    void hideAllButton();
-    void disableAllButton(bool enabled);
+    void releaseStrip();
+    Situation situation() const;
+    void refreshScreen();
+    void showScreen(const Screen &screen, bool movesFocus);
+    void showViews(const Screen &screen);
+    void showButtons(const Screen &screen);
+    void moveFocus(const Screen &screen);
+    void createButton(Button id);
+    CStretchBitmapButton *button(Button id) const { return m_buttons[int(id)]; }
     void SignalBlockAll(bool block);
-    void setLivemodeButtonEnabled();
-    void setPhotoModeButtonEnabled();
-    void setLivePhotoModeButtonEnabled();
-    void setMovieModeButton();
-    void setListButton();
-    void setShowModeButton();
-    void setErrModeButtonEnable();
     void focusOn(QWidget *widget);
-    void focusMainButton();
+    const Facts &facts() const;
+    QRect viewRect() const { return m_layout.rectOf(Place::Whole); }
+
+    // What happens without being asked for.
+    void followFacts();
+    void followCamera();
+    void reopenCamera();
+    void showTakenPicture();
 
     // Commands.
     bool selectVideoDevice();
     bool refuseOnFullDisk();
     void playShutterSound();
-    void showInPictureView(const QString &name, const QString &folder);
-    void takeShot();
+    void showLive();
+    void tellOfFailedPhoto();
     void startSeries();
     void finishSeries();
-    void showPlayButton();
-    void showPauseButton();
+    void loadRecordedMovie();
+    void loadMovie(const QString &path);
+    void tellOfMovie(Cause end);
+    void showInPictureView(const QString &name, const QString &folder);
     void SetPictureListMode(const QStringList &names);
     void addTile(const QString &name, const QRect &place, int number, bool zoomable);
     void showMovie();
+    void placeTiles();
     // Where listed files are: the list's folder, which is empty for the working folder.
     QString listedFolder() const;
     void finishLoad();
-    void saveCaptures();
-    bool waitForMovie();
+    bool saveCaptures(std::chrono::milliseconds movieLimit);
+    void closeViews();
 
     // Views and dialogs; children of this window, as the buttons are.
     LiveVideoWidget *m_liveView = nullptr; // null once the window was closed
@@ -177,51 +175,32 @@ private:
     Setting *m_settingDialog = nullptr;
     QVector<PictureWidget *> m_thumbnails; // the grid
 
-    CStretchBitmapButton *m_live = nullptr;
-    CStretchBitmapButton *m_photo = nullptr;
-    CStretchBitmapButton *m_photoMulti = nullptr;
-    CStretchBitmapButton *m_movie = nullptr;
-    CStretchBitmapButton *m_movieStop = nullptr;
-    CStretchBitmapButton *m_list = nullptr;
-    CStretchBitmapButton *m_settings = nullptr;
-    CStretchBitmapButton *m_close = nullptr;
-    CStretchBitmapButton *m_apply = nullptr;
-    CStretchBitmapButton *m_retry = nullptr;
-    CStretchBitmapButton *m_moviePlay = nullptr;
-    CStretchBitmapButton *m_moviePause = nullptr;
-    CStretchBitmapButton *m_show = nullptr;
-    CStretchBitmapButton *m_switchPhoto = nullptr;
-    CStretchBitmapButton *m_switchMovie = nullptr;
-    CStretchBitmapButton *m_back = nullptr;
-    CStretchBitmapButton *m_putPhoto = nullptr;
-    CStretchBitmapButton *m_putMovie = nullptr;
-    CStretchBitmapButton *m_load = nullptr;
-    QVector<CStretchBitmapButton *> m_buttons; // all of them
+    QVector<CStretchBitmapButton *> m_buttons; // by their number
     bool m_isKeyboardUsed = false;             // by the latest press of a button
 
-    // Geometry, in pixels of this window.
-    double m_screenWidth = 0.0;
-    double m_screenHeight = 0.0;
+    Layout m_layout;
     QPoint m_screenCorner;
-    QRect m_viewRect; // live picture, movie, photo and grid
-    QRect m_rowRect;  // the first slot of the row
-    QRect m_halfRect; // the left half in a photo preview
-    int m_rowButtonWidth = 0;
-    int m_rowButtonHeight = 0;
+    Screen m_screen; // as it is shown
 
     // State.
     bool m_isStartable = false;
     DisplayMode m_mode = DisplayMode::Live;
+    Variant m_variant = Variant::Usual;
     bool m_isErrorMode = false; // no camera, or no room on the disk
-    bool m_isRecording = false;
-    bool m_isVideoPresent = false;
-    bool m_isAudioPresent = false;
+    bool m_isReturning = false; // the camera that was lost is being tried again
+    QTimer *m_returnTimer = nullptr;
     bool m_isMovieShown = false; // lists and pastes are of movies, not of photos
+    bool m_offersPhotos = false; // the list does, which shows movies
+    bool m_showsChoice = false;  // the list has
+    bool m_isMovieLoaded = false;
+    bool m_isMovieAwaited = false; // the recorded one, until its file is whole
+    bool m_isPlaying = false;      // as far as it was asked for
+    bool m_isSeriesRunning = false;
+    bool m_isLeaving = false;
     int m_shotsTaken = 0;
     QStringList m_seriesList;
-    QString m_currentPhoto;  // bare name of the latest; empty when it could not be saved
-    QString m_recordedMovie; // full paths
-    QString m_shownMovie;
+    QString m_currentPhoto; // bare name of the latest; empty when it could not be saved
+    QString m_shownMovie;   // full path
     QString m_loadFolder;
     FolderCopy *m_folderCopy = nullptr; // while a folder is being copied in
 

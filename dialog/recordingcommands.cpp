@@ -4,8 +4,10 @@
 
 #include "capture/livevideowidget.h"
 #include "capture/timerwidget.h"
+#include "util/webcamutil.h"
 #include "widgets/moviewidget.h"
-#include "widgets/stretchbitmapbutton.h"
+
+#include <phonon/MediaObject>
 
 namespace
 {
@@ -27,40 +29,56 @@ QString minutesAndSeconds(qint64 milliseconds)
 void CPictorelDlg::OnRecord()
 {
     stop_window();
-    if (refuseOnFullDisk() || m_isRecording || !m_liveView->Record())
+    if (refuseOnFullDisk() || facts().isMovieRunning() || !m_liveView->Record())
         return;
-    m_recordedMovie = m_liveView->moviePath();
-    m_isRecording = true;
-    m_movie->hide();
-    disableAllButton(false);
-    m_movieStop->show();
-    m_movieStop->setEnabled(true);
     m_isMovieShown = true;
     m_timerView->SetMode(TimerMode::Recording);
-    m_timerView->show();
     m_timerView->run();
-    m_close->setEnabled(false);
-    focusMainButton();
+    refreshScreen();
 }
 
 void CPictorelDlg::OnMovieStop()
 {
-    if (!m_isRecording)
+    if (!facts().isMovieRunning())
         return;
+    const Cause end = facts().movie.why;
     if (m_liveView->isCreate())
         m_liveView->RecordStop();
-    m_liveView->hide();
     m_timerView->Stop();
-    m_isRecording = false;
     TransitionMode(DisplayMode::Movie);
-    m_movieView->Create(m_recordedMovie);
-    m_movieView->show();
-    m_timerView->Stop();
-    m_close->setEnabled(true);
     m_timerView->SetMode(TimerMode::Playback);
-    m_timerView->show();
     m_isMovieShown = true;
-    update();
+    m_isMovieAwaited = true;
+    loadRecordedMovie();
+    tellOfMovie(end);
+}
+
+// Not before the file is whole, which on a slow disk takes its time.
+void CPictorelDlg::loadRecordedMovie()
+{
+    if (!m_isMovieAwaited || m_mode != DisplayMode::Movie || facts().movie.state == MovieState::Finishing)
+        return;
+    m_isMovieAwaited = false;
+    loadMovie(m_liveView->moviePath());
+}
+
+void CPictorelDlg::loadMovie(const QString &path)
+{
+    m_movieView->Create(path);
+    // Until then there is no time to be shown.
+    connect(m_movieView->mediaObject(), &Phonon::MediaObject::totalTimeChanged, this,
+            &CPictorelDlg::setMovieTime, Qt::UniqueConnection);
+    m_isMovieLoaded = true;
+    refreshScreen();
+}
+
+// What was wrong with a movie, once it is on the screen.
+void CPictorelDlg::tellOfMovie(Cause end)
+{
+    if (end == Cause::Disk)
+        WebcamUtil::ShowDiskWorningMessage(this);
+    if (facts().sound == SoundState::LostInMovie)
+        WebcamUtil::WarningMessage(LiveVideoWidget::invalidAudioText(), this);
 }
 
 void CPictorelDlg::OnMoviePlay()
@@ -70,10 +88,11 @@ void CPictorelDlg::OnMoviePlay()
         setMovieTime();
         m_movieView->Stop();
     }
-    m_movieView->show();
+    m_isMovieLoaded = true;
+    m_isPlaying = true;
+    refreshScreen();
     m_movieView->Play();
     m_timerView->run();
-    showPauseButton();
 }
 
 void CPictorelDlg::OnMoviePause()
@@ -82,16 +101,18 @@ void CPictorelDlg::OnMoviePause()
         m_timerView->Stop();
         setMovieTime();
         m_movieView->Stop();
-    } else if (m_movieView->isPlaying()) {
+    } else if (m_isPlaying) {
         m_movieView->pause();
         m_timerView->Pause();
     }
-    showPlayButton();
+    m_isPlaying = false;
+    refreshScreen();
 }
 
 void CPictorelDlg::OnMovieFinished()
 {
-    showPlayButton();
+    m_isPlaying = false;
+    refreshScreen();
     m_movieView->Stop();
     m_timerView->Stop();
 }
@@ -106,20 +127,4 @@ void CPictorelDlg::setMovieTime()
     // A player that has not yet found out how long the movie is says 0.
     if (current == total && m_movieView->totalTime() > 0)
         m_timerView->Stop();
-}
-
-void CPictorelDlg::showPlayButton()
-{
-    m_moviePlay->show();
-    if (m_moviePause->hasFocus())
-        focusOn(m_moviePlay);
-    m_moviePause->hide();
-}
-
-void CPictorelDlg::showPauseButton()
-{
-    m_moviePause->show();
-    if (m_moviePlay->hasFocus())
-        focusOn(m_moviePause);
-    m_moviePlay->hide();
 }

@@ -2,9 +2,7 @@
 
 #include "dialog/pictoreldlg.h"
 
-#include "capture/livevideowidget.h"
 #include "capture/timerwidget.h"
-#include "dialog/gridlayout.h"
 #include "util/webcamutil.h"
 #include "widgets/moviewidget.h"
 #include "widgets/picturelistview.h"
@@ -34,16 +32,9 @@ void CPictorelDlg::OnList()
         WebcamUtil::getFileListFromDir(folder, {QString(m_isMovieShown ? "movie*.png" : "photo*.png")});
     m_listView->setMovieMode(m_isMovieShown);
     hiddenPictList();
-    m_liveView->hide();
-    m_pictureView->Release();
-    m_pictureView->hide();
-    if (m_movieView->isCreated()) {
+    if (m_movieView->isCreated())
         m_movieView->Stop();
-        m_movieView->hide();
-    }
-    // The list of movies offers the photos, also after the loss of a camera has led away from them.
-    if (m_isMovieShown)
-        m_mode = DisplayMode::Movie;
+    m_timerView->Stop(); // or a timed series would go on behind the list
     TransitionMode(DisplayMode::List);
 
     const int most = m_isMovieShown ? mostMoviesListed : mostPhotosListed;
@@ -51,12 +42,7 @@ void CPictorelDlg::OnList()
     m_listView->setFolder(folder);
     m_listView->AddPicture(names);
     m_listView->clearSelectionList();
-    m_listView->show();
-    m_timerView->Stop(); // or a timed series would go on behind the list
-    m_timerView->hide();
-    if (!names.isEmpty())
-        focusOn(m_listView);
-    update();
+    refreshScreen();
 }
 
 void CPictorelDlg::PictureSelected()
@@ -64,54 +50,49 @@ void CPictorelDlg::PictureSelected()
     // A warning of the list may be answered when the camera's loss has already led to another screen.
     if (m_mode != DisplayMode::List)
         return;
-    m_show->setEnabled(!m_listView->selectionList().isEmpty());
-
-    const int previewHeight = m_viewRect.height() - m_listView->height();
-    const int previewWidth = m_viewRect.width() * previewHeight / qMax(1, m_viewRect.height());
-    const int left = int((width() - previewWidth) * 0.5);
-    const QSize size(previewWidth, previewHeight);
-    const bool isResized = m_pictureView->size() != size;
-    m_pictureView->setGeometry(QRect(QPoint(left, 0), size));
+    m_showsChoice = true;
+    refreshScreen();
     // A click comes here by two ways, and reading a photo takes its time. The list's folder need not be
     // compared: whatever changes it empties the viewer. When nothing is chosen any more the preview is black,
     // for a photo in it would be taken for a chosen one.
     const QString name = m_listView->currentName();
-    if (isResized || name.isEmpty() || m_pictureView->fileName() != name)
+    if (name.isEmpty() || m_pictureView->fileName() != name)
         showInPictureView(name, m_listView->folder());
-    m_pictureView->show();
 }
 
 void CPictorelDlg::OnShow()
 {
-    m_listView->hide();
-    m_pictureView->hide();
-    if (m_isMovieShown) {
+    if (m_isMovieShown)
         showMovie();
-    } else {
-        m_mode = DisplayMode::Series; // its other use: the grid
+    else
         SetPictureListMode(m_listView->selectionList().mid(0, PictureListView::mostChosen));
-    }
-    update();
 }
 
 void CPictorelDlg::showMovie()
 {
     m_shownMovie = listedFolder() + "/" + WebcamUtil::movieName(m_listView->currentName());
     TransitionMode(DisplayMode::Movie);
-    m_movieView->Create(m_shownMovie);
     m_timerView->SetMode(TimerMode::Playback);
-    m_timerView->show();
-    m_movieView->show();
+    loadMovie(m_shownMovie);
 }
 
 void CPictorelDlg::SetPictureListMode(const QStringList &names)
 {
     m_thumbnails.clear();
-    const QVector<QRect> places = gridTiles(m_viewRect, names.size());
+    TransitionMode(DisplayMode::Series, Variant::Grid);
+    const QVector<QRect> places = gridTiles(viewRect(), names.size());
     for (int i = 0; i < names.size(); ++i)
         addTile(names[i], places[i], i + 1, names.size() > 1);
-    setShowModeButton();
-    focusMainButton();
+}
+
+// Anew, for another size of the window.
+void CPictorelDlg::placeTiles()
+{
+    QStringList names;
+    for (const PictureWidget *tile : qAsConst(m_thumbnails))
+        names << tile->fileName();
+    hiddenPictList();
+    SetPictureListMode(names);
 }
 
 void CPictorelDlg::addTile(const QString &name, const QRect &place, int number, bool zoomable)
@@ -135,7 +116,7 @@ void CPictorelDlg::OnZoom(PictureWidget *pict)
         tile->hide();
     // The tile has kept a small copy only.
     pict->Loadbmp(QString(), m_listView->folder());
-    pict->setGeometry(m_viewRect);
+    pict->setGeometry(viewRect());
     pict->ZoomMode();
     pict->show();
     // The button that was pressed is gone; without this the focus would jump to the row.
@@ -161,7 +142,6 @@ void CPictorelDlg::OnPictureList()
 
 void CPictorelDlg::OnPhotoChange()
 {
-    m_mode = DisplayMode::Photo;
     m_isMovieShown = false;
     OnList();
     SignalBlockAll(false);
@@ -169,7 +149,6 @@ void CPictorelDlg::OnPhotoChange()
 
 void CPictorelDlg::OnMovieChange()
 {
-    m_mode = DisplayMode::Movie;
     m_isMovieShown = true;
     OnList();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/capturedevice.h"
+#include "platform/captureevents.h"
 #include "platform/capturemode.h"
 #include "platform/grabthread.h"
 #include "platform/videotarget.h"
@@ -90,6 +91,11 @@ public:
     // Saves the newest picture at the camera's full size as a PNG file, waiting up to a second for a whole
     // one. False when none came or the file cannot be written; no file is left then.
     bool SaveBitmap(QString path); // NOLINT(performance-unnecessary-value-param): part of the interface
+
+    void setListener(CaptureListener *) {}
+    bool canReopen() { return !created && !GetVideoDeviceList().isEmpty(); }
+    PhotoFault lastPhotoFault() const { return PhotoFault::Failed; }
+    bool hadSoundHole() const { return false; }
 
 signals:
     // A running movie was ended, since the disk or its file was full.

@@ -32,6 +32,12 @@ public:
     // Empties the widget.
     void Release();
 
+    void showPicture(const QString &name, const QImage &picture)
+    {
+        m_fileName = name;
+        m_pixmap = QPixmap::fromImage(picture);
+        update();
+    }
     QString fileName() const { return m_fileName; }
 
 public slots:

@@ -1,5 +1,5 @@
 #include "capture/timerwidget.h"
-#include "dialog/gridlayout.h"
+#include "dialog/layout.h"
 #include "tests/dialog/mainwindow.h"
 #include "widgets/moviewidget.h"
 #include "widgets/picturelistview.h"

@@ -1,4 +1,4 @@
-#include "platform/driverproxy.h"
+#include "capture/driverproxy.h"
 
 CDriverProxy *CDriverProxy::get()
 {
