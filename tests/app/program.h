@@ -33,6 +33,12 @@ public:
     {
         return QTest::qWaitFor([this] { return m_process.state() == QProcess::NotRunning; }, 60000);
     }
+    // As the system ends it.
+    bool quit()
+    {
+        m_process.terminate();
+        return waitForEnd();
+    }
     QProcess &process() { return m_process; }
 
     // Whether it is in the middle of writing a file into the folder.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QString>
@@ -9,26 +10,27 @@
 class SmallDisk
 {
 public:
-    explicit SmallDisk(int mebibytes)
+    // In that folder, which is made, or in one of its own.
+    explicit SmallDisk(int mebibytes, const QString &folder = QString())
+        : m_path(folder.isEmpty() ? m_folder.path() : folder)
     {
+        QDir().mkpath(m_path);
         m_isMounted = QProcess::execute("mount", {"-t", "tmpfs", "-o", QString("size=%1m").arg(mebibytes),
-                                                  "tmpfs", m_folder.path()}) == 0;
+                                                  "tmpfs", m_path}) == 0;
     }
     ~SmallDisk()
     {
         if (m_isMounted)
-            QProcess::execute("umount", {"-l", m_folder.path()});
+            QProcess::execute("umount", {"-l", m_path});
     }
     SmallDisk(const SmallDisk &) = delete;
     SmallDisk &operator=(const SmallDisk &) = delete;
 
     bool isMounted() const { return m_isMounted; }
-    QString path(const QString &name) const { return m_folder.filePath(name); }
+    QString path(const QString &name) const { return QDir(m_path).filePath(name); }
 
-    bool makeReadOnly() const
-    {
-        return QProcess::execute("mount", {"-o", "remount,ro", m_folder.path()}) == 0;
-    }
+    bool makeReadOnly() const { return remount("ro"); }
+    bool makeWritable() const { return remount("rw"); }
 
     // Leaves that many bytes free.
     void fillUpTo(qint64 freeBytes, qint64 freeNow) const
@@ -42,6 +44,12 @@ public:
     }
 
 private:
+    bool remount(const QString &how) const
+    {
+        return QProcess::execute("mount", {"-o", "remount," + how, m_path}) == 0;
+    }
+
     QTemporaryDir m_folder;
+    const QString m_path;
     bool m_isMounted = false;
 };
