@@ -1,6 +1,6 @@
 #include "widgets/picturefile.h"
 
-#include "widgets/photodecoder.h"
+#include "util/files/photofile.h"
 
 #include <QFileInfo>
 #include <QImageReader>
