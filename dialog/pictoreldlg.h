@@ -1,6 +1,6 @@
 #pragma once
 
-#include "util/windowmanagement.h"
+#include "util/desktop/windowmanagement.h"
 
 #include <QRect>
 #include <QString>

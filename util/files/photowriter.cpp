@@ -1,7 +1,7 @@
 #include "util/files/photofile.h"
 
 #include "util/files/largebytes.h"
-#include "util/wholefile.h"
+#include "util/files/wholefile.h"
 
 #include <libdeflate.h>
 

@@ -1,4 +1,4 @@
-#include "util/wholefile.h"
+#include "util/files/wholefile.h"
 
 #include <QDateTime>
 #include <QDir>
