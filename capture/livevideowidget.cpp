@@ -1,5 +1,6 @@
 #include "capture/livevideowidget.h"
 
+#include "util/desktop/fonts.h"
 #include "util/webcamutil.h"
 
 #include <QFrame>
@@ -75,7 +76,7 @@ void LiveVideoWidget::setUpCaption()
     m_liveCaption = new QLabel(tr("LIVE"), this);
     m_liveCaption->setAutoFillBackground(true);
     m_liveCaption->setPalette(blackWithGreenText(m_liveCaption->palette()));
-    m_liveCaption->setFont(QFont(QStringLiteral("Arial"), 24, 5));
+    m_liveCaption->setFont(captionFont());
     m_liveCaption->adjustSize();
     m_liveCaption->hide();
 }

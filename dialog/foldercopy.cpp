@@ -1,5 +1,6 @@
 #include "dialog/foldercopy.h"
 
+#include "util/files/capturenames.h"
 #include "util/files/filemove.h"
 #include "util/files/freespace.h"
 #include "util/files/wholefile.h"
@@ -44,7 +45,7 @@ QVector<QStringList> FolderCopy::units() const
         for (int i = 0; i + 1 < pairs.size(); i += 2)
             units.append(pairs.mid(i, 2));
     } else {
-        for (const QString &photo : WebcamUtil::getFileListFromDir(m_source, {"photo*"}))
+        for (const QString &photo : WebcamUtil::getFileListFromDir(m_source, {photoFilter()}))
             units.append({photo});
     }
     return units;

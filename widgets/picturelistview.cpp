@@ -1,5 +1,6 @@
 #include "widgets/picturelistview.h"
 
+#include "util/files/capturenames.h"
 #include "util/webcamutil.h"
 #include "widgets/picturefile.h"
 #include "widgets/thumbnailloader.h"
@@ -13,13 +14,11 @@ namespace
 
 constexpr int itemSpacing = 10;
 constexpr double iconAspectRatio = 1.3;
-const QString previewEnding = QStringLiteral("tmp.png");
-const QString movieEnding = QStringLiteral(".mov");
 
 QString previewOfMovie(QString name)
 {
     // A regular expression: its dot stands for any character.
-    static const QRegularExpression anyMovieEnding(movieEnding);
+    static const QRegularExpression anyMovieEnding{QString(movieEnding)};
     return name.replace(anyMovieEnding, previewEnding);
 }
 

@@ -1,5 +1,6 @@
 #include "widgets/picturewidget.h"
 
+#include "util/desktop/fonts.h"
 #include "util/webcamutil.h"
 #include "widgets/picturefile.h"
 #include "widgets/stretchbitmapbutton.h"
@@ -18,7 +19,7 @@ PictureWidget::PictureWidget(QWidget *parent, Qt::WindowFlags flags)
     setAutoFillBackground(true);
     m_caption->setPalette(colours);
     m_caption->setAutoFillBackground(true);
-    m_caption->setFont(QFont("Arial", 24, 5, false));
+    m_caption->setFont(captionFont());
 }
 
 void PictureWidget::Loadbmp(const QString &name, QString folder)
