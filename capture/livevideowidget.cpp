@@ -1,6 +1,7 @@
 #include "capture/livevideowidget.h"
 
 #include "capture/livecapture.h"
+#include "util/desktop/fonts.h"
 #include "util/webcamutil.h"
 
 #include <QFrame>
@@ -121,7 +122,7 @@ void LiveVideoWidget::setUpCaption()
     m_liveCaption = new QLabel(tr("LIVE"), this);
     m_liveCaption->setAutoFillBackground(true);
     m_liveCaption->setPalette(blackWithGreenText(m_liveCaption->palette()));
-    m_liveCaption->setFont(QFont(QStringLiteral("Arial"), 24, 5));
+    m_liveCaption->setFont(captionFont());
     m_liveCaption->adjustSize();
     m_liveCaption->hide();
 }
@@ -130,7 +131,7 @@ void LiveVideoWidget::setUpOpeningNote()
 {
     m_openingNote = new QLabel(tr("The camera is being opened. Please wait..."), this);
     m_openingNote->setPalette(blackWithGreenText(m_openingNote->palette()));
-    m_openingNote->setFont(QFont(QStringLiteral("Arial"), 24, 5));
+    m_openingNote->setFont(captionFont());
     m_openingNote->setWordWrap(true);
     m_openingNote->setAlignment(Qt::AlignCenter);
     m_openingNote->setAttribute(Qt::WA_TransparentForMouseEvents);

@@ -1,5 +1,7 @@
 #include "capture/selectdevicedlg.h"
 
+#include "util/desktop/fonts.h"
+
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QIcon>
@@ -30,12 +32,11 @@ SelectDeviceDlg::SelectDeviceDlg(QWidget *parent) : QDialog(parent), m_devices(n
                    Qt::WindowStaysOnTopHint);
     setModal(true);
 
-    const QFont font("Arial", 11, 5);
     auto *caption = new QLabel(tr("Please select a device:"));
-    caption->setFont(font);
+    caption->setFont(dialogFont());
     caption->setBuddy(m_devices);
     auto *ok = new QPushButton(tr("OK"));
-    ok->setFont(font);
+    ok->setFont(dialogFont());
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
 
     auto *layout = new QVBoxLayout(this);

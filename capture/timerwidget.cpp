@@ -1,14 +1,13 @@
 #include "capture/timerwidget.h"
 
+#include "util/desktop/fonts.h"
+#include "util/files/timetext.h"
+
 #include <QGuiApplication>
 #include <QScreen>
 #include <QTimer>
 
-namespace
-{
-constexpr int tickMilliseconds = 1000;
-constexpr int secondsPerMinute = 60;
-} // namespace
+static constexpr int tickMilliseconds = 1000;
 
 TimerWidget::TimerWidget(QWidget *parent, Qt::WindowFlags flags)
     : QLabel(parent, flags), m_ticker(new QTimer(this))
@@ -17,7 +16,7 @@ TimerWidget::TimerWidget(QWidget *parent, Qt::WindowFlags flags)
     colours.setColor(QPalette::Window, Qt::black);
     colours.setColor(QPalette::WindowText, Qt::green);
     setPalette(colours);
-    setFont(QFont("Arial", 24, 5));
+    setFont(captionFont());
 
     m_ticker->setInterval(tickMilliseconds);
     connect(m_ticker, &QTimer::timeout, this, &TimerWidget::showtime);
@@ -123,10 +122,7 @@ void TimerWidget::countDown()
 
 void TimerWidget::showRecordingTime()
 {
-    const QLatin1Char zero('0');
-    setText(QString("%1:%2")
-                .arg(m_elapsed / secondsPerMinute, 2, 10, zero)
-                .arg(m_elapsed % secondsPerMinute, 2, 10, zero));
+    setText(minutesAndSeconds(m_elapsed));
     if (m_elapsed >= recordingLimit)
         emit movieTimeOver();
     ++m_elapsed;

@@ -14,12 +14,16 @@ function(orvane_share_headers target scope folder)
   target_include_directories(${target} ${scope} ${path})
 endfunction()
 
-# orvane_add_folder(<folder> SOURCES ... LINKS ... [HIDES ...]): the static library of one folder. Whoever links it may
-# include its headers and those of LINKS; what HIDES names serves its own sources alone.
+# orvane_add_folder(<folder> [IN parent] SOURCES ... LINKS ... [HIDES ...]): the static library of one folder. Whoever
+# links it may include its headers and those of LINKS; what HIDES names serves its own sources alone.
 function(orvane_add_folder folder)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;HIDES" ${ARGN})
+  cmake_parse_arguments(ARG "" "IN" "SOURCES;LINKS;HIDES" ${ARGN})
   add_library(orvane_${folder} STATIC ${ARG_SOURCES})
-  orvane_share_headers(orvane_${folder} PUBLIC ${folder})
+  if(ARG_IN)
+    orvane_share_headers(orvane_${folder} PUBLIC ${ARG_IN}/${folder})
+  else()
+    orvane_share_headers(orvane_${folder} PUBLIC ${folder})
+  endif()
   target_link_libraries(orvane_${folder} PUBLIC orvane_common ${ARG_LINKS} PRIVATE ${ARG_HIDES})
 endfunction()
 

@@ -3,7 +3,7 @@
 #include "capture/livevideowidget.h"
 #include "capture/timerwidget.h"
 #include "dialog/saveconfirmdlg.h"
-#include "util/alivewait.h"
+#include "util/files/alivewait.h"
 #include "util/webcamutil.h"
 #include "widgets/moviewidget.h"
 

@@ -1,13 +1,13 @@
 #include "dialog/foldercopy.h"
 
-#include "util/filemove.h"
-#include "util/freespace.h"
+#include "util/files/capturenames.h"
+#include "util/files/filemove.h"
+#include "util/files/freespace.h"
+#include "util/files/wholefile.h"
 #include "util/webcamutil.h"
-#include "util/wholefile.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QStorageInfo>
 #include <QVector>
 
 FolderCopy::FolderCopy(Kind kind, const QString &source, const QString &target, QObject *parent)
@@ -45,7 +45,7 @@ QVector<QStringList> FolderCopy::units() const
         for (int i = 0; i + 1 < pairs.size(); i += 2)
             units.append(pairs.mid(i, 2));
     } else {
-        for (const QString &photo : WebcamUtil::getFileListFromDir(m_source, {"photo*"}))
+        for (const QString &photo : WebcamUtil::getFileListFromDir(m_source, {photoFilter()}))
             units.append({photo});
     }
     return units;
@@ -99,8 +99,8 @@ bool FolderCopy::hasRoomFor(const QStringList &names) const
 {
     if (names.isEmpty())
         return true;
-    qint64 left = QStorageInfo(m_target).bytesAvailable();
+    qint64 left = freeBytes(m_target).value_or(0);
     for (const QString &name : names)
         left -= QFileInfo(m_source + "/" + name).size();
-    return left > 0 && enoughFreeSpace(1, fsblkcnt_t(left));
+    return enoughFreeSpace(left);
 }

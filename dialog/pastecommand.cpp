@@ -2,9 +2,9 @@
 
 #include "dialog/pictoreldlg.h"
 
-#include "util/stamps.h"
+#include "util/files/stamps.h"
+#include "util/files/wholefile.h"
 #include "util/webcamutil.h"
-#include "util/wholefile.h"
 #include "widgets/picturelistview.h"
 #include "widgets/picturewidget.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "dialog/screen.h"
-#include "util/windowmanagement.h"
+#include "util/desktop/windowmanagement.h"
 
 #include <QString>
 #include <QStringList>

@@ -4,27 +4,13 @@
 
 #include "capture/livevideowidget.h"
 #include "capture/timerwidget.h"
+#include "util/files/timetext.h"
 #include "util/webcamutil.h"
 #include "widgets/moviewidget.h"
 
 #include <phonon/MediaObject>
 
-namespace
-{
-
-constexpr qint64 millisecondsPerSecond = 1000;
-constexpr qint64 millisecondsPerMinute = 60 * millisecondsPerSecond;
-
-// "mm:ss"
-QString minutesAndSeconds(qint64 milliseconds)
-{
-    const QLatin1Char zero('0');
-    return QString("%1:%2")
-        .arg(milliseconds / millisecondsPerMinute, 2, 10, zero)
-        .arg(milliseconds % millisecondsPerMinute / millisecondsPerSecond, 2, 10, zero);
-}
-
-} // namespace
+static constexpr qint64 millisecondsPerSecond = 1000;
 
 void CPictorelDlg::OnRecord()
 {
@@ -121,8 +107,9 @@ void CPictorelDlg::setMovieTime()
 {
     // Half a second more rounds to the nearest second.
     constexpr qint64 rounding = millisecondsPerSecond / 2;
-    const QString total = minutesAndSeconds(m_movieView->totalTime());
-    const QString current = minutesAndSeconds(m_movieView->currentTime() + rounding);
+    const QString total = minutesAndSeconds(m_movieView->totalTime() / millisecondsPerSecond);
+    const QString current =
+        minutesAndSeconds((m_movieView->currentTime() + rounding) / millisecondsPerSecond);
     m_timerView->setText(current + "/" + total);
     // A player that has not yet found out how long the movie is says 0.
     if (current == total && m_movieView->totalTime() > 0)

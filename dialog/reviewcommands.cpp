@@ -3,6 +3,7 @@
 #include "dialog/pictoreldlg.h"
 
 #include "capture/timerwidget.h"
+#include "util/files/capturenames.h"
 #include "util/webcamutil.h"
 #include "widgets/moviewidget.h"
 #include "widgets/picturelistview.h"
@@ -28,8 +29,8 @@ void CPictorelDlg::OnList()
     stop_window();
     const QString folder = listedFolder();
     m_listView->Reset();
-    QStringList names =
-        WebcamUtil::getFileListFromDir(folder, {QString(m_isMovieShown ? "movie*.png" : "photo*.png")});
+    QStringList names = WebcamUtil::getFileListFromDir(
+        folder, {m_isMovieShown ? movieFilter(photoEnding) : photoFilter(photoEnding)});
     m_listView->setMovieMode(m_isMovieShown);
     hiddenPictList();
     if (m_movieView->isCreated())

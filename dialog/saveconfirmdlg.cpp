@@ -1,5 +1,7 @@
 #include "dialog/saveconfirmdlg.h"
 
+#include "util/desktop/fonts.h"
+
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QIcon>
@@ -7,16 +9,6 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
-
-namespace
-{
-
-QFont dialogFont()
-{
-    return QFont("Arial", 11, 5);
-}
-
-} // namespace
 
 SaveConfirmDlg::SaveConfirmDlg(QWidget *parent, Qt::WindowFlags flags) : QDialog(parent, flags)
 {

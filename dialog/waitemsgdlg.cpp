@@ -1,5 +1,7 @@
 #include "dialog/waitemsgdlg.h"
 
+#include "util/desktop/fonts.h"
+
 #include <QIcon>
 #include <QLabel>
 #include <QProgressBar>
@@ -25,9 +27,8 @@ CWaiteMsgDlg::CWaiteMsgDlg(QWidget *parent)
     setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowStaysOnTopHint);
     setModal(true);
 
-    const QFont font("Arial", 11, 5);
-    m_ok->setFont(font);
-    m_text->setFont(font);
+    m_ok->setFont(dialogFont());
+    m_text->setFont(dialogFont());
     connect(m_ok, &QPushButton::clicked, this, &QWidget::close);
     m_starter->setSingleShot(true);
     m_starter->setInterval(startDelayMilliseconds);

@@ -1,11 +1,10 @@
 #include "platform/movierecorder.h"
 
-#include <gst/app/gstappsrc.h>
+#include "util/files/freespace.h"
 
-#include <QFile>
 #include <QFileInfo>
 
-#include <sys/statvfs.h>
+#include <gst/app/gstappsrc.h>
 
 #include <thread>
 #include <utility>
@@ -22,15 +21,7 @@ constexpr guint64 mostWaitingFrames = 10;
 constexpr auto closingLimit = 10s;
 
 // Room for the index and what the encoders hold; with less of it a movie is ended while it still can be.
-constexpr double leastFreeBytes = 16.0 * 1024 * 1024;
-
-double freeBytes(const QString &path)
-{
-    struct statvfs fileSystem;
-    if (statvfs(QFile::encodeName(QFileInfo(path).path()).constData(), &fileSystem) != 0)
-        return 0;
-    return double(fileSystem.f_bavail) * double(fileSystem.f_frsize);
-}
+constexpr qint64 leastFreeBytes = 16 * 1024 * 1024;
 
 // Ends the sound with the next piece of the silence under it. At any other moment the end of a movie that is
 // stopped at once might come before the sound's beginning, which would undo it.
@@ -159,7 +150,7 @@ bool MovieRecorder::mustEnd() const
         return true;
     const auto length = std::chrono::steady_clock::now() - m_startedAt;
     return length > std::chrono::seconds(longestMovieSeconds()) ||
-           freeBytes(m_settings.path) < leastFreeBytes + double(waitingBytes(m_movie));
+           freeBytes(QFileInfo(m_settings.path).path()).value_or(0) < leastFreeBytes + waitingBytes(m_movie);
 }
 
 bool MovieRecorder::finish(std::chrono::milliseconds wait)

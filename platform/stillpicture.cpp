@@ -2,8 +2,8 @@
 
 #include "platform/frameconverter.h"
 #include "platform/jpegcheck.h"
-#include "platform/largebytes.h"
-#include "platform/pngfile.h"
+#include "util/files/largebytes.h"
+#include "util/files/photofile.h"
 
 namespace
 {
@@ -51,5 +51,6 @@ bool saveStill(const NewestFrame &frames, const Zoom &zoom, const QString &path,
                                                            pixels.size(), nullptr, nullptr));
     FrameConverter converter(GST_VIDEO_RESAMPLER_METHOD_CUBIC);
     return converter.convert(frame->info, frame->picture.get(), zoom.shownPart(size), rgb, picture.get()) &&
-           writePng(path, rgb, picture.get());
+           writePhoto(path, QImage(pixels.data(), size.width(), size.height(),
+                                   GST_VIDEO_INFO_PLANE_STRIDE(&rgb, 0), QImage::Format_RGB888)) == 0;
 }

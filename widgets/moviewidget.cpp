@@ -1,5 +1,7 @@
 #include "widgets/moviewidget.h"
 
+#include "util/desktop/fonts.h"
+
 #include <QLabel>
 #include <QShowEvent>
 #include <QTimer>
@@ -24,7 +26,7 @@ MovieWidget::MovieWidget(QWidget *parent) : Phonon::VideoPlayer(parent)
     auto *caption = new QLabel(tr("Movie"), this);
     caption->setAutoFillBackground(true);
     caption->setPalette(colours);
-    caption->setFont(QFont("Arial", 24, 5));
+    caption->setFont(captionFont());
     caption->adjustSize();
 }
 

@@ -1,6 +1,6 @@
 #include "widgets/picturefile.h"
 
-#include "widgets/photodecoder.h"
+#include "util/files/photofile.h"
 
 #include <QFileInfo>
 #include <QImageReader>
@@ -17,7 +17,9 @@ QImage readWithPlugins(const QString &path)
     const QSize size = reader.size();
     if (!size.isValid() || qint64(size.width()) * size.height() > pixelBudget)
         return {};
-    return reader.read();
+    const QImage image = reader.read();
+    return image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
+                                                         : QImage::Format_RGB32);
 }
 
 QImage scaledInto(const QSize &size, const QImage &image)

@@ -6,7 +6,8 @@
 
 // Reading pictures that may be anything: any thread, and never more memory than a photo of 64 megapixels.
 
-// The picture in a file; null when there is none that can be shown.
+// The picture in a file, as it is painted without converting it: Format_RGB32, or premultiplied ARGB32 where
+// it is not opaque. Null when there is none that can be shown.
 QImage readPicture(const QString &path);
 
 // The picture scaled into the size with its aspect ratio kept; null as above.

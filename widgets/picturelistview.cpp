@@ -1,8 +1,9 @@
 #include "widgets/picturelistview.h"
 
+#include "util/files/capturenames.h"
 #include "util/webcamutil.h"
 #include "widgets/picturefile.h"
-#include "widgets/thumbnailloader.h"
+#include "widgets/pictureloader.h"
 
 #include <QRegularExpression>
 
@@ -13,13 +14,11 @@ namespace
 
 constexpr int itemSpacing = 10;
 constexpr double iconAspectRatio = 1.3;
-const QString previewEnding = QStringLiteral("tmp.png");
-const QString movieEnding = QStringLiteral(".mov");
 
 QString previewOfMovie(QString name)
 {
     // A regular expression: its dot stands for any character.
-    static const QRegularExpression anyMovieEnding(movieEnding);
+    static const QRegularExpression anyMovieEnding{QString(movieEnding)};
     return name.replace(anyMovieEnding, previewEnding);
 }
 
@@ -31,7 +30,7 @@ QString movieOfPreview(QString name)
 
 } // namespace
 
-PictureListView::PictureListView(QWidget *parent) : QListWidget(parent), m_loader(new ThumbnailLoader(this))
+PictureListView::PictureListView(QWidget *parent) : QListWidget(parent), m_loader(new PictureLoader(this))
 {
     setViewMode(QListView::IconMode);
     setSpacing(itemSpacing);
@@ -43,7 +42,7 @@ PictureListView::PictureListView(QWidget *parent) : QListWidget(parent), m_loade
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setSelectionMode(QAbstractItemView::MultiSelection);
     connect(this, &QListWidget::itemSelectionChanged, this, &PictureListView::selectedItem);
-    connect(m_loader, &ThumbnailLoader::loaded, this, &PictureListView::showThumbnail);
+    connect(m_loader, &PictureLoader::loaded, this, &PictureListView::showThumbnail);
 }
 
 void PictureListView::setMovieMode(bool movies)
@@ -109,7 +108,7 @@ void PictureListView::requestThumbnail(const QString &name, QListWidgetItem *ite
 {
     const QString folder = m_folder.isEmpty() ? WebcamUtil::getTemporaryPath() : m_folder;
     m_awaited.insert(++m_lastRequest, indexFromItem(item));
-    m_loader->request(m_lastRequest, folder + "/" + name, iconSize());
+    m_loader->requestThumbnail(m_lastRequest, folder + "/" + name, iconSize());
 }
 
 void PictureListView::showThumbnail(int id, const QImage &thumbnail)

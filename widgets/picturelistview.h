@@ -7,7 +7,7 @@
 #include <QStringList>
 #include <QVector>
 
-class ThumbnailLoader;
+class PictureLoader;
 
 // The strip of thumbnails in which the user chooses what to show or to hand over: up to nine photos, in the
 // order of choosing, or one movie. Names are bare file names; a movie is named by its preview picture
@@ -82,7 +82,7 @@ private:
 
     QIcon m_placeholder; // one for all, as long as they are of one size
     QSize m_placeholderSize;
-    ThumbnailLoader *m_loader;
+    PictureLoader *m_loader;
     int m_lastRequest = 0;
     QHash<int, QPersistentModelIndex> m_awaited; // the item of each request under way
 };

@@ -1,7 +1,8 @@
 #include "widgets/picturewidget.h"
 
+#include "util/desktop/fonts.h"
 #include "util/webcamutil.h"
-#include "widgets/picturefile.h"
+#include "widgets/pictureloader.h"
 #include "widgets/stretchbitmapbutton.h"
 
 #include <QDir>
@@ -9,8 +10,9 @@
 #include <QPainter>
 
 PictureWidget::PictureWidget(QWidget *parent, Qt::WindowFlags flags)
-    : QWidget(parent, flags), m_caption(new QLabel(tr("Photo"), this))
+    : QWidget(parent, flags), m_loader(new PictureLoader(this)), m_caption(new QLabel(tr("Photo"), this))
 {
+    connect(m_loader, &PictureLoader::loaded, this, [this](int, const QImage &picture) { take(picture); });
     QPalette colours = palette();
     colours.setColor(QPalette::Window, Qt::black);
     colours.setColor(QPalette::WindowText, Qt::green);
@@ -18,7 +20,7 @@ PictureWidget::PictureWidget(QWidget *parent, Qt::WindowFlags flags)
     setAutoFillBackground(true);
     m_caption->setPalette(colours);
     m_caption->setAutoFillBackground(true);
-    m_caption->setFont(QFont("Arial", 24, 5, false));
+    m_caption->setFont(captionFont());
 }
 
 void PictureWidget::Loadbmp(const QString &name, QString folder)
@@ -27,8 +29,22 @@ void PictureWidget::Loadbmp(const QString &name, QString folder)
         m_fileName = name;
     if (folder.isEmpty())
         folder = WebcamUtil::getTemporaryPath();
-    m_pixmap = QPixmap::fromImage(readPicture(QDir::toNativeSeparators(folder + "/" + m_fileName)));
+    m_loader->cancel();
+    m_loader->request(0, QDir::toNativeSeparators(folder + "/" + m_fileName));
+}
+
+void PictureWidget::showPicture(const QString &name, const QImage &picture)
+{
+    m_loader->cancel();
+    m_fileName = name;
+    take(picture);
+}
+
+void PictureWidget::take(const QImage &picture)
+{
+    m_pixmap = QPixmap::fromImage(picture);
     update();
+    emit pictureChanged();
 }
 
 void PictureWidget::paintEvent(QPaintEvent *)
@@ -94,10 +110,10 @@ void PictureWidget::setLabelText(const QString &text)
 
 void PictureWidget::Release()
 {
-    m_pixmap = QPixmap();
+    m_loader->cancel();
     m_caption->hide();
     m_fileName.clear();
-    update();
+    take(QImage());
 }
 
 void PictureWidget::OnZoom()

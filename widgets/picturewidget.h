@@ -1,10 +1,12 @@
 #pragma once
 
+#include <QImage>
 #include <QPixmap>
 #include <QString>
 #include <QWidget>
 
 class CStretchBitmapButton;
+class PictureLoader;
 class QLabel;
 
 // Shows one photo, centred on black: as a tile of a grid with a button for zooming (list mode), or over a
@@ -16,9 +18,15 @@ class PictureWidget : public QWidget
 public:
     explicit PictureWidget(QWidget *parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags());
 
-    // Loads a photo by its bare name. An empty name keeps the one before, an empty folder is the working
-    // folder. A file without a picture gives an empty black widget.
+    // Loads a photo by its bare name, which counts at once. An empty name keeps the one before, an empty
+    // folder is the working folder. The file is read in the background: what was shown before is shown until
+    // the photo has come, and of several requests only the newest counts. A file without a picture empties
+    // the widget then.
     void Loadbmp(const QString &name, QString folder);
+
+    // Shows a picture at once under that bare name, instead of one that is being read. It is shared, not
+    // copied, when it is of Format_RGB32.
+    void showPicture(const QString &name, const QImage &picture);
 
     // To be called once each for a widget: every call adds one more signal to a press of the button.
     void ListMode();
@@ -29,15 +37,9 @@ public:
     // Also shows the caption if it was hidden.
     void setLabelText(const QString &text);
 
-    // Empties the widget.
+    // Empties the widget, and forgets what is being read.
     void Release();
 
-    void showPicture(const QString &name, const QImage &picture)
-    {
-        m_fileName = name;
-        m_pixmap = QPixmap::fromImage(picture);
-        update();
-    }
     QString fileName() const { return m_fileName; }
 
 public slots:
@@ -47,16 +49,20 @@ public slots:
 signals:
     void onZoom(PictureWidget *picture);
     void onBack(PictureWidget *picture);
+    // What is shown has been replaced, by a picture or by nothing.
+    void pictureChanged();
 
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void take(const QImage &picture);
     void createButtons();
     void placeAtBottomRight(QWidget *button);
 
     QString m_fileName;
     QPixmap m_pixmap; // as loaded, or as last painted
+    PictureLoader *m_loader;
     QLabel *m_caption;
     CStretchBitmapButton *m_zoom = nullptr;
     CStretchBitmapButton *m_back = nullptr;

@@ -1,9 +1,9 @@
 #include "tests/platform/camerawindow.h"
 #include "tests/platform/moviereader.h"
 #include "tests/support/smalldisk.h"
+#include "util/files/freespace.h"
 
 #include <QProcess>
-#include <QStorageInfo>
 
 #include <algorithm>
 #include <atomic>
@@ -243,7 +243,7 @@ void TestMovie::endsOnAFullDisk()
         camera.capture.Record(movie);
         QTest::qWait(1500);
         QCOMPARE(ended.count(), 0);
-        disk.fillUpTo(left, QStorageInfo(disk.path("")).bytesAvailable());
+        disk.fillUpTo(left, freeBytes(disk.path("")).value_or(0));
         QVERIFY(ended.wait(3000));
         camera.capture.RecordStop();
         QVERIFY(playsInAnotherPlayer(movie));

@@ -1,4 +1,4 @@
-#include "util/windowmanagement.h"
+#include "util/desktop/windowmanagement.h"
 
 #include <QProcess>
 #include <QScreen>

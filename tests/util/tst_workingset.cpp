@@ -1,4 +1,4 @@
-#include "util/freespace.h"
+#include "util/files/freespace.h"
 #include "util/webcamutil.h"
 
 #include <QtTest>

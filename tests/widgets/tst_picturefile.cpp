@@ -1,9 +1,11 @@
-#include "platform/pngfile.h"
-#include "widgets/photodecoder.h"
+#include "tests/support/smalldisk.h"
+#include "util/files/photofile.h"
 #include "widgets/picturefile.h"
 
+#include <QRandomGenerator>
 #include <QtTest>
 
+#include <algorithm>
 #include <sys/resource.h>
 #include <sys/stat.h>
 
@@ -12,24 +14,20 @@ class TestPictureFile : public QObject
 {
     Q_OBJECT
 
-    static QImage pattern(const QSize &size)
+    static QImage noise(const QSize &size)
     {
         QImage image(size, QImage::Format_RGB888);
-        for (int i = 0; i < int(image.sizeInBytes()); ++i)
-            image.bits()[i] = uchar(i * 7 + i / 1000 * 13);
+        QRandomGenerator generator(1);
+        std::generate_n(image.bits(), image.sizeInBytes(), [&] { return uchar(generator.generate()); });
         return image;
     }
     // Leaves the image as the camera writes it, and gives its bytes.
     QByteArray photograph(const QImage &image) const
     {
-        GstVideoInfo info;
-        gst_video_info_set_format(&info, GST_VIDEO_FORMAT_RGB, guint(image.width()), guint(image.height()));
-        GstBuffer *buffer = gst_buffer_new_memdup(image.constBits(), gsize(image.sizeInBytes()));
         QFile photo(m_path);
         photo.remove();
-        const bool isWritten = writePng(m_path, info, buffer);
-        gst_buffer_unref(buffer);
-        return isWritten && photo.open(QIODevice::ReadOnly) ? photo.readAll() : QByteArray();
+        return writePhoto(m_path, image) == 0 && photo.open(QIODevice::ReadOnly) ? photo.readAll()
+                                                                                 : QByteArray();
     }
     void put(const QByteArray &content) const
     {
@@ -41,26 +39,42 @@ class TestPictureFile : public QObject
     const QString m_path = m_dir.filePath(QString::fromUtf8("photo صورة 📷.png"));
 
 private slots:
-    void initTestCase() { gst_init(nullptr, nullptr); }
-
     void readsWhatTheCameraWrites()
     {
         for (const QSize &size : {QSize(1, 1), QSize(641, 479)}) {
-            const QImage image = pattern(size);
+            const QImage image = noise(size);
             QVERIFY(!photograph(image).isEmpty());
-            QCOMPARE(decodePhoto(m_path, 1 << 30), image); // by the short way
+            const QImage shown = image.convertToFormat(QImage::Format_RGB32);
+            QCOMPARE(decodePhoto(m_path, 1 << 30), shown); // by the short way
             QCOMPARE(QImage(m_path).convertToFormat(QImage::Format_RGB888), image);
             const QSize box(260, 200);
             QCOMPARE(readThumbnail(m_path, box),
-                     image.scaled(box, Qt::KeepAspectRatio, Qt::FastTransformation));
+                     shown.scaled(box, Qt::KeepAspectRatio, Qt::FastTransformation));
         }
+    }
+
+    void writingFailsWithItsReason()
+    {
+        const QImage image = noise({640, 480});
+        QCOMPARE(photograph(image).isEmpty(), false);
+        QCOMPARE(writePhoto(m_path, noise({40, 30})), EEXIST);
+        QCOMPARE(decodePhoto(m_path, 1 << 30).size(), image.size()); // what was there is kept
+        QCOMPARE(writePhoto(m_dir.filePath("gone/photo.png"), image), ENOENT);
+        QCOMPARE(writePhoto(m_path, QImage()), EINVAL);
+        const SmallDisk disk(1);
+        if (!disk.isMounted())
+            QSKIP("a small file system takes root to mount");
+        QCOMPARE(writePhoto(disk.path("photo.png"), noise({1000, 1000})), ENOSPC);
+        QCOMPARE(QDir(disk.path("")).entryList(QDir::Files | QDir::Hidden), QStringList());
+        QVERIFY(disk.makeReadOnly());
+        QCOMPARE(writePhoto(disk.path("photo.png"), image), EROFS);
     }
 
     // Cut anywhere, or with any byte of its head changed, a photo is no picture or another one: never a
     // crash.
     void damagedPhotosGiveNothing()
     {
-        const QByteArray whole = photograph(pattern({40, 30}));
+        const QByteArray whole = photograph(noise({40, 30}));
         for (int length = 0; length < whole.size() - 12; length += 7) {
             put(whole.left(length));
             QVERIFY2(decodePhoto(m_path, 1 << 20).isNull(), qPrintable(QString::number(length)));
@@ -76,8 +90,8 @@ private slots:
 
     void otherFilesGiveAPictureOrNothing()
     {
-        const QByteArray photo = photograph(pattern({40, 30}));
-        QVERIFY(pattern({64, 48}).save(m_path, "JPEG"));
+        const QByteArray photo = photograph(noise({40, 30}));
+        QVERIFY(noise({64, 48}).save(m_path, "JPEG"));
         QCOMPARE(readPicture(m_path).size(), QSize(64, 48));
         QVERIFY(QImage(30000, 30000, QImage::Format_Mono).save(m_path, "PNG") &&
                 readPicture(m_path).isNull());

@@ -20,6 +20,14 @@ class TestViews : public QObject
         return found;
     }
 
+    void load(PictureWidget &widget, const QString &name) const
+    {
+        QSignalSpy changes(&widget, &PictureWidget::pictureChanged);
+        widget.Loadbmp(name, m_dir.path());
+        QVERIFY(changes.wait());
+    }
+
+    const QSet<QRgb> black{QColor(Qt::black).rgb()};
     const QTemporaryDir m_dir;
 
 private slots:
@@ -43,19 +51,52 @@ private slots:
             for (int y = 0; y < 256; ++y)
                 stripes.setPixelColor(x, y, QColor(x, 0, 0));
         }
-        QVERIFY(stripes.save(m_dir.filePath("photo1.png")) && QDir(m_dir.path()).mkdir("photo2.png"));
+        QVERIFY(stripes.save(m_dir.filePath("photo1.png")) && QDir(m_dir.path()).mkdir("folder.png"));
         PictureWidget widget;
         widget.labelVisible(false);
-        widget.Loadbmp("photo1.png", m_dir.path());
+        load(widget, "photo1.png");
         const QPair<int, int> sidesAndColours[] = {{256, 256}, {16, 16}, {256, 16}};
         for (const auto &row : sidesAndColours) {
             widget.resize(row.first, row.first);
             QCOMPARE(colours(widget).size(), row.second);
         }
-        for (const char *name : {"photo2.png", "gone.png"}) {
-            widget.Loadbmp(name, m_dir.path());
-            QCOMPARE(colours(widget), QSet<QRgb>{QColor(Qt::black).rgb()});
+        for (const char *name : {"folder.png", "gone.png"}) {
+            load(widget, name);
+            QCOMPARE(colours(widget), black);
         }
+    }
+
+    // Whatever is asked for in the meantime, the last word counts; until it comes the old picture stays.
+    void newestPictureCounts()
+    {
+        const QColor hues[] = {Qt::red, Qt::green, Qt::blue};
+        QImage image(4000, 3000, QImage::Format_RGB32);
+        for (int i = 0; i < 3; ++i) {
+            image.fill(hues[i]);
+            QVERIFY(image.save(m_dir.filePath(QString("photo%1.png").arg(i))));
+        }
+        PictureWidget widget;
+        widget.labelVisible(false);
+        load(widget, "photo0.png");
+        QSignalSpy changes(&widget, &PictureWidget::pictureChanged);
+        widget.Loadbmp("photo1.png", m_dir.path());
+        widget.Loadbmp("photo2.png", m_dir.path());
+        QCOMPARE(widget.fileName(), QString("photo2.png"));
+        QCOMPARE(colours(widget), QSet<QRgb>{hues[0].rgb()});
+        QVERIFY(changes.wait());
+        QCOMPARE(colours(widget), QSet<QRgb>{hues[2].rgb()});
+        widget.Loadbmp("photo1.png", m_dir.path());
+        widget.showPicture("photo3.png", image);
+        widget.Loadbmp("photo1.png", m_dir.path());
+        widget.Release();
+        {
+            PictureWidget shortLived;
+            shortLived.Loadbmp("photo1.png", m_dir.path());
+        }
+        PictureWidget last; // is read after all of these
+        load(last, "photo1.png");
+        QCOMPARE(changes.count(), 3);
+        QCOMPARE(colours(widget), black);
     }
 
     void moviePlaysToItsEndAndAgain()

@@ -21,11 +21,16 @@ public:
     // hour.
     static void removeLeftOvers(const QString &folder);
 
-    // Open for writing, owned by this object; -1 when it could not be opened.
+    // Open for writing, owned by this object; -1 when it could not be opened. Right after the opening, errno
+    // says why.
     int descriptor() const { return m_descriptor; }
 
-    // Gives the file its name, once. False when the name is taken, by whatever it is: nothing is ever
-    // replaced.
+    // Writes all of the bytes behind what was written before. False on failure, of which errno says why; some
+    // of them may be written then.
+    bool append(const char *bytes, size_t count);
+
+    // Gives the file its name, once. False, with errno, when that fails. EEXIST: the name is taken, by
+    // whatever it is; nothing is ever replaced.
     bool publish();
     // As publish(), but takes the place of a file that has the name. A crash in between may leave a hidden
     // file.

@@ -1,6 +1,6 @@
-#include "util/filemove.h"
+#include "util/files/filemove.h"
 
-#include "util/wholefile.h"
+#include "util/files/wholefile.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -32,20 +32,6 @@ private:
     int m_descriptor;
 };
 
-bool writeAll(int to, const char *data, ssize_t length)
-{
-    while (length > 0) {
-        const ssize_t written = write(to, data, static_cast<size_t>(length));
-        if (written < 0 && errno == EINTR)
-            continue;
-        if (written <= 0)
-            return false;
-        data += written;
-        length -= written;
-    }
-    return true;
-}
-
 // How a file is copied.
 struct Copying {
     std::function<bool()> isToStop = [] { return false; };
@@ -57,7 +43,7 @@ void startWriting(int file)
     sync_file_range(file, 0, 0, SYNC_FILE_RANGE_WRITE);
 }
 
-bool copyByBlocks(int from, int to, const Copying &copying)
+bool copyByBlocks(int from, WholeFile *to, const Copying &copying)
 {
     constexpr size_t blockBytes = size_t{256} * 1024; // past this, larger blocks gain nothing
     constexpr int blocksBetweenWrites = 32;           // enough to keep a disk busy
@@ -68,23 +54,24 @@ bool copyByBlocks(int from, int to, const Copying &copying)
             return true;
         if (length < 0 && errno == EINTR)
             continue;
-        if (length < 0 || !writeAll(to, block.data(), length))
+        if (length < 0 || !to->append(block.data(), size_t(length)))
             return false;
         if (copying.isLasting && count % blocksBetweenWrites == 0)
-            startWriting(to);
+            startWriting(to->descriptor());
     }
     return false;
 }
 
 // The kernel copies where it can, between most file systems of one kind, and may even share the blocks. What
 // it leaves, up to all of the file, goes by blocks, and so does finding out why.
-bool copyContents(int from, int to, const Copying &copying)
+bool copyContents(int from, WholeFile *to, const Copying &copying)
 {
     // A fraction of a second even on a slow disk, after which stopping is possible.
     constexpr size_t kernelStepBytes = size_t{16} * 1024 * 1024;
-    while (!copying.isToStop() && copy_file_range(from, nullptr, to, nullptr, kernelStepBytes, 0) > 0) {
+    while (!copying.isToStop() &&
+           copy_file_range(from, nullptr, to->descriptor(), nullptr, kernelStepBytes, 0) > 0) {
         if (copying.isLasting)
-            startWriting(to);
+            startWriting(to->descriptor());
     }
     return copyByBlocks(from, to, copying);
 }
@@ -106,7 +93,7 @@ std::unique_ptr<WholeFile> copied(const QString &source, const QString &target, 
     if (from < 0)
         return nullptr;
     auto file = std::make_unique<WholeFile>(target, status.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO));
-    if (file->descriptor() < 0 || !copyContents(from, file->descriptor(), copying))
+    if (file->descriptor() < 0 || !copyContents(from, file.get(), copying))
         return nullptr;
     if (copying.isLasting) {
         const timespec times[] = {status.st_atim, status.st_mtim};

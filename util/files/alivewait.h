@@ -11,16 +11,25 @@
 // Waiting on the GUI thread for what is done elsewhere, without the windows standing still. While these wait,
 // timers tick and queued signals arrive: whoever calls them must be prepared for what those do.
 
+// What becomes of what the user presses during a wait.
+enum class Input {
+    KeptAtFirst,   // for the first second it comes afterwards; a wait that has become so long lets it in
+    KeptThroughout // all of it comes afterwards
+};
+
+constexpr std::chrono::milliseconds noLimit = std::chrono::milliseconds::max();
+
 // Waits until isDone() answers true, which is asked again and again; false when it has not by the limit. The
-// windows are painted meanwhile. For the first second what the user presses is kept for afterwards; a wait
-// that has become so long lets it in.
-bool waitAlive(const std::function<bool()> &isDone, std::chrono::milliseconds limit);
+// windows are painted meanwhile.
+bool waitAlive(const std::function<bool()> &isDone, std::chrono::milliseconds limit,
+               Input input = Input::KeptAtFirst);
 
 // Does the work on a thread of its own and waits for its result: for some milliseconds as if it were done
 // here, then as waitAlive() does. Nothing when it has not come by the limit; the work is then left to itself,
 // so it must own all that it uses.
 template<typename Work>
-auto doAside(Work work, std::chrono::milliseconds limit) -> std::optional<decltype(work())>
+auto doAside(Work work, std::chrono::milliseconds limit, Input input = Input::KeptAtFirst)
+    -> std::optional<decltype(work())>
 {
     constexpr std::chrono::milliseconds unnoticed(15);
     using Result = decltype(work());
@@ -30,7 +39,7 @@ auto doAside(Work work, std::chrono::milliseconds limit) -> std::optional<declty
     const auto isReady = [&result] {
         return result.wait_for(std::chrono::milliseconds(0)) == std::future_status::ready;
     };
-    if (result.wait_for(unnoticed) != std::future_status::ready && !waitAlive(isReady, limit))
+    if (result.wait_for(unnoticed) != std::future_status::ready && !waitAlive(isReady, limit, input))
         return {};
     return result.get();
 }

@@ -1,7 +1,7 @@
-#include "platform/pngfile.h"
+#include "util/files/photofile.h"
 
-#include "platform/largebytes.h"
-#include "util/wholefile.h"
+#include "util/files/largebytes.h"
+#include "util/files/wholefile.h"
 
 #include <libdeflate.h>
 
@@ -10,8 +10,6 @@
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include <unistd.h>
 
 namespace
 {
@@ -55,32 +53,28 @@ struct Chunk {
     std::string tail;
 };
 
-std::string imageHeader(const GstVideoInfo &rgb)
+std::string imageHeader(const QSize &size)
 {
     std::string header;
-    appendNumber(header, uint32_t(GST_VIDEO_INFO_WIDTH(&rgb)));
-    appendNumber(header, uint32_t(GST_VIDEO_INFO_HEIGHT(&rgb)));
+    appendNumber(header, uint32_t(size.width()));
+    appendNumber(header, uint32_t(size.height()));
     // 8 bits a channel, RGB, and the only methods that there are of compression, filtering, no interlacing.
     header += std::string("\x08\x02\x00\x00\x00", 5);
     return header;
 }
 
 // Each row as its difference from the row above: cheap, and what a page leaves is mostly small numbers.
-LargeBytes filterUp(GstVideoFrame *frame)
+LargeBytes filterUp(const QImage &picture)
 {
-    const size_t rowBytes = size_t(GST_VIDEO_FRAME_WIDTH(frame)) * 3;
-    const int rows = GST_VIDEO_FRAME_HEIGHT(frame);
-    const int stride = GST_VIDEO_FRAME_PLANE_STRIDE(frame, 0);
-    const auto *pixels = static_cast<const unsigned char *>(GST_VIDEO_FRAME_PLANE_DATA(frame, 0));
+    const size_t rowBytes = size_t(picture.width()) * 3;
     const std::vector<unsigned char> blackRow(rowBytes, 0);
-
-    LargeBytes filtered((rowBytes + 1) * size_t(rows));
+    LargeBytes filtered((rowBytes + 1) * size_t(picture.height()));
     if (filtered.size() == 0)
         return filtered;
     unsigned char *out = filtered.data();
     const unsigned char *above = blackRow.data();
-    for (int row = 0; row < rows; ++row) {
-        const unsigned char *current = pixels + size_t(row) * size_t(stride);
+    for (int row = 0; row < picture.height(); ++row) {
+        const unsigned char *current = picture.constScanLine(row);
         *out++ = upFilter;
         for (size_t i = 0; i < rowBytes; ++i)
             out[i] = static_cast<unsigned char>(current[i] - above[i]);
@@ -102,42 +96,29 @@ LargeBytes compress(const LargeBytes &bytes)
     return packed;
 }
 
-LargeBytes packedPixels(const GstVideoInfo &rgb, GstBuffer *picture)
-{
-    MappedFrame frame(rgb, picture, GST_MAP_READ);
-    return frame.isValid() ? compress(filterUp(frame.get())) : LargeBytes(0);
-}
-
-bool writeAll(int file, std::string_view bytes)
-{
-    while (!bytes.empty()) {
-        const ssize_t written = write(file, bytes.data(), bytes.size());
-        if (written < 0 && errno == EINTR)
-            continue;
-        if (written <= 0)
-            return false;
-        bytes.remove_prefix(size_t(written));
-    }
-    return true;
-}
-
-bool writeWholeFile(const QString &path, std::initializer_list<std::string_view> parts)
+// 0, or the error number.
+int writeWholeFile(const QString &path, std::initializer_list<std::string_view> parts)
 {
     WholeFile file(path, 0666);
-    bool isWritten = file.descriptor() >= 0;
-    for (const std::string_view part : parts)
-        isWritten = isWritten && writeAll(file.descriptor(), part);
-    return isWritten && file.publish();
+    if (file.descriptor() < 0)
+        return errno;
+    for (const std::string_view part : parts) {
+        if (!file.append(part.data(), part.size()))
+            return errno;
+    }
+    return file.publish() ? 0 : errno;
 }
 
 } // namespace
 
-bool writePng(const QString &path, const GstVideoInfo &rgb, GstBuffer *picture)
+int writePhoto(const QString &path, const QImage &picture)
 {
-    const LargeBytes packed = packedPixels(rgb, picture);
+    if (picture.isNull() || picture.format() != QImage::Format_RGB888)
+        return EINVAL;
+    const LargeBytes packed = compress(filterUp(picture));
     if (packed.size() == 0)
-        return false;
-    const std::string header = imageHeader(rgb);
+        return ENOMEM;
+    const std::string header = imageHeader(picture.size());
     const std::string_view pixels = asText(packed.data(), packed.size());
     const Chunk headerChunk("IHDR", header);
     const Chunk pixelChunk("IDAT", pixels);

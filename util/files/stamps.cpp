@@ -1,4 +1,4 @@
-#include "util/stamps.h"
+#include "util/files/stamps.h"
 
 #include <QLocale>
 

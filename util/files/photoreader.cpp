@@ -1,4 +1,6 @@
-#include "widgets/photodecoder.h"
+#include "util/files/photofile.h"
+
+#include "util/files/largebytes.h"
 
 #include <QFile>
 #include <QtEndian>
@@ -7,6 +9,7 @@
 
 #include <cstring>
 #include <memory>
+#include <vector>
 
 namespace
 {
@@ -68,42 +71,48 @@ bool parseHead(const QByteArray &bytes, Head &head)
     return head.width > 0 && head.height > 0 && head.width <= longestSide && head.height <= longestSide;
 }
 
-QByteArray unpack(const QByteArray &packed, qint64 bytes)
+// Of no size when that fails.
+LargeBytes unpack(const QByteArray &packed, qint64 bytes)
 {
     const Decompressor decompressor(libdeflate_alloc_decompressor());
-    QByteArray rows(int(bytes), Qt::Uninitialized);
+    LargeBytes rows{size_t(bytes)};
     // Without a place for the number of bytes, anything but exactly as many is an error.
-    if (!decompressor ||
+    if (!decompressor || rows.size() == 0 ||
         libdeflate_zlib_decompress(decompressor.get(), packed.constData(), size_t(packed.size()), rows.data(),
-                                   size_t(rows.size()), nullptr) != LIBDEFLATE_SUCCESS)
-        return {};
+                                   rows.size(), nullptr) != LIBDEFLATE_SUCCESS)
+        return LargeBytes(0);
     return rows;
 }
 
-void addRow(uchar *row, const uchar *difference, const uchar *above, qint64 bytes)
+// Makes pixels of a row that stands as the difference from the row before, which pixels then are.
+void addRow(uchar *pixels, const uchar *difference, qint64 bytes)
 {
     for (qint64 i = 0; i < bytes; ++i)
-        row[i] = uchar(difference[i] + above[i]);
+        pixels[i] = uchar(pixels[i] + difference[i]);
 }
 
-QImage unfilter(const QByteArray &rows, const Head &head)
+void widenRow(QRgb *wide, const uchar *pixels, qint64 width)
 {
-    QImage image(int(head.width), int(head.height), QImage::Format_RGB888);
+    for (qint64 x = 0; x < width; ++x, pixels += bytesPerPixel)
+        wide[x] = qRgb(pixels[0], pixels[1], pixels[2]);
+}
+
+QImage unfilter(const LargeBytes &rows, const Head &head)
+{
+    QImage image(int(head.width), int(head.height), QImage::Format_RGB32);
     if (image.isNull())
         return {};
     const qint64 bytes = head.width * bytesPerPixel;
-    const QByteArray blackRow(int(bytes), 0);
-    const auto *above = reinterpret_cast<const uchar *>(blackRow.constData());
-    const auto *filtered = reinterpret_cast<const uchar *>(rows.constData());
+    std::vector<uchar> pixels(size_t(bytes), 0); // of one row
+    const uchar *filtered = rows.data();
     for (int y = 0; y < head.height; ++y, filtered += head.rowBytes()) {
-        uchar *row = image.scanLine(y);
         if (*filtered == UpFilter)
-            addRow(row, filtered + 1, above, bytes);
+            addRow(pixels.data(), filtered + 1, bytes);
         else if (*filtered == NoFilter)
-            std::memcpy(row, filtered + 1, size_t(bytes));
+            std::memcpy(pixels.data(), filtered + 1, size_t(bytes));
         else
             return {};
-        above = row;
+        widenRow(reinterpret_cast<QRgb *>(image.scanLine(y)), pixels.data(), head.width);
     }
     return image;
 }
@@ -121,6 +130,6 @@ QImage decodePhoto(const QString &path, qint64 pixelBudget)
     const QByteArray packed = file.read(head.packedBytes);
     if (packed.size() != head.packedBytes || !file.read(checkSumBytes + endChunk.size()).endsWith(endChunk))
         return {};
-    const QByteArray rows = unpack(packed, head.rowBytes() * head.height);
-    return rows.isEmpty() ? QImage() : unfilter(rows, head);
+    const LargeBytes rows = unpack(packed, head.rowBytes() * head.height);
+    return rows.size() == 0 ? QImage() : unfilter(rows, head);
 }

@@ -1,4 +1,4 @@
-#include "util/wholefile.h"
+#include "util/files/wholefile.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -34,7 +34,9 @@ bool renameWithoutReplacing(const QByteArray &from, const QByteArray &to)
         return false;
     // A file system that cannot promise it, such as NFS: the look comes just before the renaming.
     struct stat taken = {};
-    return lstat(to, &taken) != 0 && errno == ENOENT && rename(from, to) == 0;
+    if (lstat(to, &taken) == 0)
+        errno = EEXIST;
+    return errno == ENOENT && rename(from, to) == 0;
 }
 
 } // namespace
@@ -62,8 +64,11 @@ WholeFile::WholeFile(const QString &target, mode_t mode) : m_target(QFile::encod
     m_hiddenName = newHiddenName(folder);
     unlink(m_hiddenName);
     m_descriptor = open(m_hiddenName, O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, mode);
-    if (m_descriptor < 0)
-        m_hiddenName.clear();
+    if (m_descriptor >= 0)
+        return;
+    const int error = errno;
+    m_hiddenName.clear();
+    errno = error;
 }
 
 WholeFile::~WholeFile()
@@ -72,6 +77,22 @@ WholeFile::~WholeFile()
         close(m_descriptor);
     if (!m_hiddenName.isEmpty())
         unlink(m_hiddenName);
+}
+
+bool WholeFile::append(const char *bytes, size_t count)
+{
+    while (count > 0) {
+        const ssize_t written = write(m_descriptor, bytes, count);
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written == 0)
+            errno = EIO;
+        if (written <= 0)
+            return false;
+        bytes += written;
+        count -= size_t(written);
+    }
+    return true;
 }
 
 bool WholeFile::linkNamelessAs(const QByteArray &name) const

@@ -1,17 +1,15 @@
-#include "util/filemove.h"
-#include "util/webcamutil.h"
-#include "util/wholefile.h"
+#include "util/files/saving.h"
+
+#include "util/files/capturenames.h"
+#include "util/files/filemove.h"
+#include "util/files/wholefile.h"
 
 #include <QDir>
-#include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
-#include <QThread>
 
 #include <algorithm>
 #include <deque>
-#include <functional>
-#include <memory>
 #include <vector>
 
 namespace
@@ -29,8 +27,7 @@ bool isSavedAlready(const QString &target)
 QStringList takeUnit(QStringList *captures)
 {
     const QString newest = captures->takeLast();
-    const QString partner =
-        newest.contains(".mov") ? WebcamUtil::previewName(newest) : WebcamUtil::movieName(newest);
+    const QString partner = newest.contains(movieEnding) ? previewName(newest) : movieName(newest);
     return captures->removeOne(partner) ? QStringList{newest, partner} : QStringList{newest};
 }
 
@@ -107,34 +104,10 @@ void removeLeftOvers(const QString &save)
         WholeFile::removeLeftOvers(days.filePath(day));
 }
 
-// Does the work on a thread of its own. The windows go on painting, and what the user presses meanwhile comes
-// afterwards.
-bool doAside(const std::function<bool()> &work)
-{
-    bool result = false;
-    const std::unique_ptr<QThread> worker(QThread::create([&] { result = work(); }));
-    QEventLoop loop;
-    QObject::connect(worker.get(), &QThread::finished, &loop, &QEventLoop::quit);
-    worker->start();
-    loop.exec(QEventLoop::ExcludeUserInputEvents);
-    worker->wait(); // the loop ends with the application, too
-    return result;
-}
-
 } // namespace
 
-bool WebcamUtil::saveData(const QString &dir)
+bool moveCaptures(const QStringList &captures, const QString &working, const QString &save)
 {
-    const QString working = getTemporaryPath();
-    if (working.isEmpty())
-        return false;
-    // Once: a save that runs past midnight stays in one folder.
-    const QString save = CreateSavePath(dir);
-    if (save.isEmpty())
-        return false;
-    const QStringList captures = getFileList({"photo*", "movie*"});
-    return !captures.isEmpty() && doAside([&] {
-        removeLeftOvers(save);
-        return moveAll(captures, working, save);
-    });
+    removeLeftOvers(save);
+    return moveAll(captures, working, save);
 }

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+// Moves captures, given by their bare names, oldest first, from the working folder into the save folder,
+// newest first, a movie and its preview together or not at all. A file that is there already under the same
+// name is kept and the working copy removed. False at the first failure: what was moved until then stays
+// moved, the rest stays where it was, and nothing half written is left anywhere. Takes as long as the disks
+// do; any thread.
+bool moveCaptures(const QStringList &captures, const QString &working, const QString &save);
