@@ -1,5 +1,7 @@
 #include "capture/selectdevicedlg.h"
 
+#include "platform/documentcamera.h"
+
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QIcon>
@@ -11,7 +13,6 @@ namespace
 {
 
 constexpr int dialogWidth = 200;
-const char documentCamera[] = "Veltrix CX-20";
 
 // Device names are often longer than the dialog is wide: the open list shows them whole.
 void widenListToItsNames(QComboBox *box)
@@ -50,7 +51,7 @@ void SelectDeviceDlg::setVideoDeviceList(const QStringList &names)
     QStringList rows;
     const auto addNames = [&](bool documentCameras) {
         for (int i = 0; i < names.size(); ++i) {
-            if (names.at(i).contains(documentCamera) != documentCameras || m_indexOfRow.contains(i))
+            if (isDocumentCamera(names.at(i)) != documentCameras || m_indexOfRow.contains(i))
                 continue;
             rows << names.at(i);
             m_indexOfRow << i;
