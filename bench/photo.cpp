@@ -43,16 +43,15 @@ void compare(const QSize &size)
     const QTemporaryDir folder;
     const QString ours = folder.filePath("ours.png");
     const QString qts = folder.filePath("qts.png");
-    NewestFrame frames;
-    frames.put(frameOf(size));
+    const FramePtr frame = frameOf(size);
     const QString name = QString("photo of %1x%2").arg(size.width()).arg(size.height());
     Comparison time({name, "ms", 1.0 / 12});
     Comparison bytes({"  its file", "MB", 1.1});
     for (int round = 0; round < rounds; ++round) {
         QFile::remove(ours);
-        bool isSaved = false;
-        const double ourTime =
-            secondsOf([&] { isSaved = saveStill(frames, Zoom(), ours, std::chrono::milliseconds(0)); });
+        StillPicture still({frame, std::make_shared<NewestFrame>(), Zoom(), ours}, false);
+        const double ourTime = secondsOf([&] { still.save(); });
+        bool isSaved = still.result() == PhotoFault::None;
         const QImage picture = QImage(ours).convertToFormat(QImage::Format_RGB888);
         const double qtTime = secondsOf([&] { isSaved = isSaved && picture.save(qts, "PNG"); });
         if (!isSaved || QImage(qts) != QImage(ours))

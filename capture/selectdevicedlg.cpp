@@ -1,5 +1,6 @@
 #include "capture/selectdevicedlg.h"
 
+#include "platform/documentcamera.h"
 #include "util/desktop/fonts.h"
 
 #include <QAbstractItemView>
@@ -13,7 +14,6 @@ namespace
 {
 
 constexpr int dialogWidth = 200;
-const char documentCamera[] = "Veltrix CX-20";
 
 // Device names are often longer than the dialog is wide: the open list shows them whole.
 void widenListToItsNames(QComboBox *box)
@@ -51,7 +51,7 @@ void SelectDeviceDlg::setVideoDeviceList(const QStringList &names)
     QStringList rows;
     const auto addNames = [&](bool documentCameras) {
         for (int i = 0; i < names.size(); ++i) {
-            if (names.at(i).contains(documentCamera) != documentCameras || m_indexOfRow.contains(i))
+            if (isDocumentCamera(names.at(i)) != documentCameras || m_indexOfRow.contains(i))
                 continue;
             rows << names.at(i);
             m_indexOfRow << i;

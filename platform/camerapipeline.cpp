@@ -28,7 +28,8 @@ CameraPipeline::CameraPipeline(GstDevice *device, const CaptureMode &mode)
     // never the clock of a microphone that can be pulled out.
     const ClockHandle clock(gst_system_clock_obtain());
     gst_pipeline_use_clock(GST_PIPELINE(m_pipeline.get()), clock.get());
-    m_hasFailed = !build(device, mode);
+    if (!build(device, mode))
+        fail({CameraFault::Failed, QStringLiteral("No stream can be put together for it.")});
 }
 
 CameraPipeline::~CameraPipeline()
@@ -113,9 +114,13 @@ BufferHandle CameraPipeline::jpegOf(GstClockTime time)
 
 bool CameraPipeline::open()
 {
-    if (m_hasFailed)
+    if (m_failure.fault != CameraFault::None)
         return false;
-    return gst_element_set_state(m_pipeline.get(), GST_STATE_PLAYING) != GST_STATE_CHANGE_FAILURE;
+    if (gst_element_set_state(m_pipeline.get(), GST_STATE_PLAYING) != GST_STATE_CHANGE_FAILURE)
+        return true;
+    if (!hasFailed())
+        fail({CameraFault::Failed, QStringLiteral("It cannot be opened and does not say why.")});
+    return false;
 }
 
 void CameraPipeline::setPaused(bool paused)
@@ -149,8 +154,17 @@ FramePtr CameraPipeline::nextFrame(std::chrono::milliseconds wait)
 bool CameraPipeline::hasFailed()
 {
     while (const MessageHandle message{gst_bus_pop(m_bus.get())}) {
-        const GstMessageType type = GST_MESSAGE_TYPE(message.get());
-        m_hasFailed |= type == GST_MESSAGE_ERROR || type == GST_MESSAGE_EOS;
+        if (GST_MESSAGE_TYPE(message.get()) == GST_MESSAGE_ERROR)
+            fail(cameraFailure(message.get()));
+        else if (GST_MESSAGE_TYPE(message.get()) == GST_MESSAGE_EOS)
+            fail({CameraFault::Failed, QStringLiteral("Its stream has ended.")});
     }
-    return m_hasFailed;
+    return m_failure.fault != CameraFault::None;
+}
+
+// What comes after the first failure follows from it.
+void CameraPipeline::fail(CameraFailure failure)
+{
+    if (m_failure.fault == CameraFault::None)
+        m_failure = std::move(failure);
 }

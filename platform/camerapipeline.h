@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/camerafault.h"
 #include "platform/capturedframe.h"
 #include "platform/capturemode.h"
 
@@ -34,6 +35,8 @@ public:
 
     // Whether the stream has ended with an error or by itself. Reads all messages that have come.
     bool hasFailed();
+    // Why open() or hasFailed() found a failure: the first one that was told.
+    const CameraFailure &failure() const { return m_failure; }
 
 private:
     bool build(GstDevice *device, const CaptureMode &mode);
@@ -41,11 +44,12 @@ private:
     GstElement *add(const char *element);
     static GstPadProbeReturn keepJpeg(GstPad *pad, GstPadProbeInfo *info, gpointer self);
     BufferHandle jpegOf(GstClockTime time);
+    void fail(CameraFailure failure);
 
     ElementHandle m_pipeline;
     BusHandle m_bus;
     GstElement *m_sink = nullptr; // owned by the pipeline
-    bool m_hasFailed = false;
+    CameraFailure m_failure;      // without a fault while all is well
 
     std::mutex m_jpegMutex;
     std::deque<BufferHandle> m_jpegs; // the last few on their way through the decoder

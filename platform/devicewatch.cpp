@@ -1,8 +1,11 @@
 #include "platform/devicewatch.h"
 
+#include "platform/capturelog.h"
 #include "platform/providerwatch.h"
+#include "util/files/alivewait.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace
 {
@@ -57,7 +60,7 @@ DeviceWatch &DeviceWatch::instance()
     return *watch;
 }
 
-DeviceWatch::DeviceWatch() : m_firstListingLimit(std::chrono::steady_clock::now() + firstListingLimit)
+DeviceWatch::DeviceWatch() : m_firstListingLimit(firstListingLimit)
 {
     if (!startGStreamer())
         return;
@@ -85,7 +88,7 @@ DeviceWatch::DeviceWatch() : m_firstListingLimit(std::chrono::steady_clock::now(
 
 DeviceWatch::~DeviceWatch() = default;
 
-std::vector<CaptureDevice> DeviceWatch::cameras()
+std::vector<CaptureDevice> DeviceWatch::cameras() const
 {
     std::vector<CaptureDevice> cameras = mergeCameras(listed(cameraClass));
     const auto isSetAside = [this](const CaptureDevice &camera) {
@@ -95,18 +98,44 @@ std::vector<CaptureDevice> DeviceWatch::cameras()
     return cameras;
 }
 
-std::vector<CaptureDevice> DeviceWatch::microphones()
+std::vector<CaptureDevice> DeviceWatch::microphones() const
 {
     return listed(microphoneClass);
 }
 
-std::vector<CaptureDevice> DeviceWatch::listed(const char *deviceClass)
+void DeviceWatch::awaitCameras()
+{
+    awaitFirstListing(cameraClass);
+}
+
+void DeviceWatch::awaitMicrophones()
+{
+    awaitFirstListing(microphoneClass);
+}
+
+void DeviceWatch::awaitFirstListing(const char *deviceClass)
+{
+    const auto isLate = [deviceClass](const auto &provider) {
+        return provider->lists(deviceClass) && !provider->isFirstListingDone();
+    };
+    const auto isListed = [&] { return std::none_of(m_providers.begin(), m_providers.end(), isLate); };
+    const std::chrono::milliseconds left(m_firstListingLimit.remainingTime());
+    if (waitAlive(isListed, left) || std::exchange(m_isLatenessTold, true))
+        return;
+    for (const auto &provider : m_providers) {
+        if (isLate(provider))
+            qCWarning(deviceLog).noquote()
+                << provider->name() + QStringLiteral(": It does not answer; its "
+                                                     "devices are listed once it does.");
+    }
+}
+
+std::vector<CaptureDevice> DeviceWatch::listed(const char *deviceClass) const
 {
     std::vector<CaptureDevice> listed;
     for (const auto &provider : m_providers) {
         if (!provider->lists(deviceClass))
             continue;
-        provider->waitForFirstListing(m_firstListingLimit);
         const auto devices = provider->devices(deviceClass);
         listed.insert(listed.end(), devices.begin(), devices.end());
     }

@@ -2,11 +2,11 @@
 
 #include "platform/capturedevice.h"
 
+#include <QDeadlineTimer>
 #include <QFileSystemWatcher>
 #include <QObject>
 #include <QThread>
 
-#include <chrono>
 #include <memory>
 #include <vector>
 
@@ -32,12 +32,16 @@ public:
     static DeviceWatch &instance();
 
     // Every camera that is there, each once, in a stable order: known ones keep their place, new ones come
-    // last. While the first listing is still under way it is waited for, up to a second and a half from the
-    // start of the watching; later calls never wait.
-    std::vector<CaptureDevice> cameras();
+    // last. Waits for nothing.
+    std::vector<CaptureDevice> cameras() const;
+    // Every microphone that is there, as each provider lists it. Waits for nothing. From any thread.
+    std::vector<CaptureDevice> microphones() const;
 
-    // Every microphone that is there, as each provider lists it; waits as cameras() does.
-    std::vector<CaptureDevice> microphones();
+    // Waits, with timers and signals going on, while the first listing of cameras or of microphones is under
+    // way: up to a second and a half from the start of the watching, later not at all. What is listed after
+    // that leads to changed().
+    void awaitCameras();
+    void awaitMicrophones();
 
     // Has a camera whose opening hangs count as not there until that thread ends.
     void setAside(const CaptureDevice &camera, QThread *opening);
@@ -49,11 +53,13 @@ signals:
 private:
     DeviceWatch();
     ~DeviceWatch() override;
-    std::vector<CaptureDevice> listed(const char *deviceClass);
+    void awaitFirstListing(const char *deviceClass);
+    std::vector<CaptureDevice> listed(const char *deviceClass) const;
     void watchSoundCards();
 
     std::vector<std::unique_ptr<ProviderWatch>> m_providers;
     std::vector<std::shared_ptr<GstDevice>> m_setAside;
-    std::chrono::steady_clock::time_point m_firstListingLimit;
+    const QDeadlineTimer m_firstListingLimit;
+    bool m_isLatenessTold = false;
     QFileSystemWatcher m_soundCards;
 };

@@ -10,8 +10,11 @@ using namespace std::chrono_literals;
 // How soon the thread sees that it is to stop, pause or paint anew while no frames come.
 constexpr auto frameWait = 50ms;
 
-// A camera that has not been let go by its earlier user after this time will not be.
-constexpr auto accessLimit = 3s;
+// Some cameras wake up for seconds. One that has been let go by its earlier user or has started by then never
+// will.
+constexpr auto openingLimit = 15s;
+// Even a dim room's long exposures bring several frames in this time.
+constexpr auto silenceLimit = 3s;
 
 qint64 now()
 {
@@ -32,7 +35,8 @@ QImage imageOver(const cv::Mat &pixels)
 } // namespace
 
 GrabThread::GrabThread(CameraAccess camera, const CaptureMode &mode)
-    : m_camera(std::move(camera)), m_mode(mode), m_lastSignOfLife(now())
+    : m_camera(std::move(camera)), m_mode(mode), m_frames(std::make_shared<NewestFrame>()),
+      m_lastSignOfLife(now())
 {
 }
 
@@ -51,6 +55,11 @@ void GrabThread::setPaused(bool paused)
     m_isPaused = paused;
 }
 
+void GrabThread::setLiveHandler(std::function<void()> handler)
+{
+    m_liveHandler = std::move(handler);
+}
+
 void GrabThread::setSink(std::shared_ptr<FrameSink> sink)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
@@ -64,9 +73,20 @@ QImage GrabThread::picture() const
     return m_image;
 }
 
-qint64 GrabThread::silentFor() const
+CameraFault GrabThread::overdue() const
 {
-    return m_isPaused ? 0 : now() - m_lastSignOfLife;
+    const std::chrono::milliseconds silent(now() - m_lastSignOfLife);
+    if (m_isPaused && !m_isOpening)
+        return CameraFault::None;
+    if (!m_isLive)
+        return silent > openingLimit ? CameraFault::NotAnswering : CameraFault::None;
+    return silent > silenceLimit ? CameraFault::Silent : CameraFault::None;
+}
+
+CameraFailure GrabThread::failure() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_failure;
 }
 
 void GrabThread::noteSignOfLife()
@@ -76,17 +96,40 @@ void GrabThread::noteSignOfLife()
 
 void GrabThread::run()
 {
-    const std::unique_lock<std::timed_mutex> access(*m_camera.inUse, accessLimit);
-    if (access && !isInterruptionRequested()) {
-        CameraPipeline pipeline(m_camera.device.get(), m_mode);
-        if (pipeline.open()) {
-            m_isOpening = false;
-            grabUntilStopped(pipeline);
-        }
+    std::unique_lock<std::timed_mutex> access(*m_camera.inUse, std::defer_lock);
+    if (!waitForAccess(access)) {
+        fail({CameraFault::NotAnswering, QStringLiteral("An earlier opening of it has not ended.")});
+        return;
     }
+    CameraPipeline pipeline(m_camera.device.get(), m_mode);
+    if (pipeline.open()) {
+        m_isOpening = false;
+        grabUntilStopped(pipeline);
+    }
+    fail(pipeline.failure());
+}
+
+// Told before the camera is closed, which it may not let happen.
+void GrabThread::fail(CameraFailure failure)
+{
     m_isOpening = false;
-    if (!isInterruptionRequested())
-        emit deviceerr();
+    if (isInterruptionRequested())
+        return;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_failure = std::move(failure);
+    }
+    emit deviceerr();
+}
+
+bool GrabThread::waitForAccess(std::unique_lock<std::timed_mutex> &access)
+{
+    const auto limit = std::chrono::steady_clock::now() + openingLimit;
+    while (!isInterruptionRequested() && std::chrono::steady_clock::now() < limit) {
+        if (access.try_lock_for(frameWait))
+            return true;
+    }
+    return false;
 }
 
 void GrabThread::grabUntilStopped(CameraPipeline &pipeline)
@@ -98,12 +141,12 @@ void GrabThread::grabUntilStopped(CameraPipeline &pipeline)
             pipeline.setPaused(isPaused);
             // What lay under the camera before a pause is no picture of now.
             if (!isPaused)
-                m_newest.put(nullptr);
+                m_frames->put(nullptr);
         }
         const FramePtr frame = grabAllWaiting(pipeline);
         // A changed view shows the frame that is there already rather than wait for the next.
         if (m_isViewChanged.exchange(false) || frame)
-            show(frame ? frame : m_newest.get(), view());
+            show(frame ? frame : newest(), view());
     }
 }
 
@@ -128,7 +171,9 @@ FramePtr GrabThread::grabAllWaiting(CameraPipeline &pipeline)
 void GrabThread::deliver(const FramePtr &frame)
 {
     noteSignOfLife();
-    m_newest.put(frame);
+    m_frames->put(frame);
+    if (!m_isLive.exchange(true))
+        QMetaObject::invokeMethod(this, &GrabThread::tellLive, Qt::QueuedConnection);
     std::shared_ptr<FrameSink> sink;
     Zoom zoom;
     {
@@ -138,6 +183,14 @@ void GrabThread::deliver(const FramePtr &frame)
     }
     if (sink)
         sink->take(frame, zoom);
+}
+
+void GrabThread::tellLive()
+{
+    // The handler may take itself away.
+    const std::function<void()> handler = m_liveHandler;
+    if (handler)
+        handler();
 }
 
 GrabThread::View GrabThread::view() const

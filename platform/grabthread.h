@@ -11,6 +11,7 @@
 #include <opencv2/core/mat.hpp>
 
 #include <atomic>
+#include <functional>
 #include <memory>
 #include <mutex>
 
@@ -38,18 +39,27 @@ public:
     void setView(const QSize &box, const Zoom &zoom);
     // Holds the stream, with the camera open, and lets it go on.
     void setPaused(bool paused);
+    // Has this called once, on the thread of this object, when the first frame has come; null ends that.
+    void setLiveHandler(std::function<void()> handler);
     // Hands every further frame to the sink too; null ends that.
     void setSink(std::shared_ptr<FrameSink> sink);
 
     // The latest picture for the window; null before the first. Shares its pixels.
     QImage picture() const;
-    // The latest frame at the camera's full size.
-    const NewestFrame &newest() const { return m_newest; }
+    // The latest frame at the camera's full size; null before the first, and after a pause before the next.
+    FramePtr newest() const { return m_frames->get(); }
+    // Where the frames arrive, for whoever needs them longer than this object lives.
+    std::shared_ptr<const NewestFrame> frames() const { return m_frames; }
 
-    // Milliseconds since the camera last gave a sign of life; while paused it owes none.
-    qint64 silentFor() const;
+    // Whether the first frame has come.
+    bool isLive() const { return m_isLive; }
     // Whether the camera has not answered to being opened yet.
     bool isOpening() const { return m_isOpening; }
+    // Whether the camera has used up its time: NotAnswering without a first frame fifteen seconds after the
+    // start, Silent without a further one for three; else None. A paused camera owes no frames.
+    CameraFault overdue() const;
+    // Why the camera could not be opened or broke off; once deviceerr() was emitted.
+    CameraFailure failure() const;
 
 signals:
     // The camera could not be opened, or its stream broke off.
@@ -66,27 +76,33 @@ private:
         Zoom zoom;
     };
 
+    bool waitForAccess(std::unique_lock<std::timed_mutex> &access);
     void grabUntilStopped(CameraPipeline &pipeline);
+    void fail(CameraFailure failure);
     FramePtr grabAllWaiting(CameraPipeline &pipeline);
     void deliver(const FramePtr &frame);
+    void tellLive();
     void show(const FramePtr &frame, const View &view);
     View view() const;
     void noteSignOfLife();
 
-    cv::Mat m_frame; // the pixels of m_image
+    cv::Mat m_frame; // the pixels of m_image; here because the class's interface has it
     QImage m_image;
 
     const CameraAccess m_camera;
     const CaptureMode m_mode;
-    NewestFrame m_newest;
+    const std::shared_ptr<NewestFrame> m_frames;
     FrameRenderer m_renderer;
+    std::function<void()> m_liveHandler; // of the thread of this object
 
-    mutable std::mutex m_mutex; // guards m_frame, m_image, m_view and m_sink
+    mutable std::mutex m_mutex; // guards m_frame, m_image, m_view, m_sink and m_failure
     View m_view;
     std::shared_ptr<FrameSink> m_sink;
+    CameraFailure m_failure;
     std::atomic<bool> m_isViewChanged{false};
     std::atomic<bool> m_isPaused{false};
     std::atomic<bool> m_isOpening{true};
+    std::atomic<bool> m_isLive{false};
     mutable std::atomic<bool> m_isPictureAwaited{true};
     std::atomic<qint64> m_lastSignOfLife;
 };

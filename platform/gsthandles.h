@@ -50,6 +50,20 @@ inline BufferHandle retain(GstBuffer *buffer)
     return BufferHandle(gst_buffer_ref(buffer));
 }
 
+// What an error message says; for no other message.
+struct ParsedError {
+    explicit ParsedError(GstMessage *message)
+    {
+        GError *parsed = nullptr;
+        gchar *details = nullptr;
+        gst_message_parse_error(message, &parsed, &details);
+        error.reset(parsed);
+        debug.reset(details);
+    }
+    ErrorHandle error;
+    TextHandle debug; // null when there are no details
+};
+
 // A video frame mapped for as long as this object lives.
 class MappedFrame
 {

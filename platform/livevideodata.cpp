@@ -1,10 +1,16 @@
+// The camera of a LiveVideoData and what it shows.
+
 #include "platform/livevideodata.h"
 
+#include "platform/capturelog.h"
 #include "platform/devicewatch.h"
+#include "platform/documentcamera.h"
 #include "platform/movierecorder.h"
 #include "platform/requiredelements.h"
-#include "platform/stillpicture.h"
+#include "util/files/alivewait.h"
 
+#include <QDeadlineTimer>
+#include <QPointer>
 #include <QTextStream>
 
 #include <algorithm>
@@ -15,16 +21,13 @@ namespace
 
 using namespace std::chrono_literals;
 
-// The maker's document camera, by the name under which it is listed.
-constexpr char ownCameraName[] = "Veltrix CX-20";
-
-// Even a dim room's long exposures bring several frames in this time.
-constexpr qint64 silenceLimit = 3000; // milliseconds
 constexpr auto watchPeriod = 250ms;
+constexpr auto filePeriod = 50ms;
 
-constexpr auto firstFrameWait = 1000ms;
-constexpr auto movieStopWait = 450ms;
-constexpr auto movieCloseWait = 30s;
+constexpr auto frameWait = 1s;
+// A camera that is being opened is lost long before.
+constexpr auto openingWait = 60s;
+constexpr auto pluginWait = 30s;
 // A camera closes in a tenth of this; one that does not is left to the end of the process.
 constexpr unsigned long cameraCloseWait = 1000; // milliseconds
 
@@ -51,16 +54,23 @@ void LiveVideoData::prepare()
 LiveVideoData::LiveVideoData() : m_cameraInUse(std::make_shared<std::timed_mutex>())
 {
     connect(&m_target, &VideoTarget::boxChanged, this, &LiveVideoData::updateView);
-    connect(&m_watch, &QTimer::timeout, this, &LiveVideoData::watch);
+    // Queued, since a timer rests while somebody whom it told waits.
+    connect(&m_watch, &QTimer::timeout, this, &LiveVideoData::watch, Qt::QueuedConnection);
+    connect(&m_fileWatch, &QTimer::timeout, this, &LiveVideoData::lookAtMovieFiles, Qt::QueuedConnection);
     m_watch.setInterval(watchPeriod);
+    m_fileWatch.setInterval(filePeriod);
 }
 
 LiveVideoData::~LiveVideoData()
 {
-    finishMovie();
-    for (const auto &movie : m_unfinished)
-        movie->finish(movieCloseWait);
+    m_listener = nullptr;
+    finishMovies();
     closeCameraAndWait();
+}
+
+void LiveVideoData::setListener(CaptureListener *listener)
+{
+    m_listener = listener;
 }
 
 void LiveVideoData::SetTarget(QWidget *target)
@@ -68,37 +78,86 @@ void LiveVideoData::SetTarget(QWidget *target)
     m_target.setWidget(target);
 }
 
+// Loads what GStreamer needs for it, unless prepare() has, and listens to what comes and goes from then on.
+// False when this object has gone meanwhile, as in the next two.
+bool LiveVideoData::followDevices()
+{
+    if (m_isFollowing)
+        return true;
+    const QPointer<LiveVideoData> self(this);
+    const auto load = [] {
+        DeviceWatch::loadProviders();
+        return true;
+    };
+    static_cast<void>(doAside(load, pluginWait));
+    if (!self)
+        return false;
+    m_isFollowing = true;
+    connect(&DeviceWatch::instance(), &DeviceWatch::changed, this, &LiveVideoData::noteDevices,
+            Qt::ConnectionType(Qt::QueuedConnection | Qt::UniqueConnection));
+    return true;
+}
+
+std::vector<CaptureDevice> LiveVideoData::awaitCameras()
+{
+    if (!followDevices())
+        return {};
+    DeviceWatch::instance().awaitCameras();
+    return DeviceWatch::instance().cameras();
+}
+
+std::vector<CaptureDevice> LiveVideoData::awaitMicrophones()
+{
+    if (!followDevices())
+        return {};
+    DeviceWatch::instance().awaitMicrophones();
+    return DeviceWatch::instance().microphones();
+}
+
 void LiveVideoData::Create()
 {
+    if (created && !m_isLost)
+        return;
+    const QPointer<LiveVideoData> self(this);
+    const int use = ++m_useCount;
+    const std::vector<CaptureDevice> listed = awaitCameras();
+    if (!self || use != m_useCount)
+        return;
     const QStringList missing = missingParts();
     supported = missing.isEmpty();
     if (!supported) {
         QTextStream(stderr) << missing.join(QLatin1Char('\n')) << '\n';
         return;
     }
-    connect(&DeviceWatch::instance(), &DeviceWatch::changed, this, &LiveVideoData::device,
-            Qt::UniqueConnection);
-    hasVideoDevice = chooseCamera();
+    hasVideoDevice = chooseCamera(listed);
     created = hasVideoDevice;
-    isVeltrixCam = created && m_camera.name.contains(QLatin1String(ownCameraName));
+    isVeltrixCam = created && isDocumentCamera(m_camera.name);
+    m_isLiveTold = false;
     if (created)
         openCamera();
 }
 
-bool LiveVideoData::chooseCamera()
+bool LiveVideoData::chooseCamera(const std::vector<CaptureDevice> &listed)
 {
-    const std::vector<CaptureDevice> cameras = DeviceWatch::instance().cameras();
-    if (cameras.empty())
+    const CaptureDevice *camera = m_memory.pick(listed);
+    if (!camera)
         return false;
-    const CaptureDevice *chosen = m_chosen ? findAgain(cameras, *m_chosen) : nullptr;
-    const CaptureDevice &camera = chosen ? *chosen : cameras.front();
     // A camera that still hangs must not keep another one waiting.
-    if (camera.device != m_camera.device)
+    if (camera->device != m_camera.device)
         m_cameraInUse = std::make_shared<std::timed_mutex>();
-    m_camera = camera;
-    m_modes = modesOf(camera);
+    m_camera = *camera;
+    m_modes = modesOf(m_camera);
     m_mode = nativeMode(m_modes);
     return m_mode.isValid();
+}
+
+bool LiveVideoData::canReopen()
+{
+    if (created && !m_isLost)
+        return false;
+    const QPointer<LiveVideoData> self(this);
+    const std::vector<CaptureDevice> listed = awaitCameras();
+    return self && m_memory.canReopen(listed);
 }
 
 void LiveVideoData::openCamera()
@@ -111,17 +170,25 @@ void LiveVideoData::openCamera()
     // A thread that is on its way out may still have a word under way.
     connect(m_grabThread.get(), &GrabThread::deviceerr, this, [this, thread = m_grabThread.get()] {
         if (thread == m_grabThread.get())
-            lose();
+            lose(thread->failure());
     });
+    m_grabThread->setLiveHandler([this] { noteLive(); });
     updateView();
     m_grabThread->setPaused(m_isStopped);
     m_grabThread->start();
     m_watch.start();
 }
 
+void LiveVideoData::noteLive()
+{
+    if (!std::exchange(m_isLiveTold, true) && m_listener)
+        m_listener->cameraIsLive();
+}
+
 void LiveVideoData::Release()
 {
-    finishMovie();
+    ++m_useCount;
+    const std::shared_ptr<MovieRecorder> movie = stopMovie();
     closeCamera();
     m_target.setPicture(QImage());
     created = false;
@@ -129,6 +196,7 @@ void LiveVideoData::Release()
     m_isStopped = false;
     m_wantedSize = QSize();
     m_zoom = Zoom();
+    tellMovieEnd(movie, MovieEnd::Asked);
 }
 
 // The thread ends by itself, when the camera's driver lets it.
@@ -138,6 +206,7 @@ void LiveVideoData::closeCamera()
     if (!m_grabThread)
         return;
     m_grabThread->disconnect(this);
+    m_grabThread->setLiveHandler(nullptr);
     m_grabThread->requestInterruption();
     GrabThread *thread = m_grabThread.release();
     connect(thread, &QThread::finished, thread, &QObject::deleteLater);
@@ -150,6 +219,7 @@ void LiveVideoData::closeCameraAndWait()
     if (!m_grabThread)
         return;
     m_grabThread->disconnect(this);
+    m_grabThread->setLiveHandler(nullptr);
     m_grabThread->requestInterruption();
     if (!m_grabThread->wait(cameraCloseWait))
         static_cast<void>(m_grabThread.release());
@@ -167,7 +237,7 @@ void LiveVideoData::Start()
 void LiveVideoData::Stop()
 {
     m_isStopped = true;
-    if (m_grabThread && !m_movie)
+    if (m_grabThread && !m_movie && !m_startingMovie)
         m_grabThread->setPaused(true);
 }
 
@@ -200,7 +270,7 @@ void LiveVideoData::SetResolution(int width, int height)
     if (!created || !modeOfSize(m_modes, size).isValid())
         return;
     m_wantedSize = size;
-    if (!m_movie)
+    if (!m_movie && !m_startingMovie)
         applyResolution();
 }
 
@@ -221,90 +291,45 @@ QStringList LiveVideoData::GetResoList() const
 
 QStringList LiveVideoData::GetVideoDeviceList()
 {
-    m_lastList = DeviceWatch::instance().cameras();
+    const QPointer<LiveVideoData> self(this);
+    const std::vector<CaptureDevice> listed = awaitCameras();
     QStringList names;
-    for (const CaptureDevice &camera : m_lastList)
+    for (const CaptureDevice &camera : listed)
         names << camera.name;
+    if (self)
+        m_lastList = listed;
     return names;
 }
 
 void LiveVideoData::SetVideoDevice(int index)
 {
     if (index >= 0 && index < int(m_lastList.size()))
-        m_chosen = std::make_unique<CaptureDevice>(m_lastList[size_t(index)]);
+        m_memory.choose(m_lastList[size_t(index)]);
 }
 
 bool LiveVideoData::IsValidVideoDevice()
 {
-    return created && !m_isLost && m_grabThread && m_grabThread->newest().get();
+    return created && !m_isLost && m_grabThread && m_grabThread->newest();
 }
 
-bool LiveVideoData::IsValidAudioDevice()
+// Null when none came, or when this object has gone or the camera is another one by then.
+FramePtr LiveVideoData::awaitFrame()
 {
-    return defaultMicrophone(DeviceWatch::instance().microphones()) != nullptr;
-}
-
-void LiveVideoData::Record(const QString &path)
-{
-    if (m_movie || !created || m_isLost || !m_grabThread)
-        return;
-    const auto limit = std::chrono::steady_clock::now() + firstFrameWait;
-    const FramePtr frame = m_grabThread->newest().waitForOther(nullptr, limit);
-    const std::vector<CaptureDevice> microphones = DeviceWatch::instance().microphones();
-    const CaptureDevice *microphone = defaultMicrophone(microphones);
-    if (!frame || !microphone)
-        return;
-    MovieSettings settings;
-    settings.path = path;
-    settings.picture = frame->info;
-    if (m_mode.rateNumerator > 0)
-        settings.framesPerSecond = qMax(1, qRound(m_mode.framesPerSecond()));
-    settings.microphone = microphone->device;
-    m_movie = MovieRecorder::start(settings, *frame, m_zoom);
-    m_grabThread->setSink(m_movie);
-}
-
-bool LiveVideoData::IsRecording() const
-{
-    return m_movie != nullptr;
-}
-
-void LiveVideoData::RecordStop()
-{
-    finishMovie();
-    applyResolution();
-    if (m_isStopped && m_grabThread)
-        m_grabThread->setPaused(true);
-}
-
-void LiveVideoData::finishMovie()
-{
-    if (!m_movie)
-        return;
-    if (m_grabThread)
-        m_grabThread->setSink(nullptr);
-    forgetFinishedMovies();
-    if (!m_movie->finish(movieStopWait))
-        m_unfinished.push_back(m_movie);
-    m_movie.reset();
-}
-
-void LiveVideoData::forgetFinishedMovies()
-{
-    m_unfinished.erase(std::remove_if(m_unfinished.begin(), m_unfinished.end(),
-                                      [](const auto &movie) { return movie->finish(0ms); }),
-                       m_unfinished.end());
-}
-
-bool LiveVideoData::isFinishingMovie()
-{
-    forgetFinishedMovies();
-    return !m_unfinished.empty();
-}
-
-bool LiveVideoData::SaveBitmap(QString path) // NOLINT(performance-unnecessary-value-param)
-{
-    return m_grabThread && saveStill(m_grabThread->newest(), m_zoom, path, firstFrameWait);
+    const QPointer<LiveVideoData> self(this);
+    const int use = m_useCount;
+    QDeadlineTimer limit(frameWait);
+    FramePtr frame;
+    const auto isOver = [&] {
+        if (!self || use != m_useCount || m_isLost || !m_grabThread)
+            return true;
+        frame = m_grabThread->newest();
+        // Opening has a limit of its own.
+        if (!m_grabThread->isLive() && !m_isStopped)
+            limit = QDeadlineTimer(frameWait);
+        return frame || limit.hasExpired();
+    };
+    static_cast<void>(waitAlive(isOver, openingWait));
+    return frame;
 }
 
 void LiveVideoData::grab()
@@ -313,44 +338,62 @@ void LiveVideoData::grab()
         m_target.setPicture(m_grabThread->picture());
 }
 
-void LiveVideoData::RecordMovie()
+void LiveVideoData::noteDevices()
 {
-    if (!m_movie || !m_movie->mustEnd())
-        return;
-    RecordStop();
-    emit devicestop();
+    const QPointer<LiveVideoData> self(this);
+    device();
+    if (self && m_listener)
+        m_listener->devicesChanged();
 }
 
 void LiveVideoData::device()
 {
-    if (!created || m_isLost)
-        return;
-    const std::vector<CaptureDevice> cameras = DeviceWatch::instance().cameras();
-    const bool isThere = std::any_of(cameras.begin(), cameras.end(), [this](const CaptureDevice &camera) {
-        return isSameDevice(camera, m_camera);
-    });
-    if (!isThere)
-        lose();
+    if (created && !m_isLost && !isListed())
+        lose({CameraFault::Unplugged, QStringLiteral("It has left the list of cameras.")});
+}
+
+bool LiveVideoData::isListed() const
+{
+    const std::vector<CaptureDevice> listed = DeviceWatch::instance().cameras();
+    return std::any_of(listed.begin(), listed.end(),
+                       [this](const CaptureDevice &camera) { return isSameDevice(camera, m_camera); });
 }
 
 // Runs for as long as the camera is open: a silent camera, or a movie that cannot go on, tells nobody.
 void LiveVideoData::watch()
 {
-    RecordMovie();
-    if (m_grabThread && m_grabThread->silentFor() > silenceLimit)
-        lose();
+    const CameraFault overdue = m_grabThread ? m_grabThread->overdue() : CameraFault::None;
+    if (overdue == CameraFault::Silent)
+        lose({overdue, QStringLiteral("It has given no picture for three seconds.")});
+    else if (overdue == CameraFault::NotAnswering)
+        lose({overdue, QStringLiteral("It has given no picture within fifteen seconds of being opened.")});
+    else
+        RecordMovie();
 }
 
 // An unplugged camera is reported by its stream and by its provider, in any order, so the second is ignored.
-void LiveVideoData::lose()
+void LiveVideoData::lose(CameraFailure failure)
 {
     if (m_isLost || !created)
         return;
     m_isLost = true;
-    finishMovie();
+    if (!isListed())
+        failure.fault = CameraFault::Unplugged;
+    qCWarning(cameraLog).noquote().nospace()
+        << m_camera.name << ": " << faultName(failure.fault) << ": " << failure.text;
     if (m_grabThread && m_grabThread->isOpening())
         DeviceWatch::instance().setAside(m_camera, m_grabThread.get());
+    m_memory.noteLoss(failure.fault, DeviceWatch::instance().cameras());
+    const std::shared_ptr<MovieRecorder> movie = stopMovie();
     closeCamera();
-    emit deviceerr();
-    emit disconnectDevice();
+
+    const QPointer<LiveVideoData> self(this);
+    const int use = m_useCount;
+    tellMovieEnd(movie, MovieEnd::CameraLost);
+    if (self && use == m_useCount && m_listener)
+        m_listener->cameraIsLost(failure.fault);
+    if (self && use == m_useCount)
+        emit deviceerr();
+    if (self && use == m_useCount)
+        emit disconnectDevice();
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/camerafault.h"
+#include "platform/cameramemory.h"
 #include "platform/capturedevice.h"
 #include "platform/captureevents.h"
 #include "platform/capturemode.h"
@@ -18,8 +20,12 @@
 class MovieRecorder;
 
 // One camera with its microphone: the live picture on a widget, still pictures, movies with sound. Called on
-// the GUI thread only, and no call waits for a device longer than it says here. Opening a camera goes on in
-// the background; one that cannot be opened, or does not answer within three seconds, is reported as lost.
+// the GUI thread only. No call but the destructor holds that thread up for a device or a disk: calls that
+// answer when something is done let timers and signals go on meanwhile, so whoever calls one must be ready
+// for all that these do; even this object may go while one of its calls waits.
+//
+// Opening a camera goes on in the background. One that cannot be opened, or gives no picture within fifteen
+// seconds, is reported as lost. Why, and every other failure, stands in the log: see platform/capturelog.h.
 class LiveVideoData : public QObject
 {
     Q_OBJECT
@@ -31,7 +37,8 @@ public:
 
     // Opens no device.
     LiveVideoData();
-    // Finishes a running movie, for which it waits up to thirty seconds, and closes the camera.
+    // Finishes a running movie and closes the camera. Stands still until the files of movies are whole, up to
+    // thirty seconds each, and up to a second for the camera.
     ~LiveVideoData() override;
 
     bool created = false;        // Create() has succeeded, and Release() has not been called since
@@ -41,14 +48,20 @@ public:
     qint32 nativeWidth = 0;      // size of the camera's picture, pixels
     qint32 nativeHeight = 0;
 
+    // Tells this one from now on what happens; null for none. It is not owned.
+    void setListener(CaptureListener *listener);
+
     // Shows the live picture on this widget, which stays the caller's.
     void SetTarget(QWidget *target);
 
-    // Opens the chosen camera, or the first one while that is not there; what it gives is shown from Start()
-    // on. Where a GStreamer element is missing, supported is false and stderr names it. With no camera,
-    // hasVideoDevice and created are false.
+    // Opens the chosen camera; while that is not there the one that was open last, else the first one. What
+    // it gives is shown from Start() on. Where a GStreamer element is missing, supported is false and stderr
+    // names it. With no camera, hasVideoDevice and created are false. While a camera is open nothing happens.
     void Create();
-    // Finishes a running movie and closes the camera; the closing goes on in the background.
+    // Whether Create() would find what it did not before: no camera is open, and the one that was open last
+    // or was chosen is there, or one that was not when the last one was lost or Create() found none.
+    bool canReopen();
+    // Ends a running movie as RecordStop() does and closes the camera; the closing goes on in the background.
     void Release();
 
     // Starts the live picture; when it runs already nothing changes.
@@ -73,37 +86,44 @@ public:
     // Chooses a camera of the list last returned, for the next Create(). Another index changes nothing.
     void SetVideoDevice(int index);
 
-    // Whether the opened camera gives pictures, and whether there is a microphone, at this moment.
+    // Whether the opened camera gives pictures at this moment.
     bool IsValidVideoDevice();
+    // Whether there is a usable microphone. While a movie runs: whether its microphone could be opened, for
+    // which this waits up to two seconds. Else: whether there is one, other than one that the last movie
+    // could not open.
     bool IsValidAudioDevice();
 
-    // Starts a movie with the default microphone's sound. Without a camera that gives pictures or without a
-    // microphone nothing starts and no file is made. A camera just started is waited for, up to a second.
+    // Starts a movie with the default microphone's sound; IsRecording() tells whether it runs then. Without a
+    // camera that gives pictures or without a microphone nothing starts and no file is made. Waits for a
+    // camera that is being opened, for one just started up to a second, and for the disk up to five.
     void Record(const QString &path);
     // Whether a movie runs.
     bool IsRecording() const;
-    // Ends the movie. The file is finished within half a second, or in the background where the disk is
-    // slower. Without a movie nothing happens.
+    // Ends the movie. Waits for its file up to half a second; where the disk is slower it is finished in the
+    // background. Without a movie nothing happens.
     void RecordStop();
     // Whether a file is still being finished in the background. That takes as long as the disk goes on.
     bool isFinishingMovie();
+    // Whether the last movie that has ended was without a microphone's sound for more than two seconds on
+    // end.
+    bool hadSoundHole() const { return m_hadSoundHole; }
 
-    // Saves the newest picture at the camera's full size as a PNG file, waiting up to a second for a whole
-    // one. False when none came or the file cannot be written; no file is left then.
+    // Saves the newest picture at the camera's full size as a PNG file. Waits for a camera that is being
+    // opened, for one just started and for a whole picture up to a second, and for the disk up to ten. False
+    // when it cannot be saved; no file is left then. While another call of it waits it answers false at once.
     bool SaveBitmap(QString path); // NOLINT(performance-unnecessary-value-param): part of the interface
+    // Why the last SaveBitmap() that is through could not save; None when it did.
+    PhotoFault lastPhotoFault() const { return m_lastPhotoFault; }
 
-    void setListener(CaptureListener *) {}
-    bool canReopen() { return !created && !GetVideoDeviceList().isEmpty(); }
-    PhotoFault lastPhotoFault() const { return PhotoFault::Failed; }
-    bool hadSoundHole() const { return false; }
-
+    // The program itself uses only the last of these signals and none of these slots: they are all here
+    // because the class's interface has them.
 signals:
-    // A running movie was ended, since the disk or its file was full.
+    // A running movie was ended, since it could not go on; movieHasEnded() was told why.
     void devicestop();
     // The camera reported an error; disconnectDevice() follows.
     void deviceerr();
-    // The open camera was lost: pulled out, failed or silent for three seconds. Sent once for each Create().
-    // A running movie is finished before.
+    // The open camera was lost; cameraIsLost() was told why. Sent once for each Create(), after a running
+    // movie was ended and its file waited for as RecordStop() does.
     void disconnectDevice();
 
 public slots:
@@ -115,32 +135,64 @@ public slots:
     void device();
 
 private:
-    bool chooseCamera();
+    // Devices and the camera: livevideodata.cpp
+    bool followDevices();
+    std::vector<CaptureDevice> awaitCameras();
+    std::vector<CaptureDevice> awaitMicrophones();
+    void noteDevices();
+    bool chooseCamera(const std::vector<CaptureDevice> &listed);
+    bool isListed() const;
     void openCamera();
     void closeCamera();
     void closeCameraAndWait();
+    void noteLive();
     void updateView();
     void watch();
-    void lose();
-    void finishMovie();
-    void forgetFinishedMovies();
+    void lose(CameraFailure failure);
     void applyResolution();
+    FramePtr awaitFrame();
 
+    // Movies: livevideomovie.cpp
+    void startMovie(const QString &path);
+    std::shared_ptr<MovieRecorder> stopMovie();
+    void tellMovieEnd(const std::shared_ptr<MovieRecorder> &movie, MovieEnd why);
+    void endMovie(MovieEnd why);
+    void finishMovies();
+    bool awaitMicrophone();
+    void lookAtMovieFiles();
+
+    // Photos: livevideostill.cpp
+    PhotoFault savePhoto(const QString &path);
+
+    CaptureListener *m_listener = nullptr; // not owned
     VideoTarget m_target;
     Zoom m_zoom;
     QTimer m_watch;
 
     std::vector<CaptureDevice> m_lastList;
-    std::unique_ptr<CaptureDevice> m_chosen; // by the user; null before a choice
-    CaptureDevice m_camera;                  // the one that is open
+    CameraMemory m_memory;
+    CaptureDevice m_camera; // the one that is open
     std::vector<CaptureMode> m_modes;
     CaptureMode m_mode;
     QSize m_wantedSize; // asked for during a movie; empty when none is
     std::shared_ptr<std::timed_mutex> m_cameraInUse;
     std::unique_ptr<GrabThread> m_grabThread;
-    std::shared_ptr<MovieRecorder> m_movie;
-    std::vector<std::shared_ptr<MovieRecorder>> m_unfinished; // whose disk was slow
+    int m_useCount = 0; // of Create() and Release(): whoever waited sees that the camera is another one
+    bool m_isFollowing = false; // what comes and goes
     bool m_isStarted = false;
     bool m_isStopped = false; // held by Stop()
     bool m_isLost = false;
+    bool m_isLiveTold = false; // since Create()
+
+    std::shared_ptr<MovieRecorder> m_movie;
+    std::shared_ptr<MovieRecorder> m_startingMovie; // while Record() waits for it
+    std::vector<std::shared_ptr<MovieRecorder>> m_unfinished;
+    QTimer m_fileWatch; // runs while there are unfinished ones
+    std::shared_ptr<GstDevice> m_movieMicrophone;
+    std::shared_ptr<GstDevice> m_deafMicrophone; // that the last movie could not open; null when it could
+    bool m_isRecordCalled = false;
+    bool m_hadSoundHole = false;
+
+    bool m_isSaving = false;
+    PhotoFault m_lastPhotoFault = PhotoFault::None;
 };

@@ -1,30 +1,44 @@
 #pragma once
 
 #include "platform/gsthandles.h"
+#include "platform/microphonestate.h"
 
-// A microphone's way into a movie's mixer. The microphone is opened and closed on threads of GStreamer's own:
-// one that hangs, fails or is pulled out leaves the movie silent and nothing else.
+#include <array>
+#include <memory>
+
+// A microphone's way into a running movie's mixer. The microphone is opened and closed on threads of
+// GStreamer's own: one that hangs, fails or is pulled out leaves the movie silent and nothing else.
 class MicrophoneBranch
 {
 public:
-    // Adds the branch to the running pipeline and has the microphone opened. The device is borrowed. Without
-    // an element for it the movie stays silent.
-    MicrophoneBranch(GstElement *pipeline, GstElement *mixer, GstDevice *device);
-    // Has the microphone closed; returns at once. The pipeline must still be there.
+    // Adds the branch to the running pipeline and has the microphone opened. The device is borrowed. Every
+    // sound of it is told to the gaps too.
+    MicrophoneBranch(GstElement *pipeline, GstElement *mixer, GstDevice *device,
+                     std::shared_ptr<SoundGaps> gaps);
+    // Takes the branch out of the pipeline, which must still be there, and has the microphone closed; waits
+    // for neither.
     ~MicrophoneBranch();
     MicrophoneBranch(const MicrophoneBranch &) = delete;
     MicrophoneBranch &operator=(const MicrophoneBranch &) = delete;
 
-    // Whether the message comes from the microphone of such a branch.
-    static bool isSender(GstMessage *message);
+    // How the microphone does. It outlives the branch.
+    std::shared_ptr<const MicrophoneState> state() const;
+
+    // Notes an error that comes from the microphone of such a branch. False, and nothing is done, when it
+    // comes from elsewhere.
+    static bool noteError(GstMessage *message);
 
 private:
     bool connectTo(GstElement *mixer);
+    void watchSound();
 
-    struct Opening;
+    struct Microphone;
 
     GstElement *const m_pipeline;
+    GstElement *const m_mixer;
     ElementHandle m_source;
+    std::array<GstElement *, 3> m_chain{}; // behind the source; owned by the pipeline
+    std::shared_ptr<Microphone> m_microphone;
     // What the closing call will own, made in advance since a destructor must not fail.
-    std::unique_ptr<std::shared_ptr<Opening>> m_opening;
+    std::unique_ptr<std::shared_ptr<Microphone>> m_closing;
 };

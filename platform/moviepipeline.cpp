@@ -1,5 +1,6 @@
 #include "platform/moviepipeline.h"
 
+#include "platform/movielimits.h"
 #include "platform/requiredelements.h"
 
 #include <QFile>
@@ -7,8 +8,8 @@
 namespace
 {
 
-// Ten minutes is what the program records; the rest is margin for a stop that comes late.
-constexpr int indexedSeconds = 660;
+// With margin for a stop that comes late.
+constexpr int indexedSeconds = longestRecordingSeconds + 60;
 constexpr int stopBeforeSeconds = 20;
 
 // The index is written anew this often, so that a movie whose program dies plays up to here.
@@ -28,6 +29,7 @@ constexpr int leastIndexBytesPerSecond = indexBytesPerFrame * soundPacketsPerSec
 // Good for a page of text; the bit rate is a ceiling for restless pictures, in bits a pixel and second.
 constexpr int quality = 23;
 constexpr double bitsPerPixel = 0.15;
+constexpr guint leastPictureKilobits = 500;
 // A key frame every two seconds keeps jumping about in the player quick.
 constexpr int secondsPerKeyFrame = 2;
 
@@ -84,15 +86,19 @@ GstElement *addMuxQueue(Assembly &assembly)
     return queue;
 }
 
+guint pictureKilobits(const MovieSettings &settings)
+{
+    const double pixels =
+        double(GST_VIDEO_INFO_WIDTH(&settings.picture)) * GST_VIDEO_INFO_HEIGHT(&settings.picture);
+    return qMax(leastPictureKilobits, guint(pixels * settings.framesPerSecond * bitsPerPixel / 1000));
+}
+
 GstElement *addVideoEncoder(Assembly &assembly, const MovieSettings &settings)
 {
     GstElement *encoder = assembly.add("x264enc");
     if (!encoder)
         return nullptr;
-    const double pixels =
-        double(GST_VIDEO_INFO_WIDTH(&settings.picture)) * GST_VIDEO_INFO_HEIGHT(&settings.picture);
-    const auto kilobits = guint(pixels * settings.framesPerSecond * bitsPerPixel / 1000);
-    g_object_set(encoder, "quantizer", guint(quality), "bitrate", qMax(500U, kilobits), "key-int-max",
+    g_object_set(encoder, "quantizer", guint(quality), "bitrate", pictureKilobits(settings), "key-int-max",
                  guint(settings.framesPerSecond * secondsPerKeyFrame), nullptr);
     gst_util_set_object_arg(G_OBJECT(encoder), "pass", "qual");
     // Keeps up with full HD on an old notebook, and holds no frames back, so that a movie ends at once.
@@ -193,6 +199,11 @@ qint64 waitingBytes(const MoviePipeline &movie)
 GstClockTime soundDelay()
 {
     return gst_util_uint64_scale(soundPacketSamples, GST_SECOND, soundRate);
+}
+
+qint64 mostBytesPerSecond(const MovieSettings &settings)
+{
+    return (qint64(pictureKilobits(settings)) * 1000 + soundBitRate) / 8;
 }
 
 int longestMovieSeconds()

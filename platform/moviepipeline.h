@@ -29,5 +29,8 @@ qint64 waitingBytes(const MoviePipeline &movie);
 // packet of its own before the first, which no player is told to leave out.
 GstClockTime soundDelay();
 
+// What the encoders of such a movie give at most, in bytes a second.
+qint64 mostBytesPerSecond(const MovieSettings &settings);
+
 // The longest movie that a file built here can index, in seconds.
 int longestMovieSeconds();

@@ -1,11 +1,15 @@
 #include "platform/movierecorder.h"
 
+#include "platform/capturelog.h"
+#include "platform/movielimits.h"
 #include "util/files/freespace.h"
 
 #include <QFileInfo>
 
 #include <gst/app/gstappsrc.h>
 
+#include <cerrno>
+#include <cstring>
 #include <thread>
 #include <utility>
 
@@ -21,7 +25,20 @@ constexpr guint64 mostWaitingFrames = 10;
 constexpr auto closingLimit = 10s;
 
 // Room for the index and what the encoders hold; with less of it a movie is ended while it still can be.
-constexpr qint64 leastFreeBytes = 16 * 1024 * 1024;
+constexpr qint64 leastFreeBytes = qint64(16) << 20;
+
+// How often the room on the disk and the microphone are looked at.
+constexpr auto watchPeriod = 250ms;
+
+// Why a movie ends with this error.
+MovieEnd endOf(GstMessage *message)
+{
+    const ParsedError parsed(message);
+    const bool isFull =
+        g_error_matches(parsed.error.get(), GST_RESOURCE_ERROR, GST_RESOURCE_ERROR_NO_SPACE_LEFT) ||
+        (parsed.debug && strstr(parsed.debug.get(), g_strerror(EDQUOT)));
+    return isFull ? MovieEnd::DiskFull : MovieEnd::Failed;
+}
 
 // Ends the sound with the next piece of the silence under it. At any other moment the end of a movie that is
 // stopped at once might come before the sound's beginning, which would undo it.
@@ -33,35 +50,31 @@ GstPadProbeReturn endSound(GstPad *sound, GstPadProbeInfo *, gpointer)
 
 } // namespace
 
-std::shared_ptr<MovieRecorder> MovieRecorder::start(const MovieSettings &settings, const CapturedFrame &first,
-                                                    const Zoom &zoom)
+MovieRecorder::MovieRecorder(const MovieSettings &settings)
+    : m_settings(settings), m_folder(QFileInfo(settings.path).path())
 {
-    std::shared_ptr<MovieRecorder> recorder(new MovieRecorder(settings));
-    if (!recorder->startPipeline())
-        return nullptr;
+}
+
+MovieRecorder::~MovieRecorder() = default;
+
+bool MovieRecorder::start(const CapturedFrame &first, const Zoom &zoom)
+{
+    m_movie = buildMoviePipeline(m_settings);
+    if (!m_movie.isComplete())
+        return false;
+    tellShortRoom();
+    if (!startPipeline()) {
+        gst_element_set_state(m_movie.pipeline.get(), GST_STATE_NULL);
+        return false;
+    }
     // The muxer counts a track's time from its first frame, so that one must stand at the very start or the
     // picture would run ahead of the sound.
-    recorder->push(first, zoom, 0);
-    return recorder;
-}
-
-MovieRecorder::MovieRecorder(const MovieSettings &settings)
-    : m_settings(settings), m_movie(buildMoviePipeline(settings))
-{
-}
-
-MovieRecorder::~MovieRecorder()
-{
-    if (!m_movie.isComplete())
-        return;
-    m_microphone.reset();
-    gst_element_set_state(m_movie.pipeline.get(), GST_STATE_NULL);
+    push(first, zoom, 0);
+    return beginRecording();
 }
 
 bool MovieRecorder::startPipeline()
 {
-    if (!m_movie.isComplete())
-        return false;
     GstElement *pipeline = m_movie.pipeline.get();
     const BusHandle bus(gst_element_get_bus(pipeline));
     gst_bus_set_sync_handler(bus.get(), onMessage, this, nullptr);
@@ -76,8 +89,36 @@ bool MovieRecorder::startPipeline()
 
     if (gst_element_set_state(pipeline, GST_STATE_PLAYING) == GST_STATE_CHANGE_FAILURE)
         return false;
-    m_microphone = std::make_unique<MicrophoneBranch>(pipeline, m_movie.mixer, m_settings.microphone.get());
+    m_sound = std::make_unique<MovieSound>(pipeline, m_movie.mixer, m_settings.microphone);
     return true;
+}
+
+// False when the movie was discarded before it had started.
+bool MovieRecorder::beginRecording()
+{
+    bool isWanted = true;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        isWanted = !m_isDiscarded;
+        if (m_state == State::Starting)
+            m_state = m_end == MovieEnd::None ? State::Recording : State::Failed;
+    }
+    if (isWanted)
+        std::thread([self = shared_from_this()] { self->watch(); }).detach();
+    else
+        finish();
+    return isWanted;
+}
+
+// A movie at the highest rate that its encoders may take; most need a part of that.
+void MovieRecorder::tellShortRoom() const
+{
+    const std::optional<qint64> room = freeBytes(m_folder);
+    const qint64 seconds = room.value_or(0) / mostBytesPerSecond(m_settings);
+    if (room && seconds < longestRecordingSeconds)
+        qCWarning(movieLog).noquote().nospace()
+            << m_settings.path << ": The disk has room for " << seconds << " seconds of the "
+            << longestRecordingSeconds << " that a movie may take, at its highest rate.";
 }
 
 GstBusSyncReply MovieRecorder::onMessage(GstBus *, GstMessage *message, gpointer self)
@@ -93,13 +134,27 @@ void MovieRecorder::note(GstMessage *message)
     if (!isError && GST_MESSAGE_TYPE(message) != GST_MESSAGE_EOS)
         return;
     // The movie goes on without its microphone.
-    if (isError && MicrophoneBranch::isSender(message))
+    if (isError && MicrophoneBranch::noteError(message))
         return;
+    if (isError)
+        fail(endOf(message), errorText(message));
     const std::lock_guard<std::mutex> lock(m_mutex);
-    if (isError && m_state == State::Recording)
-        m_state = State::Failed;
     m_isFileComplete = true;
     m_changed.notify_all();
+}
+
+// The first failure counts; what comes after it follows from it.
+void MovieRecorder::fail(MovieEnd why, const QString &line)
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        if (m_end != MovieEnd::None)
+            return;
+        m_end = why;
+        if (m_state == State::Recording)
+            m_state = State::Failed;
+    }
+    qCWarning(movieLog).noquote().nospace() << m_settings.path << ": " << line;
 }
 
 void MovieRecorder::take(const FramePtr &frame, const Zoom &zoom)
@@ -143,40 +198,93 @@ BufferHandle MovieRecorder::shown(const CapturedFrame &frame, const Zoom &zoom)
     return buffer;
 }
 
-bool MovieRecorder::mustEnd() const
+MovieEnd MovieRecorder::end() const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    if (m_state != State::Recording)
-        return true;
-    const auto length = std::chrono::steady_clock::now() - m_startedAt;
-    return length > std::chrono::seconds(longestMovieSeconds()) ||
-           freeBytes(QFileInfo(m_settings.path).path()).value_or(0) < leastFreeBytes + waitingBytes(m_movie);
+    return m_end;
 }
 
-bool MovieRecorder::finish(std::chrono::milliseconds wait)
+// In a thread of its own, as the disk may keep it waiting.
+void MovieRecorder::watch()
 {
     std::unique_lock<std::mutex> lock(m_mutex);
-    if (m_state == State::Recording || m_state == State::Failed) {
-        m_state = State::Finishing;
-        // What follows can wait for the disk, or for a driver, so it never runs in the caller's thread.
-        std::thread([self = shared_from_this()] { self->close(); }).detach();
+    while (!m_changed.wait_for(lock, watchPeriod, [this] { return m_state != State::Recording; })) {
+        lock.unlock();
+        m_sound->lookAfter();
+        lookAtRoom();
+        lock.lock();
     }
-    return m_changed.wait_for(lock, wait, [this] { return m_state == State::Finished; });
+}
+
+void MovieRecorder::lookAtRoom()
+{
+    const auto length = std::chrono::steady_clock::now() - m_startedAt;
+    if (length > std::chrono::seconds(longestMovieSeconds()))
+        fail(MovieEnd::Failed, QStringLiteral("The movie is as long as its index allows."));
+    const std::optional<qint64> room = freeBytes(m_folder);
+    if (!room)
+        fail(MovieEnd::Failed, QStringLiteral("Its folder is gone."));
+    else if (*room < leastFreeBytes + waitingBytes(m_movie))
+        fail(MovieEnd::DiskFull, QStringLiteral("The disk is nearly full."));
+}
+
+void MovieRecorder::finish()
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        if (m_state == State::Finishing || m_state == State::Finished)
+            return;
+        m_state = State::Finishing;
+        m_changed.notify_all();
+    }
+    // What follows can wait for the disk, or for a driver, so it never runs in the caller's thread.
+    std::thread([self = shared_from_this()]() { self->close(); }).detach();
+}
+
+void MovieRecorder::discard()
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_isDiscarded = true;
+        // One that is being started looks at its end.
+        if (m_state == State::Starting)
+            return;
+    }
+    finish();
+}
+
+bool MovieRecorder::isFinished() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_state == State::Finished;
+}
+
+bool MovieRecorder::waitForFile(std::chrono::milliseconds limit)
+{
+    std::unique_lock<std::mutex> lock(m_mutex);
+    return m_changed.wait_for(lock, limit, [this] { return m_state == State::Finished; });
 }
 
 void MovieRecorder::close()
 {
     endStreams();
-    waitForFile();
-    m_microphone.reset();
+    waitForEndOfStreams();
+    m_sound->close();
     gst_element_set_state(m_movie.pipeline.get(), GST_STATE_NULL);
+    bool isDiscarded = false;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        isDiscarded = m_isDiscarded;
+    }
+    if (isDiscarded)
+        QFile::remove(m_settings.path);
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_state = State::Finished;
     m_changed.notify_all();
 }
 
 // As long as the disk takes something.
-void MovieRecorder::waitForFile()
+void MovieRecorder::waitForEndOfStreams()
 {
     std::unique_lock<std::mutex> lock(m_mutex);
     qint64 before = 0;

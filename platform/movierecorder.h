@@ -1,14 +1,16 @@
 #pragma once
 
+#include "platform/captureevents.h"
 #include "platform/frameconverter.h"
 #include "platform/framesink.h"
-#include "platform/microphonebranch.h"
 #include "platform/moviepipeline.h"
+#include "platform/moviesound.h"
 
 #include <chrono>
 #include <condition_variable>
 #include <memory>
 #include <mutex>
+#include <optional>
 
 // One movie from its start to its finished file. Should the program die, the file is playable up to about a
 // second before, or some more seconds where the disk does not keep up. It is kept whatever happens while it
@@ -16,45 +18,68 @@
 class MovieRecorder : public FrameSink, public std::enable_shared_from_this<MovieRecorder>
 {
 public:
-    // Starts recording with the frame that is on the screen; null when the file cannot be made or an element
-    // is missing.
-    static std::shared_ptr<MovieRecorder> start(const MovieSettings &settings, const CapturedFrame &first,
-                                                const Zoom &zoom);
+    // Makes nothing yet; frames may be given to it already and count from the start on.
+    explicit MovieRecorder(const MovieSettings &settings);
     ~MovieRecorder() override;
+
+    // Starts recording with the frame that is on the screen. False when the file cannot be made or an element
+    // is missing. Takes as long as the disk does to open the file. Any thread, once.
+    bool start(const CapturedFrame &first, const Zoom &zoom);
 
     // Adds a frame of the kind told at the start, showing what the zoom shows. While the encoder is behind by
     // a third of a second frames are left out rather than kept waiting.
     void take(const FramePtr &frame, const Zoom &zoom) override;
 
-    // Whether the movie has to end: the disk is full or nearly so, the file's index is, or writing failed.
-    bool mustEnd() const;
+    // The following wait for nothing, but for waitForFile().
 
-    // Finishes the file and waits for that as long as told; false when it goes on in the background then.
-    // Also called when recording has failed; later calls only wait.
-    bool finish(std::chrono::milliseconds wait);
+    // Why the movie cannot go on: the disk is full or nearly so, the file's index is, or writing failed. None
+    // while it can.
+    MovieEnd end() const;
+
+    // Whether the movie has a usable microphone now, and whether the one that it started with could be
+    // opened; nothing while that is not known. These once the movie has started:
+    std::optional<bool> hasMicrophone() const { return m_sound->isUsable(); }
+    std::optional<bool> couldOpenMicrophone() const { return m_sound->couldOpenFirst(); }
+    // The longest time without sound of a microphone, up to now.
+    std::chrono::milliseconds longestSoundGap() const { return m_sound->longestGap(); }
+
+    // Begins to finish the file, in the background. Also when recording has failed.
+    void finish();
+    // As finish(), of a movie that nobody wants any more, started or not: the file is removed in the end.
+    void discard();
+    // Whether the file is finished, and waiting for that; false when it has not come in that time.
+    bool isFinished() const;
+    bool waitForFile(std::chrono::milliseconds limit);
 
 private:
-    enum class State { Recording, Failed, Finishing, Finished };
+    enum class State { Starting, Recording, Failed, Finishing, Finished };
 
-    explicit MovieRecorder(const MovieSettings &settings);
     bool startPipeline();
+    bool beginRecording();
     static GstBusSyncReply onMessage(GstBus *bus, GstMessage *message, gpointer self);
     void note(GstMessage *message);
+    void fail(MovieEnd why, const QString &line);
     void push(const CapturedFrame &frame, const Zoom &zoom, GstClockTime time);
     BufferHandle shown(const CapturedFrame &frame, const Zoom &zoom);
+    void tellShortRoom() const;
+    void watch();
+    void lookAtRoom();
     void close();
     void endStreams();
-    void waitForFile();
+    void waitForEndOfStreams();
 
     const MovieSettings m_settings;
-    MoviePipeline m_movie;
-    std::unique_ptr<MicrophoneBranch> m_microphone;
+    const QString m_folder;
+    MoviePipeline m_movie; // made by start()
+    std::unique_ptr<MovieSound> m_sound;
     std::chrono::steady_clock::time_point m_startedAt;
     GstClockTime m_startTime = 0; // on GStreamer's system clock, as the frames' times are
     FrameConverter m_zoomer{GST_VIDEO_RESAMPLER_METHOD_LINEAR};
 
     mutable std::mutex m_mutex; // guards all below
     std::condition_variable m_changed;
-    State m_state = State::Recording;
+    State m_state = State::Starting;
+    MovieEnd m_end = MovieEnd::None;
+    bool m_isDiscarded = false;
     bool m_isFileComplete = false;
 };

@@ -1,15 +1,13 @@
 #pragma once
 
-#include "platform/gsthandles.h"
+#include "platform/capturedevice.h"
 
 #include <QString>
 
-#include <memory>
-
 // What one movie is made from and where it goes.
 struct MovieSettings {
-    QString path;                          // full path of the .mov file; what is there is replaced
-    GstVideoInfo picture{};                // the frames that will come
-    int framesPerSecond = 30;              // about how many of them
-    std::shared_ptr<GstDevice> microphone; // never null
+    QString path;             // full path of the .mov file; what is there is replaced
+    GstVideoInfo picture{};   // the frames that will come
+    int framesPerSecond = 30; // about how many of them
+    CaptureDevice microphone; // its device is never null
 };

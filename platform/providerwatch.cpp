@@ -1,5 +1,7 @@
 #include "platform/providerwatch.h"
 
+#include "platform/capturelog.h"
+
 #include <algorithm>
 #include <iterator>
 #include <thread>
@@ -38,10 +40,9 @@ bool ProviderWatch::announcesChanges() const
     return GST_DEVICE_PROVIDER_GET_CLASS(m_provider.get())->start != nullptr;
 }
 
-bool ProviderWatch::waitForFirstListing(std::chrono::steady_clock::time_point limit)
+QString ProviderWatch::name() const
 {
-    std::unique_lock<std::mutex> lock(m_mutex);
-    return m_firstListingDone.wait_until(lock, limit, [this] { return m_isFirstListingDone; });
+    return QString::fromLatin1(gst_plugin_feature_get_name(m_factory.get()));
 }
 
 bool ProviderWatch::lists(const char *deviceClass) const
@@ -67,9 +68,9 @@ void ProviderWatch::run()
         follow();
         return;
     }
-    const std::lock_guard<std::mutex> lock(m_mutex);
+    qCInfo(deviceLog).noquote() << name() +
+                                       QStringLiteral(": It does not start; its devices are not listed.");
     m_isFirstListingDone = true;
-    m_firstListingDone.notify_all();
 }
 
 void ProviderWatch::listAll()
@@ -82,9 +83,8 @@ void ProviderWatch::listAll()
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_listed = std::move(listed);
-        m_isFirstListingDone = true;
-        m_firstListingDone.notify_all();
     }
+    m_isFirstListingDone = true;
     m_changed();
 }
 
@@ -133,7 +133,7 @@ void ProviderWatch::react(GstMessage *message)
 
 CaptureDevice ProviderWatch::describe(GstDevice *device) const
 {
-    return describeDevice(device, QString::fromLatin1(gst_plugin_feature_get_name(m_factory.get())));
+    return describeDevice(device, name());
 }
 
 void ProviderWatch::add(GstDevice *device)

@@ -2,8 +2,7 @@
 
 #include "platform/capturedevice.h"
 
-#include <chrono>
-#include <condition_variable>
+#include <atomic>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -28,8 +27,10 @@ public:
     // Whether the provider lists devices of this class of device ("Video/Source", "Audio/Source").
     bool lists(const char *deviceClass) const;
 
-    // Waits for the first listing until the time given; false when it is not done by then.
-    bool waitForFirstListing(std::chrono::steady_clock::time_point limit);
+    // Whether the provider has listed its devices once, or has refused to start.
+    bool isFirstListingDone() const { return m_isFirstListingDone; }
+    // The provider's own.
+    QString name() const;
 
     // The devices of this class, in the order of listing.
     std::vector<CaptureDevice> devices(const char *deviceClass) const;
@@ -49,8 +50,7 @@ private:
     const std::unique_ptr<GstDeviceProviderFactory, GstObjectRelease> m_factory;
     const std::function<void()> m_changed;
 
-    mutable std::mutex m_mutex;
-    std::condition_variable m_firstListingDone;
-    bool m_isFirstListingDone = false;
+    std::atomic<bool> m_isFirstListingDone{false};
+    mutable std::mutex m_mutex; // guards m_listed
     std::vector<CaptureDevice> m_listed;
 };

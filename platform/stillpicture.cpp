@@ -5,8 +5,18 @@
 #include "util/files/largebytes.h"
 #include "util/files/photofile.h"
 
+#include <QFile>
+
+#include <cerrno>
+#include <chrono>
+#include <utility>
+
 namespace
 {
+
+using namespace std::chrono_literals;
+
+constexpr auto wholeFrameWait = 1s;
 
 bool isWhole(const CapturedFrame &frame)
 {
@@ -20,13 +30,14 @@ bool isWhole(const CapturedFrame &frame)
     return whole;
 }
 
-// The first whole frame from now on. Of a camera that gives none in that time the last is better than
-// nothing.
-FramePtr nextWholeFrame(const NewestFrame &frames, std::chrono::steady_clock::time_point limit)
+// The first whole frame from the one of the order on. Of a camera that gives none in that time the last is
+// better than nothing.
+FramePtr wholeFrame(const StillOrder &order)
 {
-    FramePtr frame = frames.waitForOther(nullptr, limit);
+    const auto limit = std::chrono::steady_clock::now() + wholeFrameWait;
+    FramePtr frame = order.frame;
     while (frame && !isWhole(*frame)) {
-        FramePtr next = frames.waitForOther(frame, limit);
+        FramePtr next = order.frames->waitForOther(frame, limit);
         if (!next)
             return frame;
         frame = std::move(next);
@@ -34,23 +45,105 @@ FramePtr nextWholeFrame(const NewestFrame &frames, std::chrono::steady_clock::ti
     return frame;
 }
 
+// An RGB image in memory that comes fast; null when there is none.
+QImage largeImage(const GstVideoInfo &rgb)
+{
+    auto *pixels = new LargeBytes(GST_VIDEO_INFO_SIZE(&rgb));
+    if (pixels->size() == 0) {
+        delete pixels;
+        return {};
+    }
+    return QImage(
+        pixels->data(), GST_VIDEO_INFO_WIDTH(&rgb), GST_VIDEO_INFO_HEIGHT(&rgb),
+        GST_VIDEO_INFO_PLANE_STRIDE(&rgb, 0), QImage::Format_RGB888,
+        [](void *memory) { delete static_cast<LargeBytes *>(memory); }, pixels);
+}
+
+// The part of the frame that the zoom shows; null when it cannot be converted.
+QImage rgbPicture(const CapturedFrame &frame, const Zoom &zoom)
+{
+    const QSize size(GST_VIDEO_INFO_WIDTH(&frame.info), GST_VIDEO_INFO_HEIGHT(&frame.info));
+    const GstVideoInfo rgb = pictureInfo(GST_VIDEO_FORMAT_RGB, size);
+    QImage image = largeImage(rgb);
+    if (image.isNull())
+        return {};
+    const BufferHandle picture(gst_buffer_new_wrapped_full(GstMemoryFlags(0), image.bits(),
+                                                           gsize(image.sizeInBytes()), 0,
+                                                           gsize(image.sizeInBytes()), nullptr, nullptr));
+    FrameConverter converter(GST_VIDEO_RESAMPLER_METHOD_CUBIC);
+    if (!converter.convert(frame.info, frame.picture.get(), zoom.shownPart(size), rgb, picture.get()))
+        return {};
+    return image;
+}
+
 } // namespace
 
-bool saveStill(const NewestFrame &frames, const Zoom &zoom, const QString &path,
-               std::chrono::milliseconds wait)
+StillPicture::StillPicture(StillOrder order, bool isShown) : m_order(std::move(order)), m_isShown(isShown) {}
+
+void StillPicture::save()
 {
-    const FramePtr frame = nextWholeFrame(frames, std::chrono::steady_clock::now() + wait);
+    const PhotoFault fault = make();
+    bool isGivenUp = false;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        isGivenUp = m_result.has_value();
+        if (!isGivenUp)
+            m_result = fault;
+    }
+    // Nobody knows of a file that comes after that.
+    if (isGivenUp && fault == PhotoFault::None)
+        QFile::remove(m_order.path);
+}
+
+PhotoFault StillPicture::make()
+{
+    const FramePtr frame = wholeFrame(m_order);
     if (!frame)
-        return false;
-    const QSize size(GST_VIDEO_INFO_WIDTH(&frame->info), GST_VIDEO_INFO_HEIGHT(&frame->info));
-    const GstVideoInfo rgb = pictureInfo(GST_VIDEO_FORMAT_RGB, size);
-    LargeBytes pixels(GST_VIDEO_INFO_SIZE(&rgb));
-    if (pixels.size() == 0)
-        return false;
-    const BufferHandle picture(gst_buffer_new_wrapped_full(GstMemoryFlags(0), pixels.data(), pixels.size(), 0,
-                                                           pixels.size(), nullptr, nullptr));
-    FrameConverter converter(GST_VIDEO_RESAMPLER_METHOD_CUBIC);
-    return converter.convert(frame->info, frame->picture.get(), zoom.shownPart(size), rgb, picture.get()) &&
-           writePhoto(path, QImage(pixels.data(), size.width(), size.height(),
-                                   GST_VIDEO_INFO_PLANE_STRIDE(&rgb, 0), QImage::Format_RGB888)) == 0;
+        return PhotoFault::NoPicture;
+    const QImage picture = rgbPicture(*frame, m_order.zoom);
+    if (picture.isNull())
+        return PhotoFault::Failed;
+    if (m_isShown)
+        offer(picture);
+    return write(picture);
+}
+
+void StillPicture::offer(const QImage &picture)
+{
+    QImage copy = picture.convertToFormat(QImage::Format_RGB32);
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_picture = std::move(copy);
+}
+
+PhotoFault StillPicture::write(const QImage &picture)
+{
+    switch (writePhoto(m_order.path, picture)) {
+    case 0:
+        return PhotoFault::None;
+    case ENOSPC:
+    case EDQUOT:
+        return PhotoFault::DiskFull;
+    default:
+        return PhotoFault::Failed;
+    }
+}
+
+QImage StillPicture::takePicture()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return std::exchange(m_picture, QImage());
+}
+
+std::optional<PhotoFault> StillPicture::result() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_result;
+}
+
+PhotoFault StillPicture::giveUp()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (!m_result)
+        m_result = PhotoFault::DiskHangs;
+    return *m_result;
 }

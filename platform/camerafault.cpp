@@ -1,0 +1,85 @@
+#include "platform/camerafault.h"
+
+#include "platform/capturelog.h"
+
+#include <cerrno>
+
+namespace
+{
+
+struct SystemError {
+    int number;
+    const char *english;
+    CameraFault fault;
+};
+
+const SystemError systemErrors[] = {
+    {EBUSY, "Device or resource busy", CameraFault::Busy},
+    {EACCES, "Permission denied", CameraFault::NoPermission},
+    {EPERM, "Operation not permitted", CameraFault::NoPermission},
+    // A camera has no space; so the kernel says that the bus has no room for its pictures.
+    {ENOSPC, "No space left on device", CameraFault::NoBandwidth},
+    {ENODEV, "No such device", CameraFault::Unplugged},
+    {ENXIO, "No such device or address", CameraFault::Unplugged},
+    {ENOENT, "No such file or directory", CameraFault::Unplugged},
+};
+
+// The system's errors are told in words of the user's language.
+bool mentions(const QByteArray &text, const SystemError &error)
+{
+    return text.contains(error.english) || text.contains(g_strerror(error.number));
+}
+
+CameraFault faultOfCode(const GError *error, const QByteArray &text)
+{
+    if (g_error_matches(error, GST_RESOURCE_ERROR, GST_RESOURCE_ERROR_BUSY))
+        return CameraFault::Busy;
+    if (g_error_matches(error, GST_RESOURCE_ERROR, GST_RESOURCE_ERROR_NOT_AUTHORIZED))
+        return CameraFault::NoPermission;
+    if (g_error_matches(error, GST_RESOURCE_ERROR, GST_RESOURCE_ERROR_NOT_FOUND))
+        return CameraFault::Unplugged;
+    // All that is told when the kernel refuses to start the stream, which a lack of bandwidth makes it do.
+    return text.contains("Buffer pool activation failed") ? CameraFault::NoBandwidth : CameraFault::Failed;
+}
+
+} // namespace
+
+CameraFault cameraFault(const GError *error, const char *debug)
+{
+    const QByteArray text = QByteArray(error->message) + '\n' + debug;
+    for (const SystemError &known : systemErrors) {
+        if (mentions(text, known))
+            return known.fault;
+    }
+    return faultOfCode(error, text);
+}
+
+CameraFailure cameraFailure(GstMessage *message)
+{
+    const ParsedError parsed(message);
+    return {cameraFault(parsed.error.get(), parsed.debug.get()),
+            errorText(parsed.error.get(), parsed.debug.get())};
+}
+
+QString faultName(CameraFault fault)
+{
+    switch (fault) {
+    case CameraFault::None:
+        break;
+    case CameraFault::Unplugged:
+        return QStringLiteral("unplugged");
+    case CameraFault::Busy:
+        return QStringLiteral("busy");
+    case CameraFault::NoPermission:
+        return QStringLiteral("no permission");
+    case CameraFault::NoBandwidth:
+        return QStringLiteral("no USB bandwidth");
+    case CameraFault::Silent:
+        return QStringLiteral("silent");
+    case CameraFault::NotAnswering:
+        return QStringLiteral("not answering");
+    case CameraFault::Failed:
+        return QStringLiteral("failed");
+    }
+    return QStringLiteral("no fault");
+}

@@ -1,0 +1,184 @@
+// The movies of a LiveVideoData.
+
+#include "platform/livevideodata.h"
+#include "platform/movierecorder.h"
+#include "util/files/alivewait.h"
+
+#include <QPointer>
+
+#include <algorithm>
+#include <utility>
+
+namespace
+{
+
+using namespace std::chrono_literals;
+
+constexpr auto startWait = 5s;
+constexpr auto microphoneWait = 2s;
+constexpr auto fileWait = 450ms;
+constexpr auto lastFileWait = 30s;
+constexpr auto longestSoundGap = 2s;
+
+} // namespace
+
+void LiveVideoData::Record(const QString &path)
+{
+    if (m_movie || m_isRecordCalled || !created || m_isLost || !m_grabThread)
+        return;
+    m_isRecordCalled = true;
+    const QPointer<LiveVideoData> self(this);
+    startMovie(path);
+    if (self)
+        m_isRecordCalled = false;
+}
+
+void LiveVideoData::startMovie(const QString &path)
+{
+    const QPointer<LiveVideoData> self(this);
+    const std::vector<CaptureDevice> microphones = awaitMicrophones();
+    const CaptureDevice *microphone = defaultMicrophone(microphones);
+    const FramePtr frame = self && microphone ? awaitFrame() : FramePtr();
+    if (!frame)
+        return;
+    MovieSettings settings;
+    settings.path = path;
+    settings.picture = frame->info;
+    if (m_mode.rateNumerator > 0)
+        settings.framesPerSecond = qMax(1, qRound(m_mode.framesPerSecond()));
+    settings.microphone = *microphone;
+    const auto movie = std::make_shared<MovieRecorder>(settings);
+    m_startingMovie = movie;
+    m_grabThread->setSink(movie);
+    const auto isStarted =
+        doAside([movie, frame, zoom = m_zoom] { return movie->start(*frame, zoom); }, startWait);
+    if (!self || m_startingMovie != movie) {
+        movie->discard(); // ended before it had begun
+        return;
+    }
+    m_startingMovie.reset();
+    if (isStarted.value_or(false)) {
+        m_movie = movie;
+        m_movieMicrophone = microphone->device;
+        return;
+    }
+    m_grabThread->setSink(nullptr);
+    movie->discard();
+}
+
+bool LiveVideoData::IsRecording() const
+{
+    return m_movie != nullptr;
+}
+
+void LiveVideoData::RecordStop()
+{
+    endMovie(MovieEnd::Asked);
+}
+
+void LiveVideoData::RecordMovie()
+{
+    const MovieEnd why = m_movie ? m_movie->end() : MovieEnd::None;
+    if (why == MovieEnd::None)
+        return;
+    const QPointer<LiveVideoData> self(this);
+    endMovie(why);
+    if (self)
+        emit devicestop();
+}
+
+void LiveVideoData::endMovie(MovieEnd why)
+{
+    const std::shared_ptr<MovieRecorder> movie = stopMovie();
+    applyResolution();
+    if (m_isStopped && m_grabThread)
+        m_grabThread->setPaused(true);
+    tellMovieEnd(movie, why);
+}
+
+// Begins to finish the movie that runs, and tells nobody yet. Null when none runs. One that is being started
+// is dropped by Record().
+std::shared_ptr<MovieRecorder> LiveVideoData::stopMovie()
+{
+    m_startingMovie.reset();
+    if (m_grabThread)
+        m_grabThread->setSink(nullptr);
+    std::shared_ptr<MovieRecorder> movie = std::exchange(m_movie, nullptr);
+    if (!movie)
+        return movie;
+    m_hadSoundHole = movie->longestSoundGap() > longestSoundGap;
+    if (const std::optional<bool> couldBeOpened = movie->couldOpenMicrophone())
+        m_deafMicrophone = *couldBeOpened ? nullptr : m_movieMicrophone;
+    movie->finish();
+    m_unfinished.push_back(movie);
+    m_fileWatch.start();
+    return movie;
+}
+
+// Does nothing for no movie.
+void LiveVideoData::tellMovieEnd(const std::shared_ptr<MovieRecorder> &movie, MovieEnd why)
+{
+    if (!movie)
+        return;
+    const QPointer<LiveVideoData> self(this);
+    if (m_listener)
+        m_listener->movieHasEnded(why);
+    static_cast<void>(waitAlive([&movie] { return movie->isFinished(); }, fileWait));
+    if (self)
+        lookAtMovieFiles();
+}
+
+void LiveVideoData::lookAtMovieFiles()
+{
+    const bool hadUnfinished = !m_unfinished.empty();
+    m_unfinished.erase(std::remove_if(m_unfinished.begin(), m_unfinished.end(),
+                                      [](const auto &movie) { return movie->isFinished(); }),
+                       m_unfinished.end());
+    if (!hadUnfinished || !m_unfinished.empty())
+        return;
+    m_fileWatch.stop();
+    if (m_listener)
+        m_listener->movieFileIsFinished();
+}
+
+bool LiveVideoData::isFinishingMovie()
+{
+    return std::any_of(m_unfinished.begin(), m_unfinished.end(),
+                       [](const auto &movie) { return !movie->isFinished(); });
+}
+
+void LiveVideoData::finishMovies()
+{
+    static_cast<void>(stopMovie());
+    for (const auto &movie : m_unfinished)
+        movie->waitForFile(lastFileWait);
+}
+
+bool LiveVideoData::IsValidAudioDevice()
+{
+    const QPointer<LiveVideoData> self(this);
+    if (m_movie && !awaitMicrophone())
+        return false;
+    if (!self)
+        return false;
+    const std::vector<CaptureDevice> microphones = awaitMicrophones();
+    const CaptureDevice *microphone = defaultMicrophone(microphones);
+    return self && microphone && microphone->device != m_deafMicrophone;
+}
+
+// Whether the microphone of the movie that runs could be opened.
+bool LiveVideoData::awaitMicrophone()
+{
+    const QPointer<LiveVideoData> self(this);
+    const std::shared_ptr<MovieRecorder> movie = m_movie;
+    const std::shared_ptr<GstDevice> microphone = m_movieMicrophone;
+    std::optional<bool> isUsable;
+    const auto isKnown = [&] {
+        isUsable = movie->hasMicrophone();
+        return isUsable.has_value();
+    };
+    static_cast<void>(waitAlive(isKnown, microphoneWait));
+    if (self)
+        m_deafMicrophone = isUsable.value_or(false) ? nullptr : microphone;
+    return isUsable.value_or(false);
+}

@@ -1,0 +1,52 @@
+// The photos of a LiveVideoData.
+
+#include "platform/livevideodata.h"
+#include "platform/stillpicture.h"
+#include "util/files/alivewait.h"
+
+#include <QPointer>
+
+#include <thread>
+
+namespace
+{
+
+// What comes before the disk takes little of it.
+constexpr std::chrono::seconds diskWait(10);
+
+} // namespace
+
+bool LiveVideoData::SaveBitmap(QString path) // NOLINT(performance-unnecessary-value-param)
+{
+    if (m_isSaving)
+        return false;
+    m_isSaving = true;
+    m_lastPhotoFault = PhotoFault::None;
+    const QPointer<LiveVideoData> self(this);
+    const PhotoFault fault = savePhoto(path);
+    if (self) {
+        m_isSaving = false;
+        m_lastPhotoFault = fault;
+    }
+    return fault == PhotoFault::None;
+}
+
+PhotoFault LiveVideoData::savePhoto(const QString &path)
+{
+    const QPointer<LiveVideoData> self(this);
+    const FramePtr frame = awaitFrame();
+    if (!frame)
+        return PhotoFault::NoPicture;
+    const auto still = std::make_shared<StillPicture>(StillOrder{frame, m_grabThread->frames(), m_zoom, path},
+                                                      m_listener != nullptr);
+    std::thread([still] { still->save(); }).detach();
+    const auto isThrough = [&] {
+        const bool hasResult = still->result().has_value();
+        const QImage picture = still->takePicture();
+        if (!picture.isNull() && self && m_listener)
+            m_listener->photoIsTaken(picture);
+        return hasResult;
+    };
+    static_cast<void>(waitAlive(isThrough, diskWait));
+    return still->giveUp();
+}
