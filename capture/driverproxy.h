@@ -4,14 +4,15 @@
 
 #include <cstdint>
 
-// What the board's touch driver tells beside a mouse event. All zero where it tells nothing.
+// What a board's touch driver tells beside a mouse event. All zero where it tells nothing.
 struct CDriverExtraInfo {
     int32_t reserved;
     int32_t gestureState; // 128 while two contacts lie on the board
     int32_t shadowSize;   // of the contacts' shadow, in units of the driver
 };
 
-// Told of the fingers on the board. Positions in pixels of the screen; the number tells the fingers apart.
+// To be told of the fingers on the board. Positions in pixels of the screen; the number tells the fingers
+// apart.
 class IDriverEventListener
 {
 public:
@@ -21,21 +22,22 @@ public:
     virtual void notifyFingerUp(const QPoint &position, int finger) = 0;
 };
 
-// The board's touch driver. Where there is no touch screen it answers that there is no gesture.
+// Where the board's touch driver would be asked. There is none for this system yet: no gesture is ever told,
+// and no listener is called.
 class CDriverProxy
 {
 public:
     // The one of the process.
     static CDriverProxy *get();
 
-    // Tells the listener of the fingers from now on, in place of the one before. It is not owned and must
-    // outlive the proxy's use, or be replaced by null.
+    // Remembers the listener, in place of the one before. It is not owned and must outlive the proxy's use,
+    // or be replaced by null.
     void initialize(IDriverEventListener *listener);
 
-    // Fills the record with the gesture that is under way; all zero when there is none.
+    // Fills the record with zeros.
     void getExtraInfo(CDriverExtraInfo &info) const;
 
-    // Pixels for each unit of the shadow's size.
+    // Pixels for each unit of the shadow's size: 1.
     double getShadowRatio() const;
 
 private:

@@ -7,6 +7,8 @@
 namespace
 {
 
+// As the log shows it.
+constexpr char sourceName[] = "microphone";
 // Under this key a source carries its microphone, so that a message's sender is known, on whatever thread it
 // comes and however early.
 constexpr char microphoneKey[] = "orvane-microphone";
@@ -73,7 +75,7 @@ MicrophoneBranch::MicrophoneBranch(GstElement *pipeline, GstElement *mixer, GstD
     : m_pipeline(pipeline), m_mixer(mixer), m_microphone(std::make_shared<Microphone>(std::move(gaps))),
       m_closing(std::make_unique<std::shared_ptr<Microphone>>(m_microphone))
 {
-    GstElement *source = gst_device_create_element(device, nullptr);
+    GstElement *source = gst_device_create_element(device, sourceName);
     if (!source) {
         m_microphone->state.fail(QStringLiteral("GStreamer has no element for it."));
         return;

@@ -267,6 +267,7 @@ bool MovieRecorder::waitForFile(std::chrono::milliseconds limit)
 
 void MovieRecorder::close()
 {
+    m_sound->end();
     endStreams();
     waitForEndOfStreams();
     m_sound->close();

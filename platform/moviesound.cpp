@@ -31,15 +31,10 @@ void MovieSound::open(const CaptureDevice &microphone)
     m_present = m_branch->state();
 }
 
-void MovieSound::takeOut(const QString &why)
+// A microphone that stays away would else be told of every second.
+void MovieSound::tell(const QString &loss)
 {
-    m_branch.reset();
-    {
-        const std::lock_guard<std::mutex> lock(m_presentMutex);
-        m_present.reset();
-    }
-    // A microphone that stays away would else be told of every second.
-    const QString line = m_microphone.name + QStringLiteral(": ") + why;
+    const QString line = m_microphone.name + QStringLiteral(": ") + loss;
     if (line != m_told)
         qCWarning(soundLog).noquote() << line;
     m_told = line;
@@ -48,14 +43,17 @@ void MovieSound::takeOut(const QString &why)
 void MovieSound::lookAfter()
 {
     const std::lock_guard<std::mutex> lock(m_branchMutex);
-    if (m_isClosed)
+    if (m_hasEnded)
         return;
     const std::vector<CaptureDevice> listed = DeviceWatch::instance().microphones();
     if (m_branch) {
         const QString why = loss(listed);
         if (why.isEmpty())
             return;
-        takeOut(why);
+        tell(why);
+        m_branch.reset();
+        const std::lock_guard<std::mutex> presentLock(m_presentMutex);
+        m_present.reset();
     }
     if (MicrophoneState::Clock::now() - m_lastTry < pauseBetweenTries)
         return;
@@ -94,15 +92,19 @@ bool MovieSound::hangs(const CaptureDevice &microphone)
                        [&microphone](const Opening &opening) { return opening.device == microphone.device; });
 }
 
+// Later a microphone's sound may end only because the movie's does.
+void MovieSound::end()
+{
+    const std::lock_guard<std::mutex> lock(m_branchMutex);
+    m_hasEnded = true;
+    const QString why = m_branch ? m_branch->state()->loss() : QString();
+    if (!why.isEmpty())
+        tell(why);
+}
+
 void MovieSound::close()
 {
     const std::lock_guard<std::mutex> lock(m_branchMutex);
-    m_isClosed = true;
-    if (!m_branch)
-        return;
-    const QString why = m_branch->state()->loss();
-    if (!why.isEmpty())
-        takeOut(why);
     m_branch.reset();
 }
 

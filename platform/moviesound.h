@@ -23,7 +23,9 @@ public:
     // Takes out a microphone that is lost, and tries one where there is none. To be called several times a
     // second, on a thread that may wait for the pipeline a little.
     void lookAfter();
-    // Ends the sound of microphones for good; waits as lookAfter() does.
+    // The movie ends: nothing is looked after any more. Tells the log of a microphone that is lost already.
+    void end();
+    // Takes the microphone out; waits as lookAfter() does. After end().
     void close();
 
     // Whether the present microphone is usable, and whether the first one ever was; nothing while that is not
@@ -40,7 +42,7 @@ private:
     };
 
     void open(const CaptureDevice &microphone);
-    void takeOut(const QString &why);
+    void tell(const QString &loss);
     QString loss(const std::vector<CaptureDevice> &listed) const;
     const CaptureDevice *next(const std::vector<CaptureDevice> &listed);
     bool hangs(const CaptureDevice &microphone);
@@ -56,7 +58,7 @@ private:
     std::vector<Opening> m_openings; // that have not been answered
     MicrophoneState::Clock::time_point m_lastTry;
     bool m_isDefaultsTurn = false;
-    bool m_isClosed = false;
+    bool m_hasEnded = false;
     QString m_told; // what the log has last
 
     mutable std::mutex m_presentMutex;                // guards m_present

@@ -9,8 +9,10 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QSignalSpy>
+#include <QTimer>
 #include <QtTest>
 
+#include <algorithm>
 #include <chrono>
 
 inline qint64 nowMicroseconds()
@@ -18,6 +20,42 @@ inline qint64 nowMicroseconds()
     using namespace std::chrono;
     return duration_cast<microseconds>(steady_clock::now().time_since_epoch()).count();
 }
+
+// The longest time, in milliseconds, for which the thread that made it answered nothing, up to the end of
+// what is being done.
+class Heartbeat
+{
+public:
+    Heartbeat()
+    {
+        m_last.start();
+        QObject::connect(&m_beat, &QTimer::timeout, [this] { longest(); });
+        m_beat.start(5);
+    }
+    qint64 longest() { return m_longest = std::max(m_longest, m_last.restart()); }
+
+private:
+    QTimer m_beat;
+    QElapsedTimer m_last;
+    qint64 m_longest = 0;
+};
+
+// What a LiveVideoData told.
+struct Told : CaptureListener {
+    void cameraIsLive() override { ++live; }
+    void cameraIsLost(CameraFault why) override { lost = why; }
+    void movieHasEnded(MovieEnd why) override { ended = why; }
+    void movieFileIsFinished() override { ++files; }
+    void photoIsTaken(const QImage &picture) override { photo = picture; }
+    void devicesChanged() override { ++changes; }
+
+    int live = 0;
+    CameraFault lost = CameraFault::None;
+    MovieEnd ended = MovieEnd::None;
+    int files = 0;
+    QImage photo;
+    int changes = 0;
+};
 
 // A camera with its live picture in a window of its own, as the program has it, to be looked at from outside:
 // what counts is what stands on the screen.
@@ -29,6 +67,7 @@ public:
     {
         window.setFixedSize(size);
         window.setWindowFlags(Qt::FramelessWindowHint);
+        capture.setListener(&told);
         capture.SetTarget(&window);
         window.move(0, 0);
         window.show();
@@ -80,6 +119,7 @@ public:
     // Of the picture on the whole window.
     qint64 shownSince() const { return capturedAt(screen(), window.rect()); }
 
+    Told told;
     LiveVideoData capture;
     QFrame window;
     QSignalSpy lost;

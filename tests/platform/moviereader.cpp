@@ -38,7 +38,7 @@ void readFrames(GstElement *sink, MovieContents *contents)
 
 void readSound(GstElement *sink, MovieContents *contents)
 {
-    double lastLoud = -1;
+    double &lastLoud = contents->lastLoud;
     while (const SampleHandle sample = nextSample(sink)) {
         GstBuffer *buffer = gst_sample_get_buffer(sample.get());
         GstMapInfo mapped;

@@ -19,6 +19,7 @@ struct MovieContents {
     QImage first; // grey, as last
     QImage last;
     std::vector<double> loudMoments; // where sound begins after quiet
+    double lastLoud = -1;            // -1 without any sound
     double soundLength = 0;
     bool isReadToItsEnd = false;
 

@@ -9,6 +9,7 @@ private slots:
     void knowsMicrophonesFromMonitors();
     void keepsTheChoice();
     void opensTheFirstWhileTheChosenOneIsAway();
+    void takesTheSameCameraAgain();
 };
 
 void TestDeviceLists::listsEachCameraOnceAndNothingElse()
@@ -121,6 +122,46 @@ void TestDeviceLists::opensTheFirstWhileTheChosenOneIsAway()
     camera.capture.Release();
     camera.capture.Create();
     QVERIFY(camera.capture.supported && !camera.capture.hasVideoDevice && !camera.capture.created);
+}
+
+// Two of one make are told apart by what was there all the time.
+void TestDeviceLists::takesTheSameCameraAgain()
+{
+    TestDevices devices;
+    devices.camera("b").name("Twin").property("device.bus_path", "usb-1");
+    devices.camera("a").name("Twin").property("device.bus_path", "usb-2").formats("YUY2 320x240 30");
+    devices.write();
+    CameraWindow camera;
+    QVERIFY(camera.lists({"Twin", "Twin"}));
+    for (int i = 0; i < 2 && camera.capture.nativeWidth != 320; ++i) {
+        camera.capture.SetVideoDevice(i);
+        camera.capture.Release();
+        QVERIFY(camera.start());
+    }
+    QCOMPARE(camera.capture.nativeWidth, 320);
+    for (const char *socket : {"usb-2", "usb-7"}) {
+        const int losses = camera.lost.count();
+        devices.pull("a");
+        QTRY_COMPARE(camera.lost.count(), losses + 1);
+        camera.capture.Release();
+        QVERIFY(camera.lists({"Twin"}));
+        QVERIFY2(!camera.capture.canReopen(), socket);
+        const int changes = camera.told.changes;
+        devices.camera("a").property("device.bus_path", socket);
+        devices.plug("a");
+        QTRY_VERIFY2(camera.told.changes > changes && camera.capture.canReopen(), socket);
+        QVERIFY(camera.start());
+        QCOMPARE(camera.capture.nativeWidth, 320);
+    }
+    // While it stays away any other that comes will do.
+    devices.pull("a");
+    QTRY_COMPARE(camera.lost.count(), 3);
+    camera.capture.Release();
+    devices.camera("c").name("Other");
+    devices.write();
+    QTRY_VERIFY(camera.capture.canReopen());
+    QVERIFY(camera.start());
+    QCOMPARE(camera.capture.nativeWidth, 640);
 }
 
 QTEST_MAIN(TestDeviceLists)

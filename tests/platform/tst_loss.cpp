@@ -1,3 +1,5 @@
+#include "platform/camerafault.h"
+#include "platform/capturelog.h"
 #include "tests/platform/camerawindow.h"
 
 class TestLoss : public QObject
@@ -7,7 +9,9 @@ class TestLoss : public QObject
 private slots:
     void tellsALossOnce();
     void doesNotWaitForACameraThatHangs();
-    void tellsThatACameraIsBusy();
+    void opensASlowCamera();
+    void tellsWhyACameraDoesNotOpen();
+    void knowsTheFaultFromTheDriversWords();
 };
 
 void TestLoss::tellsALossOnce()
@@ -15,8 +19,14 @@ void TestLoss::tellsALossOnce()
     const struct {
         const char *order;
         const char *fault;
-    } table[] = {{"error-first", "unplugged"}, {"removed-first", "unplugged"}, {"removed-only", "unplugged"},
-                 {"error-only", "unplugged"},  {"error-first", "stall"},       {"error-first", "read-error"}};
+        CameraFault told;
+    } table[] = {{"error-first", "unplugged", CameraFault::Unplugged},
+                 {"removed-first", "unplugged", CameraFault::Unplugged},
+                 {"removed-only", "unplugged", CameraFault::Unplugged},
+                 {"error-only", "unplugged", CameraFault::Unplugged},
+                 {"error-first", "stall", CameraFault::Silent},
+                 {"error-first", "read-error", CameraFault::Failed},
+                 {"error-first", "ends", CameraFault::Failed}};
     for (const auto &row : table) {
         const QByteArray name = QByteArray(row.fault) + ", " + row.order;
         TestDevices devices;
@@ -43,10 +53,12 @@ void TestLoss::tellsALossOnce()
         else
             devices.setFault(name, row.fault);
         QVERIFY2(camera.lost.wait(4500), name);
+        QVERIFY2(camera.told.lost == row.told && camera.told.ended == MovieEnd::CameraLost, name);
         QVERIFY2(movieSize > 0 && !camera.capture.IsValidVideoDevice(), name);
         QTest::qWait(400);
         QCOMPARE(QFileInfo(movie).size(), movieSize);
         QVERIFY2(!camera.capture.SaveBitmap(folder.filePath("none.png")), name);
+        QVERIFY2(camera.capture.lastPhotoFault() == PhotoFault::NoPicture, name);
 
         camera.capture.Release();
         devices.setFault(name, "");
@@ -77,7 +89,8 @@ void TestLoss::doesNotWaitForACameraThatHangs()
             camera.capture.Create();
             camera.capture.Start();
             QVERIFY(clock.elapsed() < 100);
-            QVERIFY(camera.lost.wait(4500));
+            QVERIFY(camera.lost.wait(16000));
+            QVERIFY(clock.elapsed() > 14000 && camera.told.lost == CameraFault::NotAnswering);
             QVERIFY(!camera.capture.GetVideoDeviceList().contains("Bad"));
             clock.start();
         }
@@ -93,20 +106,85 @@ void TestLoss::doesNotWaitForACameraThatHangs()
     }
 }
 
-void TestLoss::tellsThatACameraIsBusy()
+void TestLoss::opensASlowCamera()
 {
     TestDevices devices;
-    devices.camera("cam").name("Busy").fault("busy");
+    devices.camera("slow").name("Slow").opensAfter(6000);
     devices.write();
     CameraWindow camera;
-    QTRY_VERIFY(camera.capture.GetVideoDeviceList().contains("Busy"));
-    camera.choose("Busy");
+    QTRY_VERIFY(camera.capture.GetVideoDeviceList().contains("Slow"));
+    camera.choose("Slow");
     camera.capture.Create();
     camera.capture.Start();
-    QVERIFY(camera.lost.wait(1000));
+    // Whoever needs a picture waits for it, but not for a second one.
+    const QTemporaryDir folder;
+    bool isSecondSaved = true;
+    QTimer::singleShot(100, [&] { isSecondSaved = camera.capture.SaveBitmap(folder.filePath("2.png")); });
+    Heartbeat heart;
+    QVERIFY(camera.capture.SaveBitmap(folder.filePath("1.png")) && !isSecondSaved);
+    QVERIFY2(heart.longest() < 100, qPrintable(QString::number(heart.longest())));
+    QCOMPARE(camera.told.live, 1);
+    QVERIFY(camera.lost.isEmpty());
+
+    // Pulled out while it opens, it is lost at once, and nobody waits any longer.
     camera.capture.Release();
-    devices.setFault("cam", "");
-    QVERIFY(QTest::qWaitFor([&] { return camera.start(); }));
+    camera.capture.Create();
+    QElapsedTimer clock;
+    clock.start();
+    QTimer::singleShot(300, [&] { devices.pull("slow"); });
+    QVERIFY(!camera.capture.SaveBitmap(folder.filePath("3.png")));
+    QVERIFY(clock.elapsed() < 1000 && camera.told.lost == CameraFault::Unplugged);
+}
+
+void TestLoss::tellsWhyACameraDoesNotOpen()
+{
+    const struct {
+        const char *fault;
+        CameraFault told;
+    } table[] = {{"busy", CameraFault::Busy},
+                 {"no-permission", CameraFault::NoPermission},
+                 {"no-bandwidth", CameraFault::NoBandwidth}};
+    for (const auto &row : table) {
+        TestDevices devices;
+        devices.camera("cam").name(row.fault).fault(row.fault);
+        devices.write();
+        CameraWindow camera;
+        QTRY_VERIFY(camera.capture.GetVideoDeviceList().contains(row.fault));
+        camera.choose(row.fault);
+        camera.capture.Create();
+        camera.capture.Start();
+        QVERIFY2(camera.lost.wait(1000), row.fault);
+        QVERIFY2(camera.told.lost == row.told && camera.capture.canReopen(), row.fault);
+        camera.capture.Release();
+        devices.setFault("cam", "");
+        QVERIFY2(QTest::qWaitFor([&] { return camera.start(); }), row.fault);
+        QVERIFY2(camera.told.live == 1 && !camera.capture.canReopen(), row.fault);
+    }
+}
+
+void TestLoss::knowsTheFaultFromTheDriversWords()
+{
+    const struct {
+        int code;
+        const char *debug;
+        CameraFault fault;
+    } table[] = {
+        {GST_RESOURCE_ERROR_BUSY, nullptr, CameraFault::Busy},
+        {GST_RESOURCE_ERROR_OPEN_READ, "system error: Device or resource busy", CameraFault::Busy},
+        {GST_RESOURCE_ERROR_NOT_AUTHORIZED, nullptr, CameraFault::NoPermission},
+        {GST_RESOURCE_ERROR_OPEN_READ_WRITE, "system error: Permission denied", CameraFault::NoPermission},
+        {GST_RESOURCE_ERROR_FAILED, "STREAMON: No space left on device", CameraFault::NoBandwidth},
+        {GST_RESOURCE_ERROR_SETTINGS, "Buffer pool activation failed", CameraFault::NoBandwidth},
+        {GST_RESOURCE_ERROR_NOT_FOUND, nullptr, CameraFault::Unplugged},
+        {GST_RESOURCE_ERROR_READ, "poll error 1: No such device (19)", CameraFault::Unplugged},
+        {GST_RESOURCE_ERROR_READ, "poll error 1: Input/output error (5)", CameraFault::Failed},
+        {GST_RESOURCE_ERROR_FAILED, nullptr, CameraFault::Failed},
+    };
+    for (const auto &row : table) {
+        const ErrorHandle error(g_error_new_literal(GST_RESOURCE_ERROR, row.code, ""));
+        QVERIFY2(cameraFault(error.get(), row.debug) == row.fault, row.debug ? row.debug : "code");
+        QVERIFY(!errorText(error.get(), row.debug).isEmpty());
+    }
 }
 
 QTEST_MAIN(TestLoss)

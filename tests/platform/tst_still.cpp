@@ -4,6 +4,21 @@
 
 #include <QProcess>
 
+#include <atomic>
+#include <thread>
+
+#include <sys/syscall.h>
+#include <unistd.h>
+
+// While the disk hangs a new name never comes to stand. This one is found before the C library's.
+static std::atomic<bool> diskHangs{false};
+extern "C" int linkat(int fromFolder, const char *from, int toFolder, const char *to, int flags)
+{
+    while (diskHangs)
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    return int(syscall(SYS_linkat, fromFolder, from, toFolder, to, flags));
+}
+
 class TestStill : public QObject
 {
     Q_OBJECT
@@ -14,6 +29,8 @@ private slots:
     void passesOverDamagedFrames();
     void waitsForTheFirstFrame();
     void leavesNothingOnAFullDisk();
+    void givesUpADiskThatHangs();
+    void neverHoldsTheWindowUp();
     void leavesOnlyWholePhotosWhenKilled();
 
 private:
@@ -41,8 +58,10 @@ void TestStill::savesTheNewestFrameInFullSize()
         const QString photo = path(row.format);
         const qint64 pressed = nowMicroseconds();
         QVERIFY(camera.capture.SaveBitmap(photo));
+        QVERIFY(camera.capture.lastPhotoFault() == PhotoFault::None);
         const QImage image(photo, "PNG");
         QCOMPARE(image.size(), row.size);
+        QVERIFY(camera.told.photo == image && camera.told.photo.format() == QImage::Format_RGB32);
         QVERIFY2(pressed - CameraWindow::capturedAt(image, image.rect()) < 100000, row.format);
 
         // Another reader than Qt's, which checks every sum.
@@ -102,8 +121,63 @@ void TestStill::leavesNothingOnAFullDisk()
     CameraWindow camera;
     QVERIFY(camera.start());
     QVERIFY(!camera.capture.SaveBitmap(disk.path("photo.png")));
+    QVERIFY(camera.capture.lastPhotoFault() == PhotoFault::DiskFull);
     QVERIFY(QDir(disk.path("")).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
     QVERIFY(freeBytes(disk.path("")).value_or(0) > 900000);
+}
+
+void TestStill::givesUpADiskThatHangs()
+{
+    TestDevices devices;
+    devices.camera("cam");
+    devices.write();
+    CameraWindow camera;
+    QVERIFY(camera.start());
+    diskHangs = true;
+    Heartbeat heart;
+    QElapsedTimer clock;
+    clock.start();
+    QVERIFY(!camera.capture.SaveBitmap(path("photo.png")));
+    QVERIFY(camera.capture.lastPhotoFault() == PhotoFault::DiskHangs);
+    QVERIFY(clock.elapsed() > 9000 && clock.elapsed() < 11000);
+    QVERIFY2(heart.longest() < 100, qPrintable(QString::number(heart.longest())));
+    QCOMPARE(camera.told.photo.size(), QSize(640, 480));
+    // What the disk does later in spite of that comes to nothing.
+    QFileSystemWatcher folder({m_folder->path()});
+    QSignalSpy changed(&folder, &QFileSystemWatcher::directoryChanged);
+    diskHangs = false;
+    QVERIFY(changed.wait());
+    QTRY_VERIFY(!QFileInfo::exists(path("photo.png")));
+}
+
+// The best of some rounds: another process may have had the processor.
+void TestStill::neverHoldsTheWindowUp()
+{
+    TestDevices devices;
+    devices.camera("cam").formats("YUY2 1920x1080 30").content("page");
+    devices.microphone("mic");
+    devices.write();
+    CameraWindow camera;
+    QVERIFY(camera.start());
+    QTRY_VERIFY(camera.capture.IsValidAudioDevice());
+    QMap<QString, qint64> best;
+    const auto measure = [&](const QString &what, const std::function<void()> &work) {
+        Heartbeat heart;
+        work();
+        best[what] = std::min(best.value(what, 1000000), heart.longest());
+    };
+    for (int round = 0; round < 4; ++round) {
+        const QString photo = path(QString("photo%1.png").arg(round));
+        measure("Record", [&] { camera.capture.Record(path("movie.mov")); });
+        QVERIFY(camera.capture.IsRecording());
+        measure("IsValidAudioDevice", [&] { QVERIFY(camera.capture.IsValidAudioDevice()); });
+        measure("SaveBitmap", [&] { QVERIFY(camera.capture.SaveBitmap(photo)); });
+        measure("RecordStop", [&] { camera.capture.RecordStop(); });
+        QTRY_VERIFY(!camera.capture.isFinishingMovie());
+    }
+    qInfo() << "longest silence of the GUI thread in ms:" << best;
+    for (const qint64 silence : best)
+        QVERIFY(silence < 50);
 }
 
 void TestStill::leavesOnlyWholePhotosWhenKilled()

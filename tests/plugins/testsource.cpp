@@ -75,6 +75,15 @@ bool look(SourceState *state)
     return found != file->end();
 }
 
+// As long as the device takes to be opened; one that goes meanwhile is not waited for.
+void waitForOpening(SourceState *state)
+{
+    const int64_t began = monotonicNow();
+    while (look(state) &&
+           monotonicNow() - began < std::stoll(state->device.value("opens-after", "0")) * GST_MSECOND)
+        std::this_thread::sleep_for(pollPeriod);
+}
+
 void waitWhileFaultIs(SourceState *state, const char *fault)
 {
     while (look(state) && state->device.value("fault") == fault)
@@ -105,10 +114,20 @@ bool open(GstElement *source)
 {
     SourceState *state = stateOf(source);
     waitWhileFaultIs(state, "hang-open");
-    if (!look(state))
-        GST_ELEMENT_ERROR(source, RESOURCE, NOT_FOUND, ("There is no such test device."), (nullptr));
-    else if (state->device.value("fault") == "busy")
-        GST_ELEMENT_ERROR(source, RESOURCE, BUSY, ("The test device is busy."), (nullptr));
+    waitForOpening(state);
+    const bool isThere = look(state);
+    const std::string fault = state->device.value("fault");
+    // In the words of the usual camera source.
+    if (!isThere)
+        GST_ELEMENT_ERROR(source, RESOURCE, NOT_FOUND, ("Cannot identify device '/dev/video0'."),
+                          ("system error: No such file or directory"));
+    else if (fault == "busy")
+        GST_ELEMENT_ERROR(source, RESOURCE, BUSY, ("Device '/dev/video0' is busy"),
+                          ("Call to S_FMT failed for YUYV @ 640x480: Device or resource busy"));
+    else if (fault == "no-permission")
+        GST_ELEMENT_ERROR(source, RESOURCE, OPEN_READ_WRITE,
+                          ("Could not open device '/dev/video0' for reading and writing."),
+                          ("system error: Permission denied"));
     else
         return true;
     return false;
@@ -140,6 +159,11 @@ GstCaps *getCaps(GstBaseSrc *source, GstCaps *filter)
 gboolean setCaps(GstBaseSrc *source, GstCaps *caps)
 {
     SourceState *state = stateOf(source);
+    if (state->device.value("fault") == "no-bandwidth") {
+        GST_ELEMENT_ERROR(source, RESOURCE, SETTINGS, ("Failed to allocate required memory."),
+                          ("Buffer pool activation failed"));
+        return FALSE;
+    }
     gst_structure_get_fraction(gst_caps_get_structure(caps, 0), "framerate", &state->rate, &state->seconds);
     state->firstFrame = state->lastFrame = -1;
     state->goneSince = 0;
@@ -198,6 +222,8 @@ GstFlowReturn waitUntil(SourceState *state, int64_t due)
         const std::string fault = state->device.value("fault");
         if (state->goneSince ? isLossDue(*state) : fault == "read-error")
             return GST_FLOW_ERROR;
+        if (fault == "ends")
+            return GST_FLOW_EOS;
         const bool isSilent = state->goneSince || fault == "stall";
         if (!isSilent && monotonicNow() >= due)
             return GST_FLOW_OK;
@@ -222,7 +248,9 @@ GstFlowReturn create(GstPushSrc *source, GstBuffer **buffer)
     const int64_t readyAfter = isCamera(state->section) ? 0 : periodOf(*state);
     const GstFlowReturn waited = waitUntil(state, timeOf(*state, nextFrame(*state)) + readyAfter);
     if (waited == GST_FLOW_ERROR)
-        GST_ELEMENT_ERROR(source, RESOURCE, READ, ("The test device cannot be read."), (nullptr));
+        GST_ELEMENT_ERROR(
+            source, RESOURCE, READ, ("Could not read from resource."),
+            ("poll error 1: %s", state->goneSince ? "No such device (19)" : "Input/output error (5)"));
     if (waited != GST_FLOW_OK)
         return waited;
     // The wait may have been a stall.

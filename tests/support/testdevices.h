@@ -24,6 +24,7 @@ public:
         Section &content(const QString &word) { return set("content", word); }
         Section &sound(const QString &word) { return set("sound", word); }
         Section &fault(const QString &word) { return set("fault", word); }
+        Section &opensAfter(int milliseconds) { return set("opens-after", QString::number(milliseconds)); }
         Section &order(const QString &word) { return set("order", word); }
         Section &damaged(const QString &which) { return set("damaged", which); }
         Section &property(const QString &key, const QString &value) { return set("prop." + key, value); }
