@@ -3,9 +3,9 @@
 #include "util/desktop/centring.h"
 #include "util/desktop/messages.h"
 #include "util/desktop/soundplayer.h"
-#include "util/files/alivewait.h"
 #include "util/files/capturelist.h"
 #include "util/files/capturenames.h"
+#include "util/files/diskanswer.h"
 #include "util/files/folders.h"
 #include "util/files/freespace.h"
 #include "util/files/saving.h"
@@ -14,11 +14,33 @@
 #include <QDir>
 #include <QFile>
 
+#include <optional>
+#include <utility>
+
 QString WebcamUtil::m_pictureDataPath;
 QString WebcamUtil::m_apppath;
 QStringList WebcamUtil::m_tempbmpfilenameList;
 QStringList WebcamUtil::m_tempmoviefilenameList;
 QStringList WebcamUtil::m_savefilenameList;
+
+// False when the disk did not answer; that the file could not be removed is no matter.
+static bool removeFile(const char *operation, const QString &path)
+{
+    return askDisk(operation, path, false, [path] {
+        QFile::remove(path);
+        return true;
+    });
+}
+
+static QStringList listFiles(const char *operation, const QString &folder, const QStringList &filters)
+{
+    return askDisk(operation, folder, QStringList(), [=] { return filesOldestFirst(folder, filters); });
+}
+
+static QStringList listMovies(const char *operation, const QString &folder)
+{
+    return askDisk(operation, folder, QStringList(), [folder] { return pairedMovies(folder); });
+}
 
 void WebcamUtil::setAppPath()
 {
@@ -39,7 +61,7 @@ QString WebcamUtil::getDocumentPath()
 
 void WebcamUtil::setTemporaryPath()
 {
-    m_pictureDataPath = makeWorkingFolder();
+    m_pictureDataPath = askDisk("setTemporaryPath", QDir::tempPath(), QString(), makeWorkingFolder);
 }
 
 QString WebcamUtil::getTemporaryPath()
@@ -51,9 +73,10 @@ QString WebcamUtil::getTemporaryPath()
 
 QString WebcamUtil::existingTemporaryPath()
 {
-    if (!isOwnFolder(m_pictureDataPath))
-        m_pictureDataPath.clear();
-    return getTemporaryPath();
+    m_pictureDataPath =
+        askDisk("existingTemporaryPath", m_pictureDataPath, QString(),
+                [known = m_pictureDataPath] { return isOwnFolder(known) ? known : makeWorkingFolder(); });
+    return m_pictureDataPath;
 }
 
 void WebcamUtil::deleteTemporaryPath()
@@ -64,7 +87,7 @@ void WebcamUtil::deleteTemporaryPath()
 
 QString WebcamUtil::CreateSavePath(const QString &base)
 {
-    return makeSaveFolder(base);
+    return askDisk("CreateSavePath", base, QString(), [base] { return makeSaveFolder(base); });
 }
 
 QString WebcamUtil::CurrentTimeQString()
@@ -104,7 +127,7 @@ QString WebcamUtil::movieName(QString preview)
 
 void WebcamUtil::deletetmpfile(const QString &path)
 {
-    QFile::remove(path);
+    removeFile("deletetmpfile", path);
 }
 
 void WebcamUtil::moveToCenter(QWidget *widget, QWidget *)
@@ -127,42 +150,50 @@ QStringList WebcamUtil::getTempPhotoNameList()
 
 bool WebcamUtil::isSaveFile()
 {
-    const QStringList names = filesOldestFirst(getTemporaryPath(), {});
-    if (names.isEmpty())
-        return false;
-    m_savefilenameList = names;
-    return true;
+    using Found = std::optional<std::pair<QString, QStringList>>; // the folder, and what is in it
+    const Found found = askDisk("isSaveFile", m_pictureDataPath, Found(), [known = m_pictureDataPath] {
+        const QString folder = known.isEmpty() ? makeWorkingFolder() : known;
+        return Found({folder, filesOldestFirst(folder, {})});
+    });
+    if (!found)
+        return true;
+    m_pictureDataPath = found->first;
+    if (!found->second.isEmpty())
+        m_savefilenameList = found->second;
+    return !found->second.isEmpty();
 }
 
 QStringList WebcamUtil::getFileList(const QStringList &filters)
 {
-    return capturesOldestFirst(getTemporaryPath(), filters);
+    return getFileListFromDir(getTemporaryPath(), filters);
 }
 
 QStringList WebcamUtil::getFileListFromDir(const QString &dir, const QStringList &filters)
 {
-    return capturesOldestFirst(dir, filters);
+    return askDisk("getFileListFromDir", dir, QStringList(),
+                   [=] { return capturesOldestFirst(dir, filters); });
 }
 
 bool WebcamUtil::isPhotoFile()
 {
-    return !filesOldestFirst(getTemporaryPath(), {photoFilter(QLatin1String(".bmp"))}).isEmpty();
+    const QStringList filters = {photoFilter(QLatin1String(".bmp"))};
+    return !listFiles("isPhotoFile", getTemporaryPath(), filters).isEmpty();
 }
 
 bool WebcamUtil::isMovieFile()
 {
-    return !filesOldestFirst(getTemporaryPath(), {}).isEmpty();
+    return !listFiles("isMovieFile", getTemporaryPath(), {}).isEmpty();
 }
 
 QStringList WebcamUtil::getMovieFileList()
 {
-    return pairedMovies(getTemporaryPath());
+    return listMovies("getMovieFileList", getTemporaryPath());
 }
 
 QStringList WebcamUtil::getLoadMovieFile(const QString &dir)
 {
     QStringList pairs;
-    const QStringList movies = pairedMovies(dir);
+    const QStringList movies = listMovies("getLoadMovieFile", dir);
     for (const QString &movie : movies)
         pairs << movie << previewName(movie);
     return pairs;
@@ -170,7 +201,12 @@ QStringList WebcamUtil::getLoadMovieFile(const QString &dir)
 
 void WebcamUtil::deleteData()
 {
-    removeCaptures(getTemporaryPath());
+    const QString folder = getTemporaryPath();
+    const QStringList names = getFileList({});
+    for (const QString &name : names) {
+        if (!removeFile("deleteData", folder + "/" + name))
+            break;
+    }
 }
 
 bool WebcamUtil::saveData(const QString &dir)
@@ -211,12 +247,13 @@ void WebcamUtil::ShowDiskWorningMessage(QWidget *parent)
 
 bool WebcamUtil::chkdiskFreeSpace()
 {
-    return enoughFreeSpaceAt(existingTemporaryPath());
+    const QString folder = existingTemporaryPath();
+    return askDisk("chkdiskFreeSpace", folder, false, [folder] { return enoughFreeSpaceAt(folder); });
 }
 
 bool WebcamUtil::hasWriteAccess(const QString &path)
 {
-    return isWritableFolder(path);
+    return askDisk("hasWriteAccess", path, false, [path] { return isWritableFolder(path); });
 }
 
 bool WebcamUtil::canlaunch(const QString &name)

@@ -9,6 +9,10 @@ class QWidget;
 // Folders, names, the working set, messages and checks that the whole system shares. Static operations
 // only, for the GUI thread: the members have no lock. Those that need none of them say so.
 //
+// On the GUI thread a question to a disk that gives no answer within diskLimit is answered as its operation
+// says of a failure, and stands on stderr (category "orvane.files"). The windows are alive meanwhile, as
+// waitAlive() says.
+//
 // The working folder is where everything captured is first written: one for each user, below the system's
 // temporary folder. A capture is a plain file in it whose name starts with "photo" or "movie", and exists as
 // long as that file does; there is no index. A movie has its preview picture beside it (previewName).
@@ -74,6 +78,7 @@ public:
     // The photos now in the working folder.
     static QStringList getTempPhotoNameList();
     // Whether the working folder holds any file, capture or not; m_savefilenameList then names them all.
+    // True, with the list as it was, when the disk gives no answer: what may be there must be asked about.
     static bool isSaveFile();
     // The captures of the working folder that a filter lets through.
     static QStringList getFileList(const QStringList &filters);
@@ -88,13 +93,15 @@ public:
     // The movies of dir that have their preview picture, each followed by the picture's name. Any thread.
     static QStringList getLoadMovieFile(const QString &dir);
 
-    // Removes every capture of the working folder; failures are ignored.
+    // Removes every capture of the working folder; failures are ignored, but a disk that gives no answer is
+    // asked no further.
     static void deleteData();
     // Moves every capture of the working folder into today's folder below dir, newest first, a movie and its
     // preview together or not at all. A file that is there already under the same name is kept and the
     // working copy removed. False when nothing was there to move, or at the first failure: what was moved
     // until then stays moved, the rest stays in the working folder, and nothing half written is left
-    // anywhere. Returns when all is done; the windows are painted meanwhile, but take no input.
+    // anywhere. Returns when all is done, however long it takes; the windows are painted meanwhile, and what
+    // the user presses comes afterwards.
     static bool saveData(const QString &dir);
 
     // --- Messages ---

@@ -1,12 +1,16 @@
 #include "widgets/moviewidget.h"
 
 #include "util/desktop/fonts.h"
+#include "widgets/backgroundpool.h"
+#include "widgets/moviepreload.h"
 
 #include <QLabel>
 #include <QShowEvent>
+#include <QThreadPool>
 #include <QTimer>
 #include <QUrl>
 
+#include <phonon/MediaObject>
 #include <phonon/MediaSource>
 #include <phonon/VideoWidget>
 
@@ -16,49 +20,70 @@ namespace
 constexpr int firstPictureMilliseconds = 100;
 } // namespace
 
-MovieWidget::MovieWidget(QWidget *parent) : Phonon::VideoPlayer(parent)
+MovieWidget::MovieWidget(QWidget *parent)
+    : Phonon::VideoPlayer(parent), m_caption(new QLabel(tr("Movie"), this)), m_firstPicture(new QTimer(this))
 {
     QPalette colours = palette();
     colours.setColor(QPalette::Window, Qt::black);
     colours.setColor(QPalette::WindowText, Qt::green);
     setPalette(colours);
 
-    auto *caption = new QLabel(tr("Movie"), this);
-    caption->setAutoFillBackground(true);
-    caption->setPalette(colours);
-    caption->setFont(captionFont());
-    caption->adjustSize();
+    m_caption->setAutoFillBackground(true);
+    m_caption->setPalette(colours);
+    m_caption->setFont(captionFont());
+    m_caption->adjustSize();
+
+    m_firstPicture->setSingleShot(true);
+    m_firstPicture->setInterval(firstPictureMilliseconds);
+    connect(m_firstPicture, &QTimer::timeout, this, &MovieWidget::disp);
 }
 
 bool MovieWidget::Create(const QString &path)
 {
-    // Phonon measures the window for the picture before it knows the movie's size, and a square is what it
-    // takes then. Given the whole widget, the sink keeps the movie's proportions itself. Not sooner: the
-    // first word with the player loads all of its machinery, which would take a quarter of the program's
-    // start.
-    videoWidget()->setAspectRatio(Phonon::VideoWidget::AspectRatioWidget);
+    if (!m_created)
+        setUpPlayer();
+    forgetWish();
     load(Phonon::MediaSource(QUrl::fromLocalFile(path)));
     m_created = true;
     return true;
+}
+
+// Not before there is a movie: the first word with the player loads all of its machinery, which would take a
+// quarter of the program's start.
+void MovieWidget::setUpPlayer()
+{
+    // Phonon measures the window for the picture before it knows the movie's size, and a square is what it
+    // takes then. Given the whole widget, the sink keeps the movie's proportions itself.
+    videoWidget()->setAspectRatio(Phonon::VideoWidget::AspectRatioWidget);
+    const Phonon::MediaObject *player = mediaObject();
+    connect(player, &Phonon::MediaObject::stateChanged, this, &MovieWidget::followWish);
+    connect(player, &Phonon::MediaObject::totalTimeChanged, this, &MovieWidget::followWish);
+    connect(player, &Phonon::MediaObject::hasVideoChanged, this, &MovieWidget::followWish);
+    connect(player, &Phonon::MediaObject::finished, this, &MovieWidget::forgetWish);
+    // The widget for the picture has come later and lies over it.
+    m_caption->raise();
 }
 
 void MovieWidget::Release() {}
 
 void MovieWidget::Play()
 {
+    m_firstPicture->stop();
+    m_isPlayWanted = true;
     if (!isPlaying())
         play();
 }
 
 void MovieWidget::Stop()
 {
+    forgetWish();
     stop();
 }
 
 void MovieWidget::Reset()
 {
-    stop();
-    play();
+    Stop();
+    Play();
 }
 
 bool MovieWidget::isComplete()
@@ -68,7 +93,23 @@ bool MovieWidget::isComplete()
 
 void MovieWidget::disp()
 {
-    pause();
+    forgetWish();
+    Phonon::VideoPlayer::pause();
+}
+
+void MovieWidget::forgetWish()
+{
+    m_firstPicture->stop();
+    m_isPlayWanted = false;
+}
+
+// A player that does not yet know its movie may forget what it was told.
+void MovieWidget::followWish()
+{
+    if (m_isPlayWanted && isPaused())
+        play();
+    else if (!m_isPlayWanted && isPlaying() && !m_firstPicture->isActive())
+        Phonon::VideoPlayer::pause();
 }
 
 void MovieWidget::showEvent(QShowEvent *event)
@@ -76,6 +117,11 @@ void MovieWidget::showEvent(QShowEvent *event)
     Phonon::VideoPlayer::showEvent(event);
     if (event->spontaneous()) // the window comes back from its icon: what plays goes on
         return;
+    forgetWish();
+    m_firstPicture->start();
     play();
-    QTimer::singleShot(firstPictureMilliseconds, this, &MovieWidget::disp);
+}
+void MovieWidget::prepare()
+{
+    backgroundPool()->start(preloadPlayer);
 }

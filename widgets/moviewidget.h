@@ -2,8 +2,11 @@
 
 #include <phonon/VideoPlayer>
 
-// Plays one recorded movie. When it is shown it starts, and waits a moment later with its first picture.
-// Positions and the end are those of the player that it is.
+class QLabel;
+class QTimer;
+
+// Plays one recorded movie. When it is shown it starts, and waits a moment later with its first picture,
+// unless it was told to play before. Positions and the end are those of the player that it is.
 class MovieWidget : public Phonon::VideoPlayer
 {
     Q_OBJECT
@@ -11,8 +14,19 @@ class MovieWidget : public Phonon::VideoPlayer
 public:
     explicit MovieWidget(QWidget *parent = nullptr);
 
+    // Loads in the background most of what the player needs, so that the first Create() finds it there.
+    // Returns at once; once for a program, before or while its first window is shown.
+    static void prepare();
+
     // Whether a movie was ever loaded.
     bool isCreated() const { return m_created; }
+
+    // Whether the movie was told to play, and neither to wait nor to stop since, nor came to its end: what
+    // the player does follows a moment later.
+    bool isPlayWanted() const { return m_isPlayWanted; }
+
+    // As disp(): the player's own would not know of the wish.
+    void pause() { disp(); }
 
 public slots:
     // Loads the movie; true, also when it turns out not to be playable.
@@ -28,5 +42,12 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
+    void setUpPlayer();
+    void followWish();
+    void forgetWish();
+
+    QLabel *m_caption;
+    QTimer *m_firstPicture; // runs from showing the movie until it is held
     bool m_created = false;
+    bool m_isPlayWanted = false;
 };

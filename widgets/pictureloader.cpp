@@ -1,10 +1,10 @@
 #include "widgets/pictureloader.h"
 
+#include "widgets/backgroundpool.h"
 #include "widgets/picturefile.h"
 
 #include <QCoreApplication>
 #include <QPointer>
-#include <QThread>
 #include <QThreadPool>
 
 namespace
@@ -12,29 +12,6 @@ namespace
 
 constexpr int thumbnailPriority = 0;
 constexpr int picturePriority = 1;
-
-// How long the end of the program waits for what is being read, which uses memory that goes with it.
-constexpr int endingMilliseconds = 1000;
-
-QThreadPool *sharedPool();
-
-void endReading()
-{
-    sharedPool()->clear();
-    sharedPool()->waitForDone(endingMilliseconds);
-}
-
-// Never destroyed: that would wait for a disk without a limit.
-QThreadPool *sharedPool()
-{
-    static QThreadPool *const pool = [] {
-        auto *made = new QThreadPool;
-        made->setMaxThreadCount(qMax(2, QThread::idealThreadCount()));
-        qAddPostRoutine(endReading);
-        return made;
-    }();
-    return pool;
-}
 
 } // namespace
 
@@ -77,5 +54,5 @@ void PictureLoader::start(int id, const std::function<QImage()> &read, int prior
         };
         QMetaObject::invokeMethod(qApp, deliver, Qt::QueuedConnection);
     };
-    sharedPool()->start(work, priority);
+    backgroundPool()->start(work, priority);
 }

@@ -4,9 +4,20 @@
 #include <QtTest>
 
 #include <fcntl.h>
+#include <functional>
 #include <memory>
+#include <mutex>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
+
+// Whoever holds it lets the disk hang: this look at a file is found before the C library's.
+static std::mutex disk;
+extern "C" int lstat(const char *path, struct stat *status) noexcept
+{
+    const std::lock_guard<std::mutex> answer(disk);
+    return fstatat(AT_FDCWD, path, status, AT_SYMLINK_NOFOLLOW);
+}
 
 // The working folder and its names, what it lists, and the move into the save folder.
 class TestWorkingSet : public QObject
@@ -123,6 +134,36 @@ private slots:
         const QStringList left = {".photo6.png", "Photo5.png", "notes.txt", "photo7.png", "photo8.png"};
         QCOMPARE(everything(working()), left);
         QVERIFY(WebcamUtil::isSaveFile() && !WebcamUtil::saveData(base())); // no capture among them
+    }
+
+    void aDiskThatHangsKeepsNobodyWaiting()
+    {
+        QVERIFY(write(working("photo1.png"), "x"));
+        const struct {
+            const char *name;
+            std::function<bool()> answersAsFailed;
+        } operations[] = {
+            {"getFileListFromDir", [] { return WebcamUtil::getFileListFromDir(working(), {}).isEmpty(); }},
+            {"isSaveFile", [] { return WebcamUtil::isSaveFile(); }},
+            {"existingTemporaryPath", [] { return !WebcamUtil::chkdiskFreeSpace(); }},
+        };
+        for (const auto &operation : operations) {
+            const std::lock_guard<std::mutex> hanging(disk);
+            const QRegularExpression line(QString("^%1: .*VeltrixCamera").arg(operation.name));
+            QTest::ignoreMessage(QtWarningMsg, line);
+            QElapsedTimer time;
+            time.start();
+            int beats = 0;
+            QTimer heart;
+            connect(&heart, &QTimer::timeout, this, [&beats] { ++beats; });
+            heart.start(100);
+            QVERIFY2(operation.answersAsFailed(), operation.name);
+            QVERIFY2(time.elapsed() < 2500 && beats > 10, operation.name);
+        }
+        QVERIFY(WebcamUtil::chkdiskFreeSpace());
+        QStringList names;
+        std::thread([&] { names = WebcamUtil::getFileListFromDir(working(), {}); }).join();
+        QCOMPARE(names, QStringList{"photo1.png"});
     }
 
     void savesAll()

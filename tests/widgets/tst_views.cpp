@@ -3,6 +3,7 @@
 #include "widgets/stretchbitmapbutton.h"
 
 #include <QLabel>
+#include <QScreen>
 #include <QtTest>
 
 // What the main window is made of: its buttons, its pictures and its movies.
@@ -20,6 +21,29 @@ class TestViews : public QObject
         return found;
     }
 
+    // A second of white.
+    QString whiteMovie() const
+    {
+        const QString path = m_dir.filePath("movie 1.mov");
+        const QString pipeline =
+            "-q videotestsrc num-buffers=30 pattern=white ! video/x-raw,width=320,height=240 "
+            "! x264enc tune=zerolatency ! qtmux ! filesink location=%1";
+        if (!QFile::exists(path))
+            QProcess::execute("gst-launch-1.0", pipeline.split(' ').replaceInStrings("%1", path));
+        return path;
+    }
+    // The colours of a widget's part, as the user sees it: with what other windows lay over it.
+    static QSet<QRgb> onScreen(const QWidget &widget, const QRect &part)
+    {
+        const QRect place(widget.mapToGlobal(part.topLeft()), part.size());
+        const QImage image = QGuiApplication::primaryScreen()->grabWindow(0).toImage().copy(place);
+        QSet<QRgb> found;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x)
+                found << image.pixel(x, y);
+        }
+        return found;
+    }
     void load(PictureWidget &widget, const QString &name) const
     {
         QSignalSpy changes(&widget, &PictureWidget::pictureChanged);
@@ -101,18 +125,16 @@ private slots:
 
     void moviePlaysToItsEndAndAgain()
     {
-        const QString path = m_dir.filePath("movie 1.mov");
-        QStringList pipeline = QString("-q videotestsrc num-buffers=30 ! video/x-raw,width=320,height=240 ! "
-                                       "x264enc tune=zerolatency ! qtmux ! filesink location=%1")
-                                   .split(' ');
-        QCOMPARE(QProcess::execute("gst-launch-1.0", pipeline.replaceInStrings("%1", path)), 0);
         MovieWidget movie;
-        QVERIFY(movie.Create(path));
+        QVERIFY(movie.Create(whiteMovie()));
         QSignalSpy finished(&movie, &MovieWidget::finished);
         movie.show();
         QTRY_VERIFY(movie.isPaused()); // with its first picture
         QTRY_VERIFY(movie.totalTime() > 900 && movie.totalTime() < 1200);
         QVERIFY(!movie.isComplete() && finished.isEmpty());
+        QTRY_VERIFY(onScreen(movie, movie.rect()).contains(QColor(Qt::white).rgb()));
+        const QRect caption = movie.findChild<QLabel *>()->geometry();
+        QTRY_VERIFY(onScreen(movie, caption).contains(QColor(Qt::green).rgb()));
 
         movie.Play();
         QTRY_VERIFY(movie.isPlaying());
@@ -121,11 +143,35 @@ private slots:
         QSpontaneKeyEvent::setSpontaneous(&restored);
         QCoreApplication::instance()->notify(&movie, &restored);
         QVERIFY(finished.wait(10000));
+        QVERIFY(!movie.isPlayWanted());
         movie.Reset();
         QTRY_VERIFY(movie.isPlaying());
         movie.disp();
         QTRY_VERIFY(movie.isPaused());
         QVERIFY(!movie.isComplete());
+    }
+
+    // Before the player knows the movie, while it shows the first picture, and later: the last word counts.
+    void lastWordToThePlayerCounts()
+    {
+        MovieWidget movie;
+        movie.Create(whiteMovie());
+        for (const int pressAfter : {0, 50, 120, 300}) {
+            movie.show();
+            QTest::qWait(pressAfter);
+            movie.Play();
+            QVERIFY(movie.isPlayWanted());
+            QTRY_VERIFY2(movie.currentTime() > 500, qPrintable(QString::number(pressAfter)));
+            movie.Stop();
+            movie.hide();
+            movie.Create(whiteMovie());
+        }
+        movie.show();
+        movie.Play();
+        movie.pause();
+        QVERIFY(!movie.isPlayWanted());
+        QTRY_VERIFY(movie.isPaused() && movie.totalTime() > 0);
+        QVERIFY(movie.currentTime() < 500);
     }
 
     void emptyOrMissingMoviesDoNoHarm()

@@ -75,9 +75,3 @@ QStringList pairedMovies(const QString &folder)
     }
     return paired;
 }
-
-void removeCaptures(const QString &folder)
-{
-    for (const QString &name : capturesOldestFirst(folder, {}))
-        QFile::remove(folder + "/" + name);
-}

@@ -14,6 +14,3 @@ QStringList capturesOldestFirst(const QString &folder, const QStringList &filter
 
 // The movies that have their preview picture, each once.
 QStringList pairedMovies(const QString &folder);
-
-// Removes every capture; failures are ignored.
-void removeCaptures(const QString &folder);

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "util/files/alivewait.h"
+
+#include <QString>
+
+#include <chrono>
+#include <utility>
+
+// How long the GUI thread waits for a disk's answer to one question.
+constexpr std::chrono::seconds diskLimit(2);
+
+bool isGuiThread();
+
+// Says on stderr that the disk did not answer.
+void noteSilentDisk(const char *operation, const QString &path);
+
+// What the work finds out on the disk. Any thread; on the GUI thread it is done aside, as doAside() does it,
+// so it must own all that it uses. When it has not ended by the limit then, silent is the answer, and a line
+// names the operation and the path.
+template<typename Answer, typename Work>
+Answer askDisk(const char *operation, const QString &path, Answer silent, Work work)
+{
+    if (!isGuiThread())
+        return work();
+    std::optional<Answer> answer = doAside(std::move(work), diskLimit);
+    if (answer)
+        return *std::move(answer);
+    noteSilentDisk(operation, path);
+    return silent;
+}
