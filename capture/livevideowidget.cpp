@@ -335,8 +335,10 @@ bool LiveVideoWidget::Record()
     const QString path = WebcamUtil::CreateMoviefilename();
     m_capture->facts.change([&path](Facts &now) { now.movie = {MovieState::None, Cause::None, path}; });
     m_capture->data.Record(path);
-    if (warnOfInvalidDevices()) {
+    const QString warning = invalidDevicesText();
+    if (!warning.isEmpty()) {
         dropMovie();
+        WebcamUtil::WarningMessage(warning, this);
         return false;
     }
     if (!m_capture->data.IsRecording()) {
@@ -370,7 +372,7 @@ QString LiveVideoWidget::invalidAudioText()
 }
 
 // The blank at the end of two of the texts belongs to them, for their translations.
-bool LiveVideoWidget::warnOfInvalidDevices()
+QString LiveVideoWidget::invalidDevicesText()
 {
     QString warning;
     const bool isAudioValid = m_capture->data.IsValidAudioDevice();
@@ -384,10 +386,7 @@ bool LiveVideoWidget::warnOfInvalidDevices()
         warning = invalidAudioText();
     if (!isAudioValid)
         m_capture->facts.change([](Facts &now) { now.sound = SoundState::Missing; });
-    if (warning.isEmpty())
-        return false;
-    WebcamUtil::WarningMessage(warning, this);
-    return true;
+    return warning;
 }
 
 void LiveVideoWidget::RecordStop()

@@ -127,7 +127,7 @@ private:
     void setUpCaption();
     void setUpOpeningNote();
     void endSeries();
-    bool warnOfInvalidDevices();
+    QString invalidDevicesText();
     void dropMovie();
     void followFacts();
     void followGesture(int distance);

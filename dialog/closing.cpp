@@ -117,6 +117,6 @@ void CPictorelDlg::closeViews()
         }
     }
     // Asking a player that never had a movie would load all of its machinery.
-    if (m_movieView->isCreated() && m_movieView->isPlaying())
+    if (m_movieView->isCreated() && m_movieView->isPlayWanted())
         m_movieView->Release();
 }

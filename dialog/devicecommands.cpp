@@ -61,10 +61,9 @@ void CPictorelDlg::changeNodevicemode()
     m_isErrorMode = true;
     m_isReturning = false;
     m_timerView->Stop();
-    if (m_isPlaying) {
+    if (m_movieView->isPlayWanted()) {
         m_movieView->pause();
         m_timerView->Pause();
-        m_isPlaying = false;
     }
     if (m_liveView->isCreate())
         m_liveView->Release();

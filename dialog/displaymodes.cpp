@@ -50,7 +50,6 @@ void CPictorelDlg::SetLiveMode()
 void CPictorelDlg::SetMovieMode()
 {
     m_isMovieLoaded = false;
-    m_isPlaying = false;
 }
 
 void CPictorelDlg::SetListMode()
@@ -101,7 +100,7 @@ Situation CPictorelDlg::situation() const
     now.isSeriesRunning = m_isSeriesRunning;
     now.isTimed = m_isAutoShooting;
     now.isMovieLoaded = m_isMovieLoaded;
-    now.isPlaying = m_isPlaying;
+    now.isPlaying = m_movieView->isPlayWanted();
     now.offersPhotos = m_offersPhotos;
     now.hasThumbnails = m_listView->count() > 0;
     now.hasChoice = !m_listView->selectionList().isEmpty();

@@ -17,6 +17,14 @@
 #include <QScreen>
 #include <QTimer>
 
+namespace
+{
+
+// The player is loaded in the background once the camera's picture is there: nobody needs it sooner.
+constexpr std::chrono::milliseconds playerDelay(2000);
+
+} // namespace
+
 CPictorelDlg::CPictorelDlg(QWidget *parent, Qt::WindowFlags flags)
     : QWidget(parent, flags), CWindowManagement(this, raisePeriodMs, true, QString())
 {
@@ -41,6 +49,7 @@ CPictorelDlg::CPictorelDlg(QWidget *parent, Qt::WindowFlags flags)
     m_liveView->Start();
     TransitionMode(DisplayMode::Live);
     SetLocalConnect();
+    QTimer::singleShot(playerDelay, this, &MovieWidget::prepare);
 
     // A picture is never mirrored, whatever the language.
     m_liveView->setLayoutDirection(Qt::LeftToRight);

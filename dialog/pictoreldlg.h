@@ -194,7 +194,6 @@ private:
     bool m_showsChoice = false;  // the list has
     bool m_isMovieLoaded = false;
     bool m_isMovieAwaited = false; // the recorded one, until its file is whole
-    bool m_isPlaying = false;      // as far as it was asked for
     bool m_isSeriesRunning = false;
     bool m_isLeaving = false;
     int m_shotsTaken = 0;

@@ -75,9 +75,8 @@ void CPictorelDlg::OnMoviePlay()
         m_movieView->Stop();
     }
     m_isMovieLoaded = true;
-    m_isPlaying = true;
-    refreshScreen();
     m_movieView->Play();
+    refreshScreen();
     m_timerView->run();
 }
 
@@ -87,19 +86,17 @@ void CPictorelDlg::OnMoviePause()
         m_timerView->Stop();
         setMovieTime();
         m_movieView->Stop();
-    } else if (m_isPlaying) {
+    } else if (m_movieView->isPlayWanted()) {
         m_movieView->pause();
         m_timerView->Pause();
     }
-    m_isPlaying = false;
     refreshScreen();
 }
 
 void CPictorelDlg::OnMovieFinished()
 {
-    m_isPlaying = false;
-    refreshScreen();
     m_movieView->Stop();
+    refreshScreen();
     m_timerView->Stop();
 }
 

@@ -35,6 +35,11 @@ int captionPointSize()
     return int(width * (1.0 / fullCaptionWidth) * fullCaptionPoints);
 }
 
+QFont captionTextFont()
+{
+    return QFont("Arial", captionPointSize(), QFont::Black, false);
+}
+
 // Told the format, Qt finds it out without loading the readers of all others.
 constexpr char bitmapFormat[] = "BMP";
 
@@ -61,6 +66,8 @@ void CStretchBitmapButton::setIconFromObjectNameBitmap()
         whole.isValid() ? whole.scaled(width, whole.height(), Qt::KeepAspectRatio) : QSize(0, 0);
     setBaseSize(size);
     resize(size);
+    if (m_caption)
+        m_caption->setFont(captionTextFont());
     update();
 }
 
@@ -72,7 +79,7 @@ QString CStretchBitmapButton::bitmapPath(const char *ending) const
 void CStretchBitmapButton::createCaption()
 {
     m_caption = new QLabel(this);
-    m_caption->setFont(QFont("Arial", captionPointSize(), QFont::Black, false));
+    m_caption->setFont(captionTextFont());
     m_caption->setWordWrap(true);
     // Over the bitmap it is the window's text colour that can be read, not that of a common button.
     m_caption->setForegroundRole(QPalette::WindowText);

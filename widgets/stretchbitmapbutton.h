@@ -19,7 +19,8 @@ public:
     // name finds the bitmaps, and is the accessible name until there is a caption.
     explicit CStretchBitmapButton(const QString &name, QWidget *parent = nullptr);
 
-    // Gives the button the size of its bitmaps, which are loaded and scaled anew when they are painted next.
+    // Gives the button the size of its bitmaps on the screen as it is now, which are loaded and scaled anew
+    // when they are painted next.
     void setIconFromObjectNameBitmap();
 
     // The caption, with "\n" between its lines; on one line it is also the accessible name.
