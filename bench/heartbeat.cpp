@@ -112,7 +112,7 @@ struct Lesson {
              [this] { waitFor([this] { return main.view<TimerWidget>()->text() >= "00:02"; }); });
         press("Stop", "MovieStop");
         press("Play", "MoviePlay");
-        press("List", "List");
+        press("List, while a movie plays", "List");
         press("Movie / Photo", "SwitchPhoto");
         multiply();
         press("Live", "Live");
