@@ -137,6 +137,10 @@ Capture</source>
         <translation>مباشر</translation>
     </message>
     <message>
+        <source>The camera is being opened. Please wait...</source>
+        <translation>جارٍ فتح الكاميرا. يُرجى الانتظار...</translation>
+    </message>
+    <message>
         <source>Not Suport</source>
         <translation>غير مدعوم</translation>
     </message>

@@ -137,6 +137,10 @@ aufnahme</translation>
         <translation>LIVE</translation>
     </message>
     <message>
+        <source>The camera is being opened. Please wait...</source>
+        <translation>Die Kamera wird geöffnet. Bitte warten...</translation>
+    </message>
+    <message>
         <source>Not Suport</source>
         <translation>Nicht unterstützt</translation>
     </message>

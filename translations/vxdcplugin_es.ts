@@ -137,6 +137,10 @@ continua</translation>
         <translation>EN DIRECTO</translation>
     </message>
     <message>
+        <source>The camera is being opened. Please wait...</source>
+        <translation>Abriendo la cámara. Espere...</translation>
+    </message>
+    <message>
         <source>Not Suport</source>
         <translation>No compatible</translation>
     </message>

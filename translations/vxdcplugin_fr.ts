@@ -137,6 +137,10 @@ en rafale</translation>
         <translation>DIRECT</translation>
     </message>
     <message>
+        <source>The camera is being opened. Please wait...</source>
+        <translation>Ouverture de la caméra. Veuillez patienter...</translation>
+    </message>
+    <message>
         <source>Not Suport</source>
         <translation>Non pris en charge</translation>
     </message>

@@ -137,6 +137,10 @@ Capture</source>
         <translation>שידור חי</translation>
     </message>
     <message>
+        <source>The camera is being opened. Please wait...</source>
+        <translation>המצלמה נפתחת. נא להמתין...</translation>
+    </message>
+    <message>
         <source>Not Suport</source>
         <translation>לא נתמך</translation>
     </message>

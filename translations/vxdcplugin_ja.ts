@@ -137,6 +137,10 @@ Capture</source>
         <translation>ライブ</translation>
     </message>
     <message>
+        <source>The camera is being opened. Please wait...</source>
+        <translation>カメラを開いています。お待ちください...</translation>
+    </message>
+    <message>
         <source>Not Suport</source>
         <translation>サポートされていません</translation>
     </message>

@@ -137,6 +137,10 @@ opptak</translation>
         <translation>DIREKTE</translation>
     </message>
     <message>
+        <source>The camera is being opened. Please wait...</source>
+        <translation>Kameraet åpnes. Vent litt...</translation>
+    </message>
+    <message>
         <source>Not Suport</source>
         <translation>Støttes ikke</translation>
     </message>

@@ -137,6 +137,10 @@ Capture</source>
         <translation>实时</translation>
     </message>
     <message>
+        <source>The camera is being opened. Please wait...</source>
+        <translation>正在打开摄像头。请稍候...</translation>
+    </message>
+    <message>
         <source>Not Suport</source>
         <translation>不支持</translation>
     </message>

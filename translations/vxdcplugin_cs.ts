@@ -1,0 +1,399 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="cs" sourcelanguage="en">
+<context>
+    <name>CPictorelDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>Živě</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Continuous
+Capture</source>
+        <translation>Sériové
+snímky</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Zastavit</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>Seznam</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Nastavení</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Ukončit</translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation>Ponechat</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Znovu</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Přehrát</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pauza</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Zobrazit</translation>
+    </message>
+    <message>
+        <source>Movie /
+    Photo</source>
+        <translation>Video /
+    Foto</translation>
+    </message>
+    <message>
+        <source>Photo /
+    Movie</source>
+        <translation>Foto /
+    Video</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zpět</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Vložit</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Načíst</translation>
+    </message>
+    <message>
+        <source>Still</source>
+        <translation>Statický obraz</translation>
+    </message>
+    <message>
+        <source>/</source>
+        <translation>/</translation>
+    </message>
+    <message>
+        <source>Cannot find Video Devices.</source>
+        <translation>Kamera nebyla nalezena.</translation>
+    </message>
+    <message>
+        <source>Cannot find Audio Devices.</source>
+        <translation>Mikrofon nebyl nalezen.</translation>
+    </message>
+    <message>
+        <source>Cannot find Video / Audio Devices.</source>
+        <translation>Kamera ani mikrofon nebyly nalezeny.</translation>
+    </message>
+    <message>
+        <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>Kamera není dostupná. Zkontrolujte, zda je správně připojena. </translation>
+    </message>
+    <message>
+        <source>Save failed.</source>
+        <translation>Uložení se nezdařilo.</translation>
+    </message>
+    <message>
+        <source>File is loading. Please wait...</source>
+        <translation>Soubory se načítají. Čekejte prosím...</translation>
+    </message>
+    <message>
+        <source>File loaded successfully.</source>
+        <translation>Soubory byly načteny.</translation>
+    </message>
+    <message>
+        <source>Load failed.</source>
+        <translation>Načtení se nezdařilo.</translation>
+    </message>
+    <message>
+        <source>Load Directory</source>
+        <translation>Načíst složku</translation>
+    </message>
+</context>
+<context>
+    <name>LiveVideoWidget</name>
+    <message>
+        <source>LIVE</source>
+        <translation>ŽIVĚ</translation>
+    </message>
+    <message>
+        <source>The camera is being opened. Please wait...</source>
+        <translation>Kamera se spouští. Čekejte prosím...</translation>
+    </message>
+    <message>
+        <source>Not Suport</source>
+        <translation>Není podporováno</translation>
+    </message>
+    <message>
+        <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>Kamera a mikrofon nejsou dostupné. Zkontrolujte, zda jsou správně připojeny. </translation>
+    </message>
+    <message>
+        <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>Kamera není dostupná. Zkontrolujte, zda je správně připojena. </translation>
+    </message>
+    <message>
+        <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
+        <translation>Mikrofon není dostupný. Zkontrolujte, zda je správně připojen.</translation>
+    </message>
+</context>
+<context>
+    <name>TimerWidget</name>
+    <message>
+        <source>0 second to capture  </source>
+        <translation>0 s do pořízení snímku  </translation>
+    </message>
+    <message>
+        <source> second to capture</source>
+        <translation> s do pořízení snímku</translation>
+    </message>
+</context>
+<context>
+    <name>SelectDeviceDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Please select a device:</source>
+        <translation>Vyberte zařízení:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>CWaiteMsgDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Please Waite..</source>
+        <translation>Čekejte prosím..</translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation>Hotovo</translation>
+    </message>
+    <message>
+        <source>Failed.</source>
+        <translation>Nezdařilo se.</translation>
+    </message>
+    <message>
+        <source>Pasting is processed. Please wait... 
+</source>
+        <translation>Probíhá vkládání. Čekejte prosím... 
+</translation>
+    </message>
+</context>
+<context>
+    <name>SaveConfirmDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Do you want to save the Photo / Movie data?</source>
+        <translation>Chcete uložit fotky a videa?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ano</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Ne</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Zrušit</translation>
+    </message>
+</context>
+<context>
+    <name>Setting</name>
+    <message>
+        <source>Settings</source>
+        <translation>Nastavení</translation>
+    </message>
+    <message>
+        <source>AutoShooting:</source>
+        <translation>Samospoušť:</translation>
+    </message>
+    <message>
+        <source>sec</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>Continuous shooting:</source>
+        <translation>Sériové snímky:</translation>
+    </message>
+    <message>
+        <source>sheet</source>
+        <translation>ks</translation>
+    </message>
+    <message>
+        <source>Preview your photo taken:</source>
+        <translation>Potvrzovat pořízené snímky:</translation>
+    </message>
+    <message>
+        <source>Resolution:</source>
+        <translation>Rozlišení:</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Místo uložení:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Použít výchozí složku</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Použít jinou složku</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Zrušit</translation>
+    </message>
+    <message>
+        <source>Self Timer</source>
+        <translation>Samospoušť</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Sériové snímky</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>ks</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Potvrzovat pořízené snímky</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Rozlišení</translation>
+    </message>
+    <message>
+        <source>Use default location</source>
+        <translation>Použít výchozí složku</translation>
+    </message>
+    <message>
+        <source>Use other location</source>
+        <translation>Použít jinou složku</translation>
+    </message>
+    <message>
+        <source>Please specify the save location.</source>
+        <translation>Zadejte místo uložení.</translation>
+    </message>
+    <message>
+        <source>Invalid PATH is specified.</source>
+        <translation>Zadaná cesta není platná.</translation>
+    </message>
+    <message>
+        <source>SaveDirectory</source>
+        <translation>Místo uložení</translation>
+    </message>
+</context>
+<context>
+    <name>PictureListView</name>
+    <message>
+        <source>You can not select 10 or more.</source>
+        <translation>Lze vybrat nejvýše 9 položek.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureWidget</name>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <comment>spoken</comment>
+        <translation>Zvětšit</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
+        <translation>Back</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <comment>spoken</comment>
+        <translation>Zpět</translation>
+    </message>
+</context>
+<context>
+    <name>MovieWidget</name>
+    <message>
+        <source>Movie</source>
+        <translation>Video</translation>
+    </message>
+</context>
+<context>
+    <name>WebcamUtil</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>The disk free space is insufficient.
+</source>
+        <translation>Na disku není dost místa.
+</translation>
+    </message>
+    <message>
+        <source>Taking a picture is discontinued. Please secure the free space. </source>
+        <translation>Snímání bylo ukončeno. Uvolněte místo na disku. </translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,399 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="el" sourcelanguage="en">
+<context>
+    <name>CPictorelDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>Ζωντανά</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Φωτογραφία</translation>
+    </message>
+    <message>
+        <source>Continuous
+Capture</source>
+        <translation>Συνεχής
+λήψη</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Βίντεο</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Διακοπή</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>Λίστα</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ρυθμίσεις</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Έξοδος</translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation>Διατήρηση</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Επανάληψη</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Έναρξη</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Παύση</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Προβολή</translation>
+    </message>
+    <message>
+        <source>Movie /
+    Photo</source>
+        <translation>Βίντεο /
+    Φωτό</translation>
+    </message>
+    <message>
+        <source>Photo /
+    Movie</source>
+        <translation>Φωτό /
+    Βίντεο</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Πίσω</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Επικόλληση</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Φόρτωση</translation>
+    </message>
+    <message>
+        <source>Still</source>
+        <translation>Στατική εικόνα</translation>
+    </message>
+    <message>
+        <source>/</source>
+        <translation>/</translation>
+    </message>
+    <message>
+        <source>Cannot find Video Devices.</source>
+        <translation>Δεν βρέθηκε κάμερα.</translation>
+    </message>
+    <message>
+        <source>Cannot find Audio Devices.</source>
+        <translation>Δεν βρέθηκε μικρόφωνο.</translation>
+    </message>
+    <message>
+        <source>Cannot find Video / Audio Devices.</source>
+        <translation>Δεν βρέθηκε κάμερα ούτε μικρόφωνο.</translation>
+    </message>
+    <message>
+        <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>Η κάμερα δεν είναι διαθέσιμη. Ελέγξτε αν είναι σωστά συνδεδεμένη. </translation>
+    </message>
+    <message>
+        <source>Save failed.</source>
+        <translation>Η αποθήκευση απέτυχε.</translation>
+    </message>
+    <message>
+        <source>File is loading. Please wait...</source>
+        <translation>Φόρτωση αρχείων. Περιμένετε...</translation>
+    </message>
+    <message>
+        <source>File loaded successfully.</source>
+        <translation>Τα αρχεία φορτώθηκαν.</translation>
+    </message>
+    <message>
+        <source>Load failed.</source>
+        <translation>Η φόρτωση απέτυχε.</translation>
+    </message>
+    <message>
+        <source>Load Directory</source>
+        <translation>Φόρτωση φακέλου</translation>
+    </message>
+</context>
+<context>
+    <name>LiveVideoWidget</name>
+    <message>
+        <source>LIVE</source>
+        <translation>ΖΩΝΤΑΝΑ</translation>
+    </message>
+    <message>
+        <source>The camera is being opened. Please wait...</source>
+        <translation>Άνοιγμα κάμερας. Περιμένετε...</translation>
+    </message>
+    <message>
+        <source>Not Suport</source>
+        <translation>Δεν υποστηρίζεται</translation>
+    </message>
+    <message>
+        <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>Η κάμερα και το μικρόφωνο δεν είναι διαθέσιμα. Ελέγξτε αν είναι σωστά συνδεδεμένα. </translation>
+    </message>
+    <message>
+        <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>Η κάμερα δεν είναι διαθέσιμη. Ελέγξτε αν είναι σωστά συνδεδεμένη. </translation>
+    </message>
+    <message>
+        <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
+        <translation>Το μικρόφωνο δεν είναι διαθέσιμο. Ελέγξτε αν είναι σωστά συνδεδεμένο.</translation>
+    </message>
+</context>
+<context>
+    <name>TimerWidget</name>
+    <message>
+        <source>0 second to capture  </source>
+        <translation>0 δευτ. μέχρι τη λήψη  </translation>
+    </message>
+    <message>
+        <source> second to capture</source>
+        <translation> δευτ. μέχρι τη λήψη</translation>
+    </message>
+</context>
+<context>
+    <name>SelectDeviceDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Please select a device:</source>
+        <translation>Επιλέξτε συσκευή:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>CWaiteMsgDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Please Waite..</source>
+        <translation>Περιμένετε..</translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation>Ολοκληρώθηκε</translation>
+    </message>
+    <message>
+        <source>Failed.</source>
+        <translation>Απέτυχε.</translation>
+    </message>
+    <message>
+        <source>Pasting is processed. Please wait... 
+</source>
+        <translation>Γίνεται επικόλληση. Περιμένετε... 
+</translation>
+    </message>
+</context>
+<context>
+    <name>SaveConfirmDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Do you want to save the Photo / Movie data?</source>
+        <translation>Να αποθηκευτούν οι φωτογραφίες και τα βίντεο;</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ναι</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Όχι</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Άκυρο</translation>
+    </message>
+</context>
+<context>
+    <name>Setting</name>
+    <message>
+        <source>Settings</source>
+        <translation>Ρυθμίσεις</translation>
+    </message>
+    <message>
+        <source>AutoShooting:</source>
+        <translation>Χρονοδιακόπτης:</translation>
+    </message>
+    <message>
+        <source>sec</source>
+        <translation>δευτ.</translation>
+    </message>
+    <message>
+        <source>Continuous shooting:</source>
+        <translation>Συνεχής λήψη:</translation>
+    </message>
+    <message>
+        <source>sheet</source>
+        <translation>εικόνες</translation>
+    </message>
+    <message>
+        <source>Preview your photo taken:</source>
+        <translation>Επιβεβαίωση της εικόνας που λήφθηκε:</translation>
+    </message>
+    <message>
+        <source>Resolution:</source>
+        <translation>Ανάλυση:</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Θέση αποθήκευσης:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Χρήση του προεπιλεγμένου φακέλου</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Χρήση άλλου φακέλου</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Άκυρο</translation>
+    </message>
+    <message>
+        <source>Self Timer</source>
+        <translation>Χρονοδιακόπτης</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>δευτ.</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Συνεχής λήψη</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>εικόνες</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Επιβεβαίωση της εικόνας που λήφθηκε</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Ανάλυση</translation>
+    </message>
+    <message>
+        <source>Use default location</source>
+        <translation>Χρήση του προεπιλεγμένου φακέλου</translation>
+    </message>
+    <message>
+        <source>Use other location</source>
+        <translation>Χρήση άλλου φακέλου</translation>
+    </message>
+    <message>
+        <source>Please specify the save location.</source>
+        <translation>Καθορίστε τη θέση αποθήκευσης.</translation>
+    </message>
+    <message>
+        <source>Invalid PATH is specified.</source>
+        <translation>Η διαδρομή που καθορίστηκε δεν είναι έγκυρη.</translation>
+    </message>
+    <message>
+        <source>SaveDirectory</source>
+        <translation>Θέση αποθήκευσης</translation>
+    </message>
+</context>
+<context>
+    <name>PictureListView</name>
+    <message>
+        <source>You can not select 10 or more.</source>
+        <translation>Μπορείτε να επιλέξετε έως 9.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureWidget</name>
+    <message>
+        <source>Photo</source>
+        <translation>Φωτογραφία</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <comment>spoken</comment>
+        <translation>Μεγέθυνση</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
+        <translation>Back</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <comment>spoken</comment>
+        <translation>Πίσω</translation>
+    </message>
+</context>
+<context>
+    <name>MovieWidget</name>
+    <message>
+        <source>Movie</source>
+        <translation>Βίντεο</translation>
+    </message>
+</context>
+<context>
+    <name>WebcamUtil</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>The disk free space is insufficient.
+</source>
+        <translation>Ο χώρος στον δίσκο δεν επαρκεί.
+</translation>
+    </message>
+    <message>
+        <source>Taking a picture is discontinued. Please secure the free space. </source>
+        <translation>Η λήψη διακόπτεται. Ελευθερώστε χώρο. </translation>
+    </message>
+</context>
+</TS>

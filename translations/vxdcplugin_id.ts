@@ -1,0 +1,399 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="id" sourcelanguage="en">
+<context>
+    <name>CPictorelDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>Langsung</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Continuous
+Capture</source>
+        <translation>Foto
+beruntun</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Hentikan</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>Daftar</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Setelan</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Keluar</translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation>Terima</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Ulangi</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Putar</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Jeda</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Lihat</translation>
+    </message>
+    <message>
+        <source>Movie /
+    Photo</source>
+        <translation>Video /
+    Foto</translation>
+    </message>
+    <message>
+        <source>Photo /
+    Movie</source>
+        <translation>Foto /
+    Video</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Kembali</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Tempel</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Muat</translation>
+    </message>
+    <message>
+        <source>Still</source>
+        <translation>Gambar diam</translation>
+    </message>
+    <message>
+        <source>/</source>
+        <translation>/</translation>
+    </message>
+    <message>
+        <source>Cannot find Video Devices.</source>
+        <translation>Kamera tidak ditemukan.</translation>
+    </message>
+    <message>
+        <source>Cannot find Audio Devices.</source>
+        <translation>Mikrofon tidak ditemukan.</translation>
+    </message>
+    <message>
+        <source>Cannot find Video / Audio Devices.</source>
+        <translation>Kamera dan mikrofon tidak ditemukan.</translation>
+    </message>
+    <message>
+        <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>Kamera tidak tersedia. Pastikan kamera terhubung dengan benar. </translation>
+    </message>
+    <message>
+        <source>Save failed.</source>
+        <translation>Gagal menyimpan.</translation>
+    </message>
+    <message>
+        <source>File is loading. Please wait...</source>
+        <translation>Memuat file. Harap tunggu...</translation>
+    </message>
+    <message>
+        <source>File loaded successfully.</source>
+        <translation>File telah dimuat.</translation>
+    </message>
+    <message>
+        <source>Load failed.</source>
+        <translation>Gagal memuat.</translation>
+    </message>
+    <message>
+        <source>Load Directory</source>
+        <translation>Muat folder</translation>
+    </message>
+</context>
+<context>
+    <name>LiveVideoWidget</name>
+    <message>
+        <source>LIVE</source>
+        <translation>LANGSUNG</translation>
+    </message>
+    <message>
+        <source>The camera is being opened. Please wait...</source>
+        <translation>Membuka kamera. Harap tunggu...</translation>
+    </message>
+    <message>
+        <source>Not Suport</source>
+        <translation>Tidak didukung</translation>
+    </message>
+    <message>
+        <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>Kamera dan mikrofon tidak tersedia. Pastikan keduanya terhubung dengan benar. </translation>
+    </message>
+    <message>
+        <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>Kamera tidak tersedia. Pastikan kamera terhubung dengan benar. </translation>
+    </message>
+    <message>
+        <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
+        <translation>Mikrofon tidak tersedia. Pastikan mikrofon terhubung dengan benar.</translation>
+    </message>
+</context>
+<context>
+    <name>TimerWidget</name>
+    <message>
+        <source>0 second to capture  </source>
+        <translation>0 detik hingga pemotretan  </translation>
+    </message>
+    <message>
+        <source> second to capture</source>
+        <translation> detik hingga pemotretan</translation>
+    </message>
+</context>
+<context>
+    <name>SelectDeviceDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Please select a device:</source>
+        <translation>Pilih perangkat:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>CWaiteMsgDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Please Waite..</source>
+        <translation>Harap tunggu..</translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation>Selesai</translation>
+    </message>
+    <message>
+        <source>Failed.</source>
+        <translation>Gagal.</translation>
+    </message>
+    <message>
+        <source>Pasting is processed. Please wait... 
+</source>
+        <translation>Menempelkan. Harap tunggu... 
+</translation>
+    </message>
+</context>
+<context>
+    <name>SaveConfirmDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Do you want to save the Photo / Movie data?</source>
+        <translation>Simpan foto dan video?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ya</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Tidak</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Batal</translation>
+    </message>
+</context>
+<context>
+    <name>Setting</name>
+    <message>
+        <source>Settings</source>
+        <translation>Setelan</translation>
+    </message>
+    <message>
+        <source>AutoShooting:</source>
+        <translation>Pengatur waktu:</translation>
+    </message>
+    <message>
+        <source>sec</source>
+        <translation>detik</translation>
+    </message>
+    <message>
+        <source>Continuous shooting:</source>
+        <translation>Foto beruntun:</translation>
+    </message>
+    <message>
+        <source>sheet</source>
+        <translation>foto</translation>
+    </message>
+    <message>
+        <source>Preview your photo taken:</source>
+        <translation>Konfirmasi foto yang diambil:</translation>
+    </message>
+    <message>
+        <source>Resolution:</source>
+        <translation>Resolusi:</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Lokasi penyimpanan:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Gunakan folder bawaan</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Gunakan folder lain</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Batal</translation>
+    </message>
+    <message>
+        <source>Self Timer</source>
+        <translation>Pengatur waktu</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>detik</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Foto beruntun</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>foto</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Konfirmasi foto yang diambil</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Resolusi</translation>
+    </message>
+    <message>
+        <source>Use default location</source>
+        <translation>Gunakan folder bawaan</translation>
+    </message>
+    <message>
+        <source>Use other location</source>
+        <translation>Gunakan folder lain</translation>
+    </message>
+    <message>
+        <source>Please specify the save location.</source>
+        <translation>Tentukan lokasi penyimpanan.</translation>
+    </message>
+    <message>
+        <source>Invalid PATH is specified.</source>
+        <translation>Jalur yang ditentukan tidak valid.</translation>
+    </message>
+    <message>
+        <source>SaveDirectory</source>
+        <translation>Lokasi penyimpanan</translation>
+    </message>
+</context>
+<context>
+    <name>PictureListView</name>
+    <message>
+        <source>You can not select 10 or more.</source>
+        <translation>Anda dapat memilih paling banyak 9.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureWidget</name>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <comment>spoken</comment>
+        <translation>Perbesar</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
+        <translation>Back</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <comment>spoken</comment>
+        <translation>Kembali</translation>
+    </message>
+</context>
+<context>
+    <name>MovieWidget</name>
+    <message>
+        <source>Movie</source>
+        <translation>Video</translation>
+    </message>
+</context>
+<context>
+    <name>WebcamUtil</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>The disk free space is insufficient.
+</source>
+        <translation>Ruang disk tidak cukup.
+</translation>
+    </message>
+    <message>
+        <source>Taking a picture is discontinued. Please secure the free space. </source>
+        <translation>Perekaman dihentikan. Kosongkan ruang disk. </translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,399 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it" sourcelanguage="en">
+<context>
+    <name>CPictorelDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>Diretta</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Continuous
+Capture</source>
+        <translation>Scatto
+continuo</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>Elenco</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Esci</translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation>Conserva</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Rifai</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Riproduci</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Mostra</translation>
+    </message>
+    <message>
+        <source>Movie /
+    Photo</source>
+        <translation>Video /
+    Foto</translation>
+    </message>
+    <message>
+        <source>Photo /
+    Movie</source>
+        <translation>Foto /
+    Video</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Indietro</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Incolla</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Carica</translation>
+    </message>
+    <message>
+        <source>Still</source>
+        <translation>Fermo immagine</translation>
+    </message>
+    <message>
+        <source>/</source>
+        <translation>/</translation>
+    </message>
+    <message>
+        <source>Cannot find Video Devices.</source>
+        <translation>Nessuna videocamera trovata.</translation>
+    </message>
+    <message>
+        <source>Cannot find Audio Devices.</source>
+        <translation>Nessun microfono trovato.</translation>
+    </message>
+    <message>
+        <source>Cannot find Video / Audio Devices.</source>
+        <translation>Nessuna videocamera e nessun microfono trovati.</translation>
+    </message>
+    <message>
+        <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>La videocamera non è disponibile. Verificare che sia collegata correttamente. </translation>
+    </message>
+    <message>
+        <source>Save failed.</source>
+        <translation>Salvataggio non riuscito.</translation>
+    </message>
+    <message>
+        <source>File is loading. Please wait...</source>
+        <translation>Caricamento dei file in corso. Attendere...</translation>
+    </message>
+    <message>
+        <source>File loaded successfully.</source>
+        <translation>I file sono stati caricati.</translation>
+    </message>
+    <message>
+        <source>Load failed.</source>
+        <translation>Caricamento non riuscito.</translation>
+    </message>
+    <message>
+        <source>Load Directory</source>
+        <translation>Carica cartella</translation>
+    </message>
+</context>
+<context>
+    <name>LiveVideoWidget</name>
+    <message>
+        <source>LIVE</source>
+        <translation>DIRETTA</translation>
+    </message>
+    <message>
+        <source>The camera is being opened. Please wait...</source>
+        <translation>Apertura della videocamera in corso. Attendere...</translation>
+    </message>
+    <message>
+        <source>Not Suport</source>
+        <translation>Non supportato</translation>
+    </message>
+    <message>
+        <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>La videocamera e il microfono non sono disponibili. Verificare che siano collegati correttamente. </translation>
+    </message>
+    <message>
+        <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>La videocamera non è disponibile. Verificare che sia collegata correttamente. </translation>
+    </message>
+    <message>
+        <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
+        <translation>Il microfono non è disponibile. Verificare che sia collegato correttamente.</translation>
+    </message>
+</context>
+<context>
+    <name>TimerWidget</name>
+    <message>
+        <source>0 second to capture  </source>
+        <translation>0 s allo scatto  </translation>
+    </message>
+    <message>
+        <source> second to capture</source>
+        <translation> s allo scatto</translation>
+    </message>
+</context>
+<context>
+    <name>SelectDeviceDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Please select a device:</source>
+        <translation>Scegliere un dispositivo:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>CWaiteMsgDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Please Waite..</source>
+        <translation>Attendere..</translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation>Completato</translation>
+    </message>
+    <message>
+        <source>Failed.</source>
+        <translation>Non riuscito.</translation>
+    </message>
+    <message>
+        <source>Pasting is processed. Please wait... 
+</source>
+        <translation>Inserimento in corso. Attendere... 
+</translation>
+    </message>
+</context>
+<context>
+    <name>SaveConfirmDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Do you want to save the Photo / Movie data?</source>
+        <translation>Salvare le foto e i video?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Sì</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>Setting</name>
+    <message>
+        <source>Settings</source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message>
+        <source>AutoShooting:</source>
+        <translation>Autoscatto:</translation>
+    </message>
+    <message>
+        <source>sec</source>
+        <translation>secondi</translation>
+    </message>
+    <message>
+        <source>Continuous shooting:</source>
+        <translation>Scatto continuo:</translation>
+    </message>
+    <message>
+        <source>sheet</source>
+        <translation>immagini</translation>
+    </message>
+    <message>
+        <source>Preview your photo taken:</source>
+        <translation>Conferma l’immagine scattata:</translation>
+    </message>
+    <message>
+        <source>Resolution:</source>
+        <translation>Risoluzione:</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Cartella di salvataggio:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Usa la cartella predefinita</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Usa un’altra cartella</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Self Timer</source>
+        <translation>Autoscatto</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>secondi</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Scatto continuo</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>immagini</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Conferma l’immagine scattata</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Risoluzione</translation>
+    </message>
+    <message>
+        <source>Use default location</source>
+        <translation>Usa la cartella predefinita</translation>
+    </message>
+    <message>
+        <source>Use other location</source>
+        <translation>Usa un’altra cartella</translation>
+    </message>
+    <message>
+        <source>Please specify the save location.</source>
+        <translation>Specificare la cartella di salvataggio.</translation>
+    </message>
+    <message>
+        <source>Invalid PATH is specified.</source>
+        <translation>Il percorso specificato non è valido.</translation>
+    </message>
+    <message>
+        <source>SaveDirectory</source>
+        <translation>Cartella di salvataggio</translation>
+    </message>
+</context>
+<context>
+    <name>PictureListView</name>
+    <message>
+        <source>You can not select 10 or more.</source>
+        <translation>È possibile selezionare al massimo 9 elementi.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureWidget</name>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <comment>spoken</comment>
+        <translation>Ingrandisci</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
+        <translation>Back</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <comment>spoken</comment>
+        <translation>Indietro</translation>
+    </message>
+</context>
+<context>
+    <name>MovieWidget</name>
+    <message>
+        <source>Movie</source>
+        <translation>Video</translation>
+    </message>
+</context>
+<context>
+    <name>WebcamUtil</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>The disk free space is insufficient.
+</source>
+        <translation>Lo spazio su disco è insufficiente.
+</translation>
+    </message>
+    <message>
+        <source>Taking a picture is discontinued. Please secure the free space. </source>
+        <translation>La ripresa viene interrotta. Liberare spazio. </translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,399 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="nl" sourcelanguage="en">
+<context>
+    <name>CPictorelDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>Live</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Continuous
+Capture</source>
+        <translation>Serie-
+opname</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>Lijst</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Instellingen</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Afsluiten</translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation>Behouden</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Opnieuw</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Afspelen</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pauze</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Tonen</translation>
+    </message>
+    <message>
+        <source>Movie /
+    Photo</source>
+        <translation>Video /
+    Foto</translation>
+    </message>
+    <message>
+        <source>Photo /
+    Movie</source>
+        <translation>Foto /
+    Video</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Terug</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Plakken</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Laden</translation>
+    </message>
+    <message>
+        <source>Still</source>
+        <translation>Stilstaand beeld</translation>
+    </message>
+    <message>
+        <source>/</source>
+        <translation>/</translation>
+    </message>
+    <message>
+        <source>Cannot find Video Devices.</source>
+        <translation>Geen camera gevonden.</translation>
+    </message>
+    <message>
+        <source>Cannot find Audio Devices.</source>
+        <translation>Geen microfoon gevonden.</translation>
+    </message>
+    <message>
+        <source>Cannot find Video / Audio Devices.</source>
+        <translation>Geen camera en geen microfoon gevonden.</translation>
+    </message>
+    <message>
+        <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>De camera is niet beschikbaar. Controleer of deze goed is aangesloten. </translation>
+    </message>
+    <message>
+        <source>Save failed.</source>
+        <translation>Opslaan is mislukt.</translation>
+    </message>
+    <message>
+        <source>File is loading. Please wait...</source>
+        <translation>Bestanden worden geladen. Even geduld...</translation>
+    </message>
+    <message>
+        <source>File loaded successfully.</source>
+        <translation>De bestanden zijn geladen.</translation>
+    </message>
+    <message>
+        <source>Load failed.</source>
+        <translation>Laden is mislukt.</translation>
+    </message>
+    <message>
+        <source>Load Directory</source>
+        <translation>Map laden</translation>
+    </message>
+</context>
+<context>
+    <name>LiveVideoWidget</name>
+    <message>
+        <source>LIVE</source>
+        <translation>LIVE</translation>
+    </message>
+    <message>
+        <source>The camera is being opened. Please wait...</source>
+        <translation>De camera wordt geopend. Even geduld...</translation>
+    </message>
+    <message>
+        <source>Not Suport</source>
+        <translation>Niet ondersteund</translation>
+    </message>
+    <message>
+        <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>De camera en de microfoon zijn niet beschikbaar. Controleer of ze goed zijn aangesloten. </translation>
+    </message>
+    <message>
+        <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>De camera is niet beschikbaar. Controleer of deze goed is aangesloten. </translation>
+    </message>
+    <message>
+        <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
+        <translation>De microfoon is niet beschikbaar. Controleer of deze goed is aangesloten.</translation>
+    </message>
+</context>
+<context>
+    <name>TimerWidget</name>
+    <message>
+        <source>0 second to capture  </source>
+        <translation>0 s tot de opname  </translation>
+    </message>
+    <message>
+        <source> second to capture</source>
+        <translation> s tot de opname</translation>
+    </message>
+</context>
+<context>
+    <name>SelectDeviceDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Please select a device:</source>
+        <translation>Kies een apparaat:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>CWaiteMsgDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Please Waite..</source>
+        <translation>Even geduld..</translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation>Klaar</translation>
+    </message>
+    <message>
+        <source>Failed.</source>
+        <translation>Mislukt.</translation>
+    </message>
+    <message>
+        <source>Pasting is processed. Please wait... 
+</source>
+        <translation>Bezig met plakken. Even geduld... 
+</translation>
+    </message>
+</context>
+<context>
+    <name>SaveConfirmDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Do you want to save the Photo / Movie data?</source>
+        <translation>Wilt u de foto’s en video’s opslaan?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nee</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+</context>
+<context>
+    <name>Setting</name>
+    <message>
+        <source>Settings</source>
+        <translation>Instellingen</translation>
+    </message>
+    <message>
+        <source>AutoShooting:</source>
+        <translation>Zelfontspanner:</translation>
+    </message>
+    <message>
+        <source>sec</source>
+        <translation>seconden</translation>
+    </message>
+    <message>
+        <source>Continuous shooting:</source>
+        <translation>Serieopname:</translation>
+    </message>
+    <message>
+        <source>sheet</source>
+        <translation>foto’s</translation>
+    </message>
+    <message>
+        <source>Preview your photo taken:</source>
+        <translation>Gemaakte foto bevestigen:</translation>
+    </message>
+    <message>
+        <source>Resolution:</source>
+        <translation>Resolutie:</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Opslaglocatie:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Standaardmap gebruiken</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Andere map gebruiken</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Self Timer</source>
+        <translation>Zelfontspanner</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>seconden</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Serieopname</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>foto’s</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Gemaakte foto bevestigen</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Resolutie</translation>
+    </message>
+    <message>
+        <source>Use default location</source>
+        <translation>Standaardmap gebruiken</translation>
+    </message>
+    <message>
+        <source>Use other location</source>
+        <translation>Andere map gebruiken</translation>
+    </message>
+    <message>
+        <source>Please specify the save location.</source>
+        <translation>Geef een opslaglocatie op.</translation>
+    </message>
+    <message>
+        <source>Invalid PATH is specified.</source>
+        <translation>Het opgegeven pad is ongeldig.</translation>
+    </message>
+    <message>
+        <source>SaveDirectory</source>
+        <translation>Opslaglocatie</translation>
+    </message>
+</context>
+<context>
+    <name>PictureListView</name>
+    <message>
+        <source>You can not select 10 or more.</source>
+        <translation>U kunt er maximaal 9 selecteren.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureWidget</name>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <comment>spoken</comment>
+        <translation>Vergroten</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
+        <translation>Back</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <comment>spoken</comment>
+        <translation>Terug</translation>
+    </message>
+</context>
+<context>
+    <name>MovieWidget</name>
+    <message>
+        <source>Movie</source>
+        <translation>Video</translation>
+    </message>
+</context>
+<context>
+    <name>WebcamUtil</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>The disk free space is insufficient.
+</source>
+        <translation>Er is te weinig schijfruimte.
+</translation>
+    </message>
+    <message>
+        <source>Taking a picture is discontinued. Please secure the free space. </source>
+        <translation>De opname wordt gestopt. Maak schijfruimte vrij. </translation>
+    </message>
+</context>
+</TS>

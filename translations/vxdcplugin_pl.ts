@@ -1,0 +1,399 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pl" sourcelanguage="en">
+<context>
+    <name>CPictorelDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>Na żywo</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Zdjęcie</translation>
+    </message>
+    <message>
+        <source>Continuous
+Capture</source>
+        <translation>Zdjęcia
+seryjne</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Film</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>Lista</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ustawienia</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Zakończ</translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation>Zachowaj</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Powtórz</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Odtwórz</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pauza</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Pokaż</translation>
+    </message>
+    <message>
+        <source>Movie /
+    Photo</source>
+        <translation>Film /
+    Zdjęcie</translation>
+    </message>
+    <message>
+        <source>Photo /
+    Movie</source>
+        <translation>Zdjęcie /
+    Film</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Wstecz</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Wklej</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Wczytaj</translation>
+    </message>
+    <message>
+        <source>Still</source>
+        <translation>Stopklatka</translation>
+    </message>
+    <message>
+        <source>/</source>
+        <translation>/</translation>
+    </message>
+    <message>
+        <source>Cannot find Video Devices.</source>
+        <translation>Nie znaleziono kamery.</translation>
+    </message>
+    <message>
+        <source>Cannot find Audio Devices.</source>
+        <translation>Nie znaleziono mikrofonu.</translation>
+    </message>
+    <message>
+        <source>Cannot find Video / Audio Devices.</source>
+        <translation>Nie znaleziono kamery ani mikrofonu.</translation>
+    </message>
+    <message>
+        <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>Kamera jest niedostępna. Sprawdź, czy jest prawidłowo podłączona. </translation>
+    </message>
+    <message>
+        <source>Save failed.</source>
+        <translation>Nie udało się zapisać.</translation>
+    </message>
+    <message>
+        <source>File is loading. Please wait...</source>
+        <translation>Trwa wczytywanie plików. Proszę czekać...</translation>
+    </message>
+    <message>
+        <source>File loaded successfully.</source>
+        <translation>Pliki zostały wczytane.</translation>
+    </message>
+    <message>
+        <source>Load failed.</source>
+        <translation>Nie udało się wczytać.</translation>
+    </message>
+    <message>
+        <source>Load Directory</source>
+        <translation>Wczytaj folder</translation>
+    </message>
+</context>
+<context>
+    <name>LiveVideoWidget</name>
+    <message>
+        <source>LIVE</source>
+        <translation>NA ŻYWO</translation>
+    </message>
+    <message>
+        <source>The camera is being opened. Please wait...</source>
+        <translation>Trwa uruchamianie kamery. Proszę czekać...</translation>
+    </message>
+    <message>
+        <source>Not Suport</source>
+        <translation>Brak obsługi</translation>
+    </message>
+    <message>
+        <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>Kamera i mikrofon są niedostępne. Sprawdź, czy są prawidłowo podłączone. </translation>
+    </message>
+    <message>
+        <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>Kamera jest niedostępna. Sprawdź, czy jest prawidłowo podłączona. </translation>
+    </message>
+    <message>
+        <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
+        <translation>Mikrofon jest niedostępny. Sprawdź, czy jest prawidłowo podłączony.</translation>
+    </message>
+</context>
+<context>
+    <name>TimerWidget</name>
+    <message>
+        <source>0 second to capture  </source>
+        <translation>0 s do zdjęcia  </translation>
+    </message>
+    <message>
+        <source> second to capture</source>
+        <translation> s do zdjęcia</translation>
+    </message>
+</context>
+<context>
+    <name>SelectDeviceDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Please select a device:</source>
+        <translation>Wybierz urządzenie:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>CWaiteMsgDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Please Waite..</source>
+        <translation>Proszę czekać..</translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation>Gotowe</translation>
+    </message>
+    <message>
+        <source>Failed.</source>
+        <translation>Nie udało się.</translation>
+    </message>
+    <message>
+        <source>Pasting is processed. Please wait... 
+</source>
+        <translation>Trwa wklejanie. Proszę czekać... 
+</translation>
+    </message>
+</context>
+<context>
+    <name>SaveConfirmDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Do you want to save the Photo / Movie data?</source>
+        <translation>Czy zapisać zdjęcia i filmy?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Tak</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nie</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+</context>
+<context>
+    <name>Setting</name>
+    <message>
+        <source>Settings</source>
+        <translation>Ustawienia</translation>
+    </message>
+    <message>
+        <source>AutoShooting:</source>
+        <translation>Samowyzwalacz:</translation>
+    </message>
+    <message>
+        <source>sec</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>Continuous shooting:</source>
+        <translation>Zdjęcia seryjne:</translation>
+    </message>
+    <message>
+        <source>sheet</source>
+        <translation>zdj.</translation>
+    </message>
+    <message>
+        <source>Preview your photo taken:</source>
+        <translation>Potwierdzaj zrobione zdjęcia:</translation>
+    </message>
+    <message>
+        <source>Resolution:</source>
+        <translation>Rozdzielczość:</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Miejsce zapisu:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Użyj folderu domyślnego</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Użyj innego folderu</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>Self Timer</source>
+        <translation>Samowyzwalacz</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Zdjęcia seryjne</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>zdj.</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Potwierdzaj zrobione zdjęcia</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Rozdzielczość</translation>
+    </message>
+    <message>
+        <source>Use default location</source>
+        <translation>Użyj folderu domyślnego</translation>
+    </message>
+    <message>
+        <source>Use other location</source>
+        <translation>Użyj innego folderu</translation>
+    </message>
+    <message>
+        <source>Please specify the save location.</source>
+        <translation>Podaj miejsce zapisu.</translation>
+    </message>
+    <message>
+        <source>Invalid PATH is specified.</source>
+        <translation>Podana ścieżka jest nieprawidłowa.</translation>
+    </message>
+    <message>
+        <source>SaveDirectory</source>
+        <translation>Miejsce zapisu</translation>
+    </message>
+</context>
+<context>
+    <name>PictureListView</name>
+    <message>
+        <source>You can not select 10 or more.</source>
+        <translation>Można wybrać najwyżej 9 elementów.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureWidget</name>
+    <message>
+        <source>Photo</source>
+        <translation>Zdjęcie</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <comment>spoken</comment>
+        <translation>Powiększ</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
+        <translation>Back</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <comment>spoken</comment>
+        <translation>Wstecz</translation>
+    </message>
+</context>
+<context>
+    <name>MovieWidget</name>
+    <message>
+        <source>Movie</source>
+        <translation>Film</translation>
+    </message>
+</context>
+<context>
+    <name>WebcamUtil</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>The disk free space is insufficient.
+</source>
+        <translation>Na dysku jest za mało miejsca.
+</translation>
+    </message>
+    <message>
+        <source>Taking a picture is discontinued. Please secure the free space. </source>
+        <translation>Nagrywanie zostaje przerwane. Zwolnij miejsce na dysku. </translation>
+    </message>
+</context>
+</TS>

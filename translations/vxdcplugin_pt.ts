@@ -1,0 +1,399 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pt" sourcelanguage="en">
+<context>
+    <name>CPictorelDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>Em direto</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Continuous
+Capture</source>
+        <translation>Captura
+contínua</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Vídeo</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Parar</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>Lista</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Definições</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Sair</translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation>Manter</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Repetir</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Reproduzir</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Ver</translation>
+    </message>
+    <message>
+        <source>Movie /
+    Photo</source>
+        <translation>Vídeo /
+    Foto</translation>
+    </message>
+    <message>
+        <source>Photo /
+    Movie</source>
+        <translation>Foto /
+    Vídeo</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Voltar</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Colar</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Carregar</translation>
+    </message>
+    <message>
+        <source>Still</source>
+        <translation>Imagem fixa</translation>
+    </message>
+    <message>
+        <source>/</source>
+        <translation>/</translation>
+    </message>
+    <message>
+        <source>Cannot find Video Devices.</source>
+        <translation>Nenhuma câmara encontrada.</translation>
+    </message>
+    <message>
+        <source>Cannot find Audio Devices.</source>
+        <translation>Nenhum microfone encontrado.</translation>
+    </message>
+    <message>
+        <source>Cannot find Video / Audio Devices.</source>
+        <translation>Nenhuma câmara e nenhum microfone encontrados.</translation>
+    </message>
+    <message>
+        <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>A câmara não está disponível. Verifique se está bem ligada. </translation>
+    </message>
+    <message>
+        <source>Save failed.</source>
+        <translation>Não foi possível guardar.</translation>
+    </message>
+    <message>
+        <source>File is loading. Please wait...</source>
+        <translation>A carregar ficheiros. Aguarde...</translation>
+    </message>
+    <message>
+        <source>File loaded successfully.</source>
+        <translation>Os ficheiros foram carregados.</translation>
+    </message>
+    <message>
+        <source>Load failed.</source>
+        <translation>Não foi possível carregar.</translation>
+    </message>
+    <message>
+        <source>Load Directory</source>
+        <translation>Carregar pasta</translation>
+    </message>
+</context>
+<context>
+    <name>LiveVideoWidget</name>
+    <message>
+        <source>LIVE</source>
+        <translation>EM DIRETO</translation>
+    </message>
+    <message>
+        <source>The camera is being opened. Please wait...</source>
+        <translation>A abrir a câmara. Aguarde...</translation>
+    </message>
+    <message>
+        <source>Not Suport</source>
+        <translation>Não suportado</translation>
+    </message>
+    <message>
+        <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>A câmara e o microfone não estão disponíveis. Verifique se estão bem ligados. </translation>
+    </message>
+    <message>
+        <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>A câmara não está disponível. Verifique se está bem ligada. </translation>
+    </message>
+    <message>
+        <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
+        <translation>O microfone não está disponível. Verifique se está bem ligado.</translation>
+    </message>
+</context>
+<context>
+    <name>TimerWidget</name>
+    <message>
+        <source>0 second to capture  </source>
+        <translation>0 s até à captura  </translation>
+    </message>
+    <message>
+        <source> second to capture</source>
+        <translation> s até à captura</translation>
+    </message>
+</context>
+<context>
+    <name>SelectDeviceDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Please select a device:</source>
+        <translation>Selecione um dispositivo:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>CWaiteMsgDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Please Waite..</source>
+        <translation>Aguarde..</translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation>Concluído</translation>
+    </message>
+    <message>
+        <source>Failed.</source>
+        <translation>Falhou.</translation>
+    </message>
+    <message>
+        <source>Pasting is processed. Please wait... 
+</source>
+        <translation>A colar. Aguarde... 
+</translation>
+    </message>
+</context>
+<context>
+    <name>SaveConfirmDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Do you want to save the Photo / Movie data?</source>
+        <translation>Pretende guardar as fotos e os vídeos?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Sim</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Não</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>Setting</name>
+    <message>
+        <source>Settings</source>
+        <translation>Definições</translation>
+    </message>
+    <message>
+        <source>AutoShooting:</source>
+        <translation>Temporizador:</translation>
+    </message>
+    <message>
+        <source>sec</source>
+        <translation>segundos</translation>
+    </message>
+    <message>
+        <source>Continuous shooting:</source>
+        <translation>Captura contínua:</translation>
+    </message>
+    <message>
+        <source>sheet</source>
+        <translation>imagens</translation>
+    </message>
+    <message>
+        <source>Preview your photo taken:</source>
+        <translation>Confirmar a imagem captada:</translation>
+    </message>
+    <message>
+        <source>Resolution:</source>
+        <translation>Resolução:</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Pasta de destino:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Usar a pasta predefinida</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Usar outra pasta</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Self Timer</source>
+        <translation>Temporizador</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>segundos</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Captura contínua</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>imagens</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Confirmar a imagem captada</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Resolução</translation>
+    </message>
+    <message>
+        <source>Use default location</source>
+        <translation>Usar a pasta predefinida</translation>
+    </message>
+    <message>
+        <source>Use other location</source>
+        <translation>Usar outra pasta</translation>
+    </message>
+    <message>
+        <source>Please specify the save location.</source>
+        <translation>Indique a pasta de destino.</translation>
+    </message>
+    <message>
+        <source>Invalid PATH is specified.</source>
+        <translation>O caminho indicado não é válido.</translation>
+    </message>
+    <message>
+        <source>SaveDirectory</source>
+        <translation>Pasta de destino</translation>
+    </message>
+</context>
+<context>
+    <name>PictureListView</name>
+    <message>
+        <source>You can not select 10 or more.</source>
+        <translation>Só pode selecionar até 9 itens.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureWidget</name>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <comment>spoken</comment>
+        <translation>Ampliar</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
+        <translation>Back</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <comment>spoken</comment>
+        <translation>Voltar</translation>
+    </message>
+</context>
+<context>
+    <name>MovieWidget</name>
+    <message>
+        <source>Movie</source>
+        <translation>Vídeo</translation>
+    </message>
+</context>
+<context>
+    <name>WebcamUtil</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>The disk free space is insufficient.
+</source>
+        <translation>O espaço em disco é insuficiente.
+</translation>
+    </message>
+    <message>
+        <source>Taking a picture is discontinued. Please secure the free space. </source>
+        <translation>A captura foi interrompida. Liberte espaço. </translation>
+    </message>
+</context>
+</TS>

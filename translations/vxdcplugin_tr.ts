@@ -1,0 +1,399 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="tr" sourcelanguage="en">
+<context>
+    <name>CPictorelDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>Canlı</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Fotoğraf</translation>
+    </message>
+    <message>
+        <source>Continuous
+Capture</source>
+        <translation>Seri
+çekim</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Durdur</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>Liste</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ayarlar</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Çıkış</translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation>Kabul et</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Yeniden çek</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Oynat</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Duraklat</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Göster</translation>
+    </message>
+    <message>
+        <source>Movie /
+    Photo</source>
+        <translation>Video /
+    Fotoğraf</translation>
+    </message>
+    <message>
+        <source>Photo /
+    Movie</source>
+        <translation>Fotoğraf /
+    Video</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Geri</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Yapıştır</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Yükle</translation>
+    </message>
+    <message>
+        <source>Still</source>
+        <translation>Durağan görüntü</translation>
+    </message>
+    <message>
+        <source>/</source>
+        <translation>/</translation>
+    </message>
+    <message>
+        <source>Cannot find Video Devices.</source>
+        <translation>Kamera bulunamadı.</translation>
+    </message>
+    <message>
+        <source>Cannot find Audio Devices.</source>
+        <translation>Mikrofon bulunamadı.</translation>
+    </message>
+    <message>
+        <source>Cannot find Video / Audio Devices.</source>
+        <translation>Kamera ve mikrofon bulunamadı.</translation>
+    </message>
+    <message>
+        <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>Kamera kullanılamıyor. Doğru bağlandığından emin olun. </translation>
+    </message>
+    <message>
+        <source>Save failed.</source>
+        <translation>Kaydedilemedi.</translation>
+    </message>
+    <message>
+        <source>File is loading. Please wait...</source>
+        <translation>Dosyalar yükleniyor. Lütfen bekleyin...</translation>
+    </message>
+    <message>
+        <source>File loaded successfully.</source>
+        <translation>Dosyalar yüklendi.</translation>
+    </message>
+    <message>
+        <source>Load failed.</source>
+        <translation>Yüklenemedi.</translation>
+    </message>
+    <message>
+        <source>Load Directory</source>
+        <translation>Klasör yükle</translation>
+    </message>
+</context>
+<context>
+    <name>LiveVideoWidget</name>
+    <message>
+        <source>LIVE</source>
+        <translation>CANLI</translation>
+    </message>
+    <message>
+        <source>The camera is being opened. Please wait...</source>
+        <translation>Kamera açılıyor. Lütfen bekleyin...</translation>
+    </message>
+    <message>
+        <source>Not Suport</source>
+        <translation>Desteklenmiyor</translation>
+    </message>
+    <message>
+        <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>Kamera ve mikrofon kullanılamıyor. Doğru bağlandıklarından emin olun. </translation>
+    </message>
+    <message>
+        <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>Kamera kullanılamıyor. Doğru bağlandığından emin olun. </translation>
+    </message>
+    <message>
+        <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
+        <translation>Mikrofon kullanılamıyor. Doğru bağlandığından emin olun.</translation>
+    </message>
+</context>
+<context>
+    <name>TimerWidget</name>
+    <message>
+        <source>0 second to capture  </source>
+        <translation>0 saniye sonra çekilecek  </translation>
+    </message>
+    <message>
+        <source> second to capture</source>
+        <translation> saniye sonra çekilecek</translation>
+    </message>
+</context>
+<context>
+    <name>SelectDeviceDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Please select a device:</source>
+        <translation>Bir aygıt seçin:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Tamam</translation>
+    </message>
+</context>
+<context>
+    <name>CWaiteMsgDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>Please Waite..</source>
+        <translation>Lütfen bekleyin..</translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation>Tamamlandı</translation>
+    </message>
+    <message>
+        <source>Failed.</source>
+        <translation>Başarısız.</translation>
+    </message>
+    <message>
+        <source>Pasting is processed. Please wait... 
+</source>
+        <translation>Yapıştırılıyor. Lütfen bekleyin... 
+</translation>
+    </message>
+</context>
+<context>
+    <name>SaveConfirmDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Do you want to save the Photo / Movie data?</source>
+        <translation>Fotoğraflar ve videolar kaydedilsin mi?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Evet</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Hayır</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+</context>
+<context>
+    <name>Setting</name>
+    <message>
+        <source>Settings</source>
+        <translation>Ayarlar</translation>
+    </message>
+    <message>
+        <source>AutoShooting:</source>
+        <translation>Zamanlayıcı:</translation>
+    </message>
+    <message>
+        <source>sec</source>
+        <translation>saniye</translation>
+    </message>
+    <message>
+        <source>Continuous shooting:</source>
+        <translation>Seri çekim:</translation>
+    </message>
+    <message>
+        <source>sheet</source>
+        <translation>kare</translation>
+    </message>
+    <message>
+        <source>Preview your photo taken:</source>
+        <translation>Çekilen görüntüyü onayla:</translation>
+    </message>
+    <message>
+        <source>Resolution:</source>
+        <translation>Çözünürlük:</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Kayıt yeri:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Varsayılan klasörü kullan</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Başka klasör kullan</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Self Timer</source>
+        <translation>Zamanlayıcı</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>saniye</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Seri çekim</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>kare</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Çekilen görüntüyü onayla</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Çözünürlük</translation>
+    </message>
+    <message>
+        <source>Use default location</source>
+        <translation>Varsayılan klasörü kullan</translation>
+    </message>
+    <message>
+        <source>Use other location</source>
+        <translation>Başka klasör kullan</translation>
+    </message>
+    <message>
+        <source>Please specify the save location.</source>
+        <translation>Kayıt yerini belirtin.</translation>
+    </message>
+    <message>
+        <source>Invalid PATH is specified.</source>
+        <translation>Belirtilen yol geçersiz.</translation>
+    </message>
+    <message>
+        <source>SaveDirectory</source>
+        <translation>Kayıt yeri</translation>
+    </message>
+</context>
+<context>
+    <name>PictureListView</name>
+    <message>
+        <source>You can not select 10 or more.</source>
+        <translation>En çok 9 öğe seçebilirsiniz.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureWidget</name>
+    <message>
+        <source>Photo</source>
+        <translation>Fotoğraf</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <comment>spoken</comment>
+        <translation>Büyüt</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
+        <translation>Back</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <comment>spoken</comment>
+        <translation>Geri</translation>
+    </message>
+</context>
+<context>
+    <name>MovieWidget</name>
+    <message>
+        <source>Movie</source>
+        <translation>Video</translation>
+    </message>
+</context>
+<context>
+    <name>WebcamUtil</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>The disk free space is insufficient.
+</source>
+        <translation>Diskte yeterli boş yer yok.
+</translation>
+    </message>
+    <message>
+        <source>Taking a picture is discontinued. Please secure the free space. </source>
+        <translation>Çekim durduruluyor. Lütfen yer açın. </translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,399 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="vi" sourcelanguage="en">
+<context>
+    <name>CPictorelDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>Trực tiếp</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Ảnh</translation>
+    </message>
+    <message>
+        <source>Continuous
+Capture</source>
+        <translation>Chụp
+liên tục</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Dừng</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>Danh sách</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Cài đặt</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Thoát</translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation>Giữ lại</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Chụp lại</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Phát</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Tạm dừng</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Xem</translation>
+    </message>
+    <message>
+        <source>Movie /
+    Photo</source>
+        <translation>Video /
+    Ảnh</translation>
+    </message>
+    <message>
+        <source>Photo /
+    Movie</source>
+        <translation>Ảnh /
+    Video</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Quay lại</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Dán</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>Nạp</translation>
+    </message>
+    <message>
+        <source>Still</source>
+        <translation>Ảnh tĩnh</translation>
+    </message>
+    <message>
+        <source>/</source>
+        <translation>/</translation>
+    </message>
+    <message>
+        <source>Cannot find Video Devices.</source>
+        <translation>Không tìm thấy camera.</translation>
+    </message>
+    <message>
+        <source>Cannot find Audio Devices.</source>
+        <translation>Không tìm thấy micrô.</translation>
+    </message>
+    <message>
+        <source>Cannot find Video / Audio Devices.</source>
+        <translation>Không tìm thấy camera và micrô.</translation>
+    </message>
+    <message>
+        <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>Camera không sẵn dùng. Hãy kiểm tra xem camera đã được kết nối đúng chưa. </translation>
+    </message>
+    <message>
+        <source>Save failed.</source>
+        <translation>Không lưu được.</translation>
+    </message>
+    <message>
+        <source>File is loading. Please wait...</source>
+        <translation>Đang nạp tệp. Vui lòng đợi...</translation>
+    </message>
+    <message>
+        <source>File loaded successfully.</source>
+        <translation>Đã nạp xong các tệp.</translation>
+    </message>
+    <message>
+        <source>Load failed.</source>
+        <translation>Không nạp được.</translation>
+    </message>
+    <message>
+        <source>Load Directory</source>
+        <translation>Nạp thư mục</translation>
+    </message>
+</context>
+<context>
+    <name>LiveVideoWidget</name>
+    <message>
+        <source>LIVE</source>
+        <translation>TRỰC TIẾP</translation>
+    </message>
+    <message>
+        <source>The camera is being opened. Please wait...</source>
+        <translation>Đang mở camera. Vui lòng đợi...</translation>
+    </message>
+    <message>
+        <source>Not Suport</source>
+        <translation>Không được hỗ trợ</translation>
+    </message>
+    <message>
+        <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>Camera và micrô không sẵn dùng. Hãy kiểm tra xem các thiết bị đã được kết nối đúng chưa. </translation>
+    </message>
+    <message>
+        <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
+        <translation>Camera không sẵn dùng. Hãy kiểm tra xem camera đã được kết nối đúng chưa. </translation>
+    </message>
+    <message>
+        <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
+        <translation>Micrô không sẵn dùng. Hãy kiểm tra xem micrô đã được kết nối đúng chưa.</translation>
+    </message>
+</context>
+<context>
+    <name>TimerWidget</name>
+    <message>
+        <source>0 second to capture  </source>
+        <translation>0 giây nữa sẽ chụp  </translation>
+    </message>
+    <message>
+        <source> second to capture</source>
+        <translation> giây nữa sẽ chụp</translation>
+    </message>
+</context>
+<context>
+    <name>SelectDeviceDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Please select a device:</source>
+        <translation>Chọn một thiết bị:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>CWaiteMsgDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Please Waite..</source>
+        <translation>Vui lòng đợi..</translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation>Hoàn tất</translation>
+    </message>
+    <message>
+        <source>Failed.</source>
+        <translation>Không thành công.</translation>
+    </message>
+    <message>
+        <source>Pasting is processed. Please wait... 
+</source>
+        <translation>Đang dán. Vui lòng đợi... 
+</translation>
+    </message>
+</context>
+<context>
+    <name>SaveConfirmDlg</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Do you want to save the Photo / Movie data?</source>
+        <translation>Bạn có muốn lưu ảnh và video không?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Có</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Không</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Hủy</translation>
+    </message>
+</context>
+<context>
+    <name>Setting</name>
+    <message>
+        <source>Settings</source>
+        <translation>Cài đặt</translation>
+    </message>
+    <message>
+        <source>AutoShooting:</source>
+        <translation>Hẹn giờ chụp:</translation>
+    </message>
+    <message>
+        <source>sec</source>
+        <translation>giây</translation>
+    </message>
+    <message>
+        <source>Continuous shooting:</source>
+        <translation>Chụp liên tục:</translation>
+    </message>
+    <message>
+        <source>sheet</source>
+        <translation>ảnh</translation>
+    </message>
+    <message>
+        <source>Preview your photo taken:</source>
+        <translation>Xác nhận ảnh đã chụp:</translation>
+    </message>
+    <message>
+        <source>Resolution:</source>
+        <translation>Độ phân giải:</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Nơi lưu:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Dùng thư mục mặc định</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Dùng thư mục khác</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Hủy</translation>
+    </message>
+    <message>
+        <source>Self Timer</source>
+        <translation>Hẹn giờ chụp</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>giây</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Chụp liên tục</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>ảnh</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Xác nhận ảnh đã chụp</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Độ phân giải</translation>
+    </message>
+    <message>
+        <source>Use default location</source>
+        <translation>Dùng thư mục mặc định</translation>
+    </message>
+    <message>
+        <source>Use other location</source>
+        <translation>Dùng thư mục khác</translation>
+    </message>
+    <message>
+        <source>Please specify the save location.</source>
+        <translation>Hãy chỉ định nơi lưu.</translation>
+    </message>
+    <message>
+        <source>Invalid PATH is specified.</source>
+        <translation>Đường dẫn được chỉ định không hợp lệ.</translation>
+    </message>
+    <message>
+        <source>SaveDirectory</source>
+        <translation>Nơi lưu</translation>
+    </message>
+</context>
+<context>
+    <name>PictureListView</name>
+    <message>
+        <source>You can not select 10 or more.</source>
+        <translation>Chỉ có thể chọn tối đa 9 mục.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureWidget</name>
+    <message>
+        <source>Photo</source>
+        <translation>Ảnh</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <comment>spoken</comment>
+        <translation>Phóng to</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translatorcomment>Also the name of the button's bitmap: must stay as it is.</translatorcomment>
+        <translation>Back</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <comment>spoken</comment>
+        <translation>Quay lại</translation>
+    </message>
+</context>
+<context>
+    <name>MovieWidget</name>
+    <message>
+        <source>Movie</source>
+        <translation>Video</translation>
+    </message>
+</context>
+<context>
+    <name>WebcamUtil</name>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>The disk free space is insufficient.
+</source>
+        <translation>Không đủ dung lượng đĩa.
+</translation>
+    </message>
+    <message>
+        <source>Taking a picture is discontinued. Please secure the free space. </source>
+        <translation>Đang dừng ghi hình. Hãy giải phóng dung lượng đĩa. </translation>
+    </message>
+</context>
+</TS>
