@@ -8,20 +8,20 @@ namespace
 {
 
 struct SystemError {
-    int number;
     const char *english;
+    int number;
     CameraFault fault;
 };
 
 const SystemError systemErrors[] = {
-    {EBUSY, "Device or resource busy", CameraFault::Busy},
-    {EACCES, "Permission denied", CameraFault::NoPermission},
-    {EPERM, "Operation not permitted", CameraFault::NoPermission},
+    {"Device or resource busy", EBUSY, CameraFault::Busy},
+    {"Permission denied", EACCES, CameraFault::NoPermission},
+    {"Operation not permitted", EPERM, CameraFault::NoPermission},
     // A camera has no space; so the kernel says that the bus has no room for its pictures.
-    {ENOSPC, "No space left on device", CameraFault::NoBandwidth},
-    {ENODEV, "No such device", CameraFault::Unplugged},
-    {ENXIO, "No such device or address", CameraFault::Unplugged},
-    {ENOENT, "No such file or directory", CameraFault::Unplugged},
+    {"No space left on device", ENOSPC, CameraFault::NoBandwidth},
+    {"No such device", ENODEV, CameraFault::Unplugged},
+    {"No such device or address", ENXIO, CameraFault::Unplugged},
+    {"No such file or directory", ENOENT, CameraFault::Unplugged},
 };
 
 // The system's errors are told in words of the user's language.

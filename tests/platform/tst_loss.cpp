@@ -165,20 +165,20 @@ void TestLoss::tellsWhyACameraDoesNotOpen()
 void TestLoss::knowsTheFaultFromTheDriversWords()
 {
     const struct {
-        int code;
         const char *debug;
+        int code;
         CameraFault fault;
     } table[] = {
-        {GST_RESOURCE_ERROR_BUSY, nullptr, CameraFault::Busy},
-        {GST_RESOURCE_ERROR_OPEN_READ, "system error: Device or resource busy", CameraFault::Busy},
-        {GST_RESOURCE_ERROR_NOT_AUTHORIZED, nullptr, CameraFault::NoPermission},
-        {GST_RESOURCE_ERROR_OPEN_READ_WRITE, "system error: Permission denied", CameraFault::NoPermission},
-        {GST_RESOURCE_ERROR_FAILED, "STREAMON: No space left on device", CameraFault::NoBandwidth},
-        {GST_RESOURCE_ERROR_SETTINGS, "Buffer pool activation failed", CameraFault::NoBandwidth},
-        {GST_RESOURCE_ERROR_NOT_FOUND, nullptr, CameraFault::Unplugged},
-        {GST_RESOURCE_ERROR_READ, "poll error 1: No such device (19)", CameraFault::Unplugged},
-        {GST_RESOURCE_ERROR_READ, "poll error 1: Input/output error (5)", CameraFault::Failed},
-        {GST_RESOURCE_ERROR_FAILED, nullptr, CameraFault::Failed},
+        {nullptr, GST_RESOURCE_ERROR_BUSY, CameraFault::Busy},
+        {"system error: Device or resource busy", GST_RESOURCE_ERROR_OPEN_READ, CameraFault::Busy},
+        {nullptr, GST_RESOURCE_ERROR_NOT_AUTHORIZED, CameraFault::NoPermission},
+        {"system error: Permission denied", GST_RESOURCE_ERROR_OPEN_READ_WRITE, CameraFault::NoPermission},
+        {"STREAMON: No space left on device", GST_RESOURCE_ERROR_FAILED, CameraFault::NoBandwidth},
+        {"Buffer pool activation failed", GST_RESOURCE_ERROR_SETTINGS, CameraFault::NoBandwidth},
+        {nullptr, GST_RESOURCE_ERROR_NOT_FOUND, CameraFault::Unplugged},
+        {"poll error 1: No such device (19)", GST_RESOURCE_ERROR_READ, CameraFault::Unplugged},
+        {"poll error 1: Input/output error (5)", GST_RESOURCE_ERROR_READ, CameraFault::Failed},
+        {nullptr, GST_RESOURCE_ERROR_FAILED, CameraFault::Failed},
     };
     for (const auto &row : table) {
         const ErrorHandle error(g_error_new_literal(GST_RESOURCE_ERROR, row.code, ""));
