@@ -3,6 +3,7 @@
 #include "capture/livecapture.h"
 #include "capture/livevideowidget.h"
 
+#include <QGraphicsSceneMouseEvent>
 #include <QMouseEvent>
 #include <QPixmap>
 
@@ -31,8 +32,10 @@ bool LiveVideoWidget::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
     case QEvent::MouseMove:
-    case QEvent::GraphicsSceneMouseMove:
         mouseMoveEvent(static_cast<QMouseEvent *>(event));
+        return true;
+    case QEvent::GraphicsSceneMouseMove:
+        moveAsInScene(*static_cast<QGraphicsSceneMouseEvent *>(event));
         return true;
     case QEvent::MouseButtonPress:
         mousePressEvent(static_cast<QMouseEvent *>(event));
@@ -43,6 +46,13 @@ bool LiveVideoWidget::eventFilter(QObject *watched, QEvent *event)
     default:
         return QWidget::eventFilter(watched, event);
     }
+}
+
+void LiveVideoWidget::moveAsInScene(const QGraphicsSceneMouseEvent &move)
+{
+    QMouseEvent event(QEvent::MouseMove, move.pos(), move.screenPos(), move.button(), move.buttons(),
+                      move.modifiers());
+    mouseMoveEvent(&event);
 }
 
 void LiveVideoWidget::mousePressEvent(QMouseEvent *event)

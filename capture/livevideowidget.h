@@ -11,12 +11,16 @@
 
 class LiveCapture;
 class QFrame;
+class QGraphicsSceneMouseEvent;
 class QLabel;
 class QTimer;
 
 // The live picture of the camera with its "LIVE" caption: opens and closes the camera, takes photos into the
 // working folder, records movies, and zooms by a two-contact drag on the board where the camera is the
 // maker's own. What is so with all of them stands in facts().
+//
+// setResolution(), isVeltrixCam() and the series of ContinuesShot() are there because the class's interface
+// has them: the program uses none.
 //
 // SaveBmp(), Record() and RecordStop() wait for a camera or a disk. The windows live on meanwhile, and so
 // signals come and timers tick; the loss of the camera is told after them.
@@ -130,6 +134,7 @@ private:
     QString invalidDevicesText();
     void dropMovie();
     void followFacts();
+    void moveAsInScene(const QGraphicsSceneMouseEvent &move);
     void followGesture(int distance);
 
     class Waiting;

@@ -59,7 +59,8 @@ void TestTrouble::cleanup()
     QDir(QDir::home().filePath("VeltrixCamera")).removeRecursively();
 }
 
-// There is one, and its button takes it away. A second press, of a button of the main window's, would do more.
+// There is one, and its button takes it away. A second press, of a button of the main window's, would do
+// more.
 void TestTrouble::answerMessage()
 {
     QTRY_COMPARE(Program::windows(), 2);
