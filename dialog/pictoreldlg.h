@@ -24,7 +24,8 @@ class TimerWidget;
 // The main window: covers the primary screen's available area with one screen at a time (live picture, movie,
 // photo, list, series or grid) over one row of buttons, and keeps itself above the whiteboard software until
 // its first command. It owns every view and dialog of the program. Commands are the slots behind the buttons;
-// what is to be seen after each is not theirs to say but screenFor()'s.
+// what is to be seen after each is not theirs to say but screenFor()'s. Only because the class's interface
+// has them are comp(), isPutCompeate(), OnPictureList() and the blocking of signals here: nothing needs them.
 class CPictorelDlg : public QWidget, public CWindowManagement
 {
     Q_OBJECT
@@ -55,7 +56,7 @@ public:
     void saveQuietly();
 
 signals:
-    void comp(bool ret); // never emitted
+    void comp(bool ret);
     // A folder was copied in, completely or not.
     void loadcomp(bool ret);
 
@@ -83,7 +84,7 @@ public slots:
     void PutVXSMovie();
     void PutVXSPhoto();
     void OnVXS();
-    void isPutCompeate(); // does nothing
+    void isPutCompeate();
     void setMovieTime();
     void OnMovieFinished();
     void OnMovieChange();
