@@ -21,7 +21,7 @@ constexpr guint64 mostWaitingFrames = 10;
 constexpr auto closingLimit = 10s;
 
 // Room for the index and what the encoders hold; with less of it a movie is ended while it still can be.
-constexpr qint64 leastFreeBytes = 16 * 1024 * 1024;
+constexpr qint64 leastFreeBytes = qint64{16} * 1024 * 1024;
 
 // Ends the sound with the next piece of the silence under it. At any other moment the end of a movie that is
 // stopped at once might come before the sound's beginning, which would undo it.
