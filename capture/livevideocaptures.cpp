@@ -112,21 +112,31 @@ bool LiveVideoWidget::Record()
 {
     if (isBusy())
         return false;
+    const QString warning = startMovie();
+    if (facts().now().isMovieRunning())
+        return true;
+    // With both devices at hand only the file can have been refused.
+    if (warning.isEmpty())
+        WebcamUtil::ShowDiskWorningMessage(this);
+    else
+        WebcamUtil::WarningMessage(warning, this);
+    return false;
+}
+
+// Returns what is to be said of the devices when it is they that keep it from running.
+QString LiveVideoWidget::startMovie()
+{
     const Waiting waiting(this);
     const QString path = WebcamUtil::CreateMoviefilename();
     m_capture->facts.change([&path](Facts &now) { now.movie = {MovieState::None, Cause::None, path}; });
     m_capture->data.Record(path);
-    const QString warning = invalidDevicesText();
+    QString warning = invalidDevicesText();
     if (!warning.isEmpty()) {
         dropMovie();
-        WebcamUtil::WarningMessage(warning, this);
-        return false;
+        return warning;
     }
-    if (!m_capture->data.IsRecording()) {
-        // With both devices at hand only the file can have been refused.
-        WebcamUtil::ShowDiskWorningMessage(this);
-        return false;
-    }
+    if (!m_capture->data.IsRecording())
+        return {};
     m_capture->facts.change([](Facts &now) {
         now.movie.state = MovieState::Recording;
         now.sound = SoundState::There;
@@ -135,7 +145,7 @@ bool LiveVideoWidget::Record()
     // A movie of the same second is replaced, and so is its preview.
     WebcamUtil::deletetmpfile(previewPath);
     m_capture->data.SaveBitmap(previewPath);
-    return true;
+    return {};
 }
 
 // One that began before its microphone was found to be of no use.

@@ -131,6 +131,7 @@ private:
     void setUpCaption();
     void setUpOpeningNote();
     void endSeries();
+    QString startMovie();
     QString invalidDevicesText();
     void dropMovie();
     void followFacts();

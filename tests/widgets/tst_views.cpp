@@ -24,7 +24,7 @@ class TestViews : public QObject
     // A second of white.
     QString whiteMovie() const
     {
-        const QString path = m_dir.filePath("movie 1.mov");
+        QString path = m_dir.filePath("movie 1.mov");
         const QString pipeline =
             "-q videotestsrc num-buffers=30 pattern=white ! video/x-raw,width=320,height=240 "
             "! x264enc tune=zerolatency ! qtmux ! filesink location=%1";

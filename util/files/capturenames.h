@@ -5,12 +5,12 @@
 // The names of captures: "photo<stamp>.png", "movie<stamp>.mov", and beside a movie its preview picture
 // "movie<stamp>tmp.png". These operations look at names only, bare or with a path. Any thread.
 
-constexpr QLatin1String photoPrefix("photo");
-constexpr QLatin1String moviePrefix("movie");
-constexpr QLatin1String photoEnding(".png");
-constexpr QLatin1String movieEnding(".mov");
-constexpr QLatin1String temporaryMark("tmp");
-constexpr QLatin1String previewEnding("tmp.png");
+inline const QLatin1String photoPrefix("photo");
+inline const QLatin1String moviePrefix("movie");
+inline const QLatin1String photoEnding(".png");
+inline const QLatin1String movieEnding(".mov");
+inline const QLatin1String temporaryMark("tmp");
+inline const QLatin1String previewEnding("tmp.png");
 
 // The name of a movie's preview picture, and of a preview picture's movie. Every occurrence of the ending is
 // replaced.
