@@ -1,6 +1,7 @@
 #include "capture/livevideowidget.h"
 
 #include "capture/livecapture.h"
+#include "capture/livewaiting.h"
 #include "util/desktop/fonts.h"
 #include "util/webcamutil.h"
 
@@ -123,9 +124,12 @@ const CaptureFacts &LiveVideoWidget::facts() const
 
 void LiveVideoWidget::Create()
 {
-    if (m_capture->data.created)
+    if (m_capture->data.created || isBusy())
         return;
-    m_capture->data.Create();
+    {
+        const Waiting waiting(this);
+        m_capture->data.Create();
+    }
     if (!m_capture->data.supported) {
         WebcamUtil::CriticalMessage(tr("Not Suport"), this);
         return;
@@ -168,6 +172,7 @@ void LiveVideoWidget::Stop()
 
 void LiveVideoWidget::Release()
 {
+    const Waiting waiting(this);
     if (m_capture->data.created)
         m_capture->data.Release();
     endSeries();

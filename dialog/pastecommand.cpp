@@ -2,6 +2,7 @@
 
 #include "dialog/pictoreldlg.h"
 
+#include "util/files/diskanswer.h"
 #include "util/files/stamps.h"
 #include "util/files/wholefile.h"
 #include "util/webcamutil.h"
@@ -10,6 +11,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QLoggingCategory>
 #include <QTextStream>
 
 namespace
@@ -19,6 +21,8 @@ const char *const photoRequest = "0";
 const char *const movieRequest = "1";
 // Stands where photos have the size of the area in which they were shown.
 const char *const noSize = "XXX";
+
+Q_LOGGING_CATEGORY(pasteLog, "orvane.paste")
 
 constexpr mode_t requestMode = 0666; // less the umask, as files usually are
 
@@ -30,23 +34,29 @@ void appendName(QStringList &lines, const QString &name)
 }
 
 // The software that looks for requests never finds a half one. One of the same second is replaced.
-void writeRequest(const QStringList &lines)
+bool writeInto(const QString &folder, const QStringList &lines)
 {
-    const QString working = WebcamUtil::existingTemporaryPath();
-    const QString folder = working + "/tmp";
-    if (working.isEmpty() || !QDir().mkpath(folder))
-        return;
+    if (!QDir().mkpath(folder))
+        return false;
     WholeFile request(folder + "/PUTVXS" + CurrentSecondsQString(), requestMode);
     QFile file;
     if (!file.open(request.descriptor(), QIODevice::WriteOnly | QIODevice::Text))
-        return;
+        return false;
     QTextStream stream(&file);
     stream.setCodec("UTF-8");
     for (const QString &line : lines)
         stream << line << '\n';
     stream.flush();
-    if (stream.status() == QTextStream::Ok && file.flush())
-        request.publishReplacing();
+    return stream.status() == QTextStream::Ok && file.flush() && request.publishReplacing();
+}
+
+void writeRequest(const QStringList &lines)
+{
+    const QString working = WebcamUtil::existingTemporaryPath();
+    const QString folder = working + "/tmp";
+    const auto write = [folder, lines] { return writeInto(folder, lines); };
+    if (working.isEmpty() || !askDisk("Writing a request", folder, false, write))
+        qCWarning(pasteLog, "A request could not be written into %s.", qUtf8Printable(folder));
 }
 
 } // namespace

@@ -18,10 +18,16 @@ namespace
 {
 // Time enough for the first picture to be on screen.
 constexpr int firstPictureMilliseconds = 100;
+
+// A movie loads in less. One that comes right after one that cannot be played is stopped now and then by the
+// end of that, and is loaded again; how often is for those that can never be played.
+constexpr int loadingMilliseconds = 700;
+constexpr int mostLoads = 3;
 } // namespace
 
 MovieWidget::MovieWidget(QWidget *parent)
-    : Phonon::VideoPlayer(parent), m_caption(new QLabel(tr("Movie"), this)), m_firstPicture(new QTimer(this))
+    : Phonon::VideoPlayer(parent), m_caption(new QLabel(tr("Movie"), this)), m_firstPicture(new QTimer(this)),
+      m_loading(new QTimer(this))
 {
     QPalette colours = palette();
     colours.setColor(QPalette::Window, Qt::black);
@@ -36,6 +42,9 @@ MovieWidget::MovieWidget(QWidget *parent)
     m_firstPicture->setSingleShot(true);
     m_firstPicture->setInterval(firstPictureMilliseconds);
     connect(m_firstPicture, &QTimer::timeout, this, &MovieWidget::disp);
+    m_loading->setSingleShot(true);
+    m_loading->setInterval(loadingMilliseconds);
+    connect(m_loading, &QTimer::timeout, this, &MovieWidget::loadAgain);
 }
 
 bool MovieWidget::Create(const QString &path)
@@ -43,9 +52,29 @@ bool MovieWidget::Create(const QString &path)
     if (!m_created)
         setUpPlayer();
     forgetWish();
-    load(Phonon::MediaSource(QUrl::fromLocalFile(path)));
     m_created = true;
+    m_path = path;
+    m_loads = 0;
+    loadMovie();
     return true;
+}
+
+void MovieWidget::loadMovie()
+{
+    ++m_loads;
+    load(Phonon::MediaSource(QUrl::fromLocalFile(m_path)));
+    m_loading->start();
+}
+
+void MovieWidget::loadAgain()
+{
+    if (totalTime() > 0 || isPlaying() || m_loads >= mostLoads)
+        return;
+    loadMovie();
+    if (m_isPlayWanted)
+        play();
+    else if (isVisible())
+        showFirstPicture();
 }
 
 // Not before there is a movie: the first word with the player loads all of its machinery, which would take a
@@ -117,10 +146,16 @@ void MovieWidget::showEvent(QShowEvent *event)
     Phonon::VideoPlayer::showEvent(event);
     if (event->spontaneous()) // the window comes back from its icon: what plays goes on
         return;
+    showFirstPicture();
+}
+
+void MovieWidget::showFirstPicture()
+{
     forgetWish();
     m_firstPicture->start();
     play();
 }
+
 void MovieWidget::prepare()
 {
     backgroundPool()->start(preloadPlayer);

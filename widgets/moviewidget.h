@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 #include <phonon/VideoPlayer>
 
 class QLabel;
@@ -43,11 +45,17 @@ protected:
 
 private:
     void setUpPlayer();
+    void loadMovie();
+    void loadAgain();
+    void showFirstPicture();
     void followWish();
     void forgetWish();
 
     QLabel *m_caption;
     QTimer *m_firstPicture; // runs from showing the movie until it is held
+    QTimer *m_loading;      // until it is looked whether the player has loaded the movie
+    int m_loads = 0;        // of this movie
+    QString m_path;
     bool m_created = false;
     bool m_isPlayWanted = false;
 };

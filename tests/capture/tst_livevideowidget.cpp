@@ -18,7 +18,6 @@ private slots:
     void takesAPhotoIntoTheWorkingFolder();
     void recordsWithAPreview();
     void warnsOfDevicesThatAreMissing();
-    void takesASeriesOfItsOwn();
     void zoomsByClearSteps();
 
 private:
@@ -61,7 +60,6 @@ void TestLiveVideoWidget::livesWithoutACamera()
     QVERIFY(m_view->isAudioValid());
     QCOMPARE(m_view->SaveBmp(), QString());
     QCOMPARE(m_view->getNativeSize(), QSize(0, 0));
-    m_view->setResolution("640");
     m_view->Release();
 }
 
@@ -134,25 +132,6 @@ void TestLiveVideoWidget::warnsOfDevicesThatAreMissing()
         QCOMPARE(workingFiles().filter("movie"), QStringList());
         m_view->Release();
     }
-}
-
-void TestLiveVideoWidget::takesASeriesOfItsOwn()
-{
-    // Its pictures go by bare name, into the current folder.
-    const QTemporaryDir folder;
-    const QString before = QDir::currentPath();
-    QDir::setCurrent(folder.path());
-    QSignalSpy complete(m_view.get(), &LiveVideoWidget::ShotMax);
-    m_view->Create();
-    m_view->Start();
-    m_view->ContinuesShot(3);
-    m_view->Stop();
-    m_view->Start();
-    m_view->ContinuesShot(0);
-    QVERIFY(!complete.wait(4500));
-    QVERIFY(complete.wait(1500));
-    QCOMPARE(QDir().entryList({"photo*.png"}).size(), 1);
-    QDir::setCurrent(before);
 }
 
 void TestLiveVideoWidget::zoomsByClearSteps()

@@ -35,7 +35,6 @@ private slots:
     void knowsAMicrophoneThatDoesNotOpen();
     void givesUpADiskThatHangs();
     void showsWhatZoomShows();
-    void waitsWithANewResolution();
     void playsAfterTheProgramWasKilled();
     void endsOnAFullDisk();
     void isFinishedWhenTheCameraIsClosed();
@@ -290,26 +289,6 @@ void TestMovie::showsWhatZoomShows()
     for (int i = 0; i < 6; ++i)
         camera.capture.ZoomOut();
     QTRY_VERIFY(!isWhite(camera.screen()) && camera.screen().pixelColor(3, 3).red() > 150);
-}
-
-void TestMovie::waitsWithANewResolution()
-{
-    TestDevices devices;
-    devices.camera("cam").formats("JPEG 320x240 30;YUY2 640x480 30");
-    devices.microphone("mic");
-    devices.write();
-    CameraWindow camera;
-    QVERIFY(camera.start());
-    QCOMPARE(camera.capture.GetResoList(), QStringList({"320x240", "640x480"}));
-    camera.capture.SetResolution(1024, 768);
-    camera.capture.Record(path());
-    camera.capture.SetResolution(320, 240);
-    QTest::qWait(500);
-    QCOMPARE(camera.capture.nativeWidth, 640);
-    camera.capture.RecordStop();
-    QCOMPARE(camera.capture.nativeWidth, 320);
-    QTRY_VERIFY(camera.capture.IsValidVideoDevice());
-    QVERIFY(readMovie(path()).frames.size() > 10);
 }
 
 void TestMovie::playsAfterTheProgramWasKilled()
