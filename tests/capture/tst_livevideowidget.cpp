@@ -18,6 +18,7 @@ private slots:
     void takesAPhotoIntoTheWorkingFolder();
     void recordsWithAPreview();
     void warnsOfDevicesThatAreMissing();
+    void factsFollowTheCamera();
     void zoomsByClearSteps();
 
 private:
@@ -132,6 +133,41 @@ void TestLiveVideoWidget::warnsOfDevicesThatAreMissing()
         QCOMPARE(workingFiles().filter("movie"), QStringList());
         m_view->Release();
     }
+}
+
+void TestLiveVideoWidget::factsFollowTheCamera()
+{
+    QVERIFY(m_view->isVideoValid()); // nobody has looked yet
+    QSignalSpy lost(m_view.get(), &LiveVideoWidget::disconnectDevice);
+    const Facts &now = m_view->facts().now();
+    const struct {
+        const char *fault;
+        Cause why;
+    } table[] = {{"busy", Cause::Refused}, {"no-bandwidth", Cause::Refused}, {"", Cause::Unplugged}};
+    for (const auto &row : table) {
+        m_devices->setFault("cam", row.fault);
+        m_view->Create();
+        m_view->Start();
+        QVERIFY(now.camera.state == CameraState::Opening && m_view->isVideoValid());
+        if (row.why == Cause::Unplugged) {
+            QTRY_COMPARE(now.camera.state, CameraState::Live);
+            QVERIFY(!m_view->SaveBmp().isEmpty());
+            QVERIFY(now.photo.state == PhotoState::Done && !now.isHeldUp);
+            m_devices->pull("cam");
+        }
+        QVERIFY(lost.wait(5000));
+        QVERIFY(now.camera.state == CameraState::Lost && now.camera.why == row.why &&
+                !m_view->isVideoValid());
+        QCOMPARE(m_view->SaveBmp(), QString());
+        QVERIFY(now.photo.state == PhotoState::Failed && now.photo.why == Cause::Camera);
+        m_view->Release();
+        QCOMPARE(now.camera.state, CameraState::Lost);
+    }
+    QTRY_COMPARE(m_view->getVideoDeviceList().size(), 0);
+    m_view->lookForCamera();
+    QVERIFY(!now.canReopen);
+    m_devices->plug("cam");
+    QTRY_VERIFY(now.canReopen);
 }
 
 void TestLiveVideoWidget::zoomsByClearSteps()
