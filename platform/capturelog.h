@@ -6,7 +6,7 @@
 
 // What went wrong, one line a failure, for whoever is asked why there is no picture or no movie:
 // "orvane.camera" and so on.
-Q_DECLARE_LOGGING_CATEGORY(cameraLog)
+Q_DECLARE_LOGGING_CATEGORY(cameraLog) // photos too
 Q_DECLARE_LOGGING_CATEGORY(movieLog)
 Q_DECLARE_LOGGING_CATEGORY(soundLog)
 Q_DECLARE_LOGGING_CATEGORY(deviceLog)

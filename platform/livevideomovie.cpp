@@ -1,5 +1,6 @@
 // The movies of a LiveVideoData.
 
+#include "platform/capturelog.h"
 #include "platform/livevideodata.h"
 #include "platform/movierecorder.h"
 #include "util/files/alivewait.h"
@@ -62,6 +63,9 @@ void LiveVideoData::startMovie(const QString &path)
         m_movieMicrophone = microphone->device;
         return;
     }
+    if (!isStarted)
+        qCWarning(movieLog).noquote().nospace()
+            << path << ": The movie is given up, since the disk has not opened its file within five seconds.";
     m_grabThread->setSink(nullptr);
     movie->discard();
 }

@@ -1,5 +1,6 @@
 // The photos of a LiveVideoData.
 
+#include "platform/capturelog.h"
 #include "platform/livevideodata.h"
 #include "platform/stillpicture.h"
 #include "util/files/alivewait.h"
@@ -47,6 +48,8 @@ PhotoFault LiveVideoData::savePhoto(const QString &path)
             m_listener->photoIsTaken(picture);
         return hasResult;
     };
-    static_cast<void>(waitAlive(isThrough, diskWait));
+    if (!waitAlive(isThrough, diskWait))
+        qCWarning(cameraLog).noquote().nospace()
+            << path << ": The photo is given up, since the disk has not answered for ten seconds.";
     return still->giveUp();
 }

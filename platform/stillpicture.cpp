@@ -1,5 +1,6 @@
 #include "platform/stillpicture.h"
 
+#include "platform/capturelog.h"
 #include "platform/frameconverter.h"
 #include "platform/jpegcheck.h"
 #include "util/files/largebytes.h"
@@ -117,7 +118,11 @@ void StillPicture::offer(const QImage &picture)
 
 PhotoFault StillPicture::write(const QImage &picture)
 {
-    switch (writePhoto(m_order.path, picture)) {
+    const int error = writePhoto(m_order.path, picture);
+    if (error != 0)
+        qCWarning(cameraLog).noquote().nospace()
+            << m_order.path << ": The photo cannot be written: " << qt_error_string(error) << '.';
+    switch (error) {
     case 0:
         return PhotoFault::None;
     case ENOSPC:
