@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QEventLoop>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -92,13 +93,16 @@ double timeOfLoading(const QString &from, const QString &to)
     emptyFolder(to);
     settle();
     const bool isOfMovies = !QDir(from).entryList({"movie*"}).isEmpty();
-    FolderCopy copy(isOfMovies ? FolderCopy::Kind::Movies : FolderCopy::Kind::Photos, from, to);
-    const double seconds = secondsOf([&copy] {
-        copy.start();
-        copy.wait();
+    const double seconds = secondsOf([&] {
+        FolderCopy copy(isOfMovies ? FolderCopy::Kind::Movies : FolderCopy::Kind::Photos, from, to);
+        QEventLoop loop;
+        QObject::connect(&copy, &FolderCopy::finished, &loop, [&loop](bool isComplete) {
+            if (!isComplete)
+                qFatal("the captures were not loaded");
+            loop.quit();
+        });
+        loop.exec();
     });
-    if (!copy.isComplete())
-        qFatal("the captures were not loaded");
     emptyFolder(to);
     settle();
     return seconds;

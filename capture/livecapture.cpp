@@ -27,6 +27,7 @@ Cause causeOf(PhotoFault fault)
     case PhotoFault::NoPicture:
         return Cause::Camera;
     case PhotoFault::DiskFull:
+    case PhotoFault::DiskHangs:
         return Cause::Disk;
     default:
         return Cause::Failure;
@@ -74,7 +75,9 @@ void LiveCapture::photoIsTaken(const QImage &picture)
 
 void LiveCapture::devicesChanged()
 {
-    const bool canReopen = data.canReopen();
+    // Where parts of the program are missing, every attempt would say so again.
+    const bool isUsable = data.supported || facts.now().camera.state == CameraState::Unknown;
+    const bool canReopen = isUsable && data.canReopen();
     if (canReopen != facts.now().canReopen)
         facts.change([canReopen](Facts &now) { now.canReopen = canReopen; });
 }

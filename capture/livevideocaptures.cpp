@@ -6,6 +6,7 @@
 #include "capture/livewaiting.h"
 #include "util/webcamutil.h"
 
+#include <QFileInfo>
 #include <QTimer>
 
 namespace
@@ -24,26 +25,42 @@ QString LiveVideoWidget::SaveBmp()
 {
     if (isBusy())
         return {};
-    if (!m_capture->data.created) {
-        m_capture->facts.change([](Facts &now) { now.photo = {PhotoState::Failed, Cause::Camera, {}, {}}; });
+    const Waiting waiting(this);
+    const QString folder = WebcamUtil::getTemporaryPath();
+    if (!m_capture->data.created || folder.isEmpty()) {
+        const Cause why = folder.isEmpty() ? Cause::Disk : Cause::Camera;
+        m_capture->facts.change([why](Facts &now) { now.photo = {PhotoState::Failed, why, {}, {}}; });
         return {};
     }
-    const Waiting waiting(this);
     const QString name = WebcamUtil::CreatePhotofilename();
     m_capture->facts.change([&name](Facts &now) {
         now.photo = {PhotoState::Pending, Cause::None, name, {}};
     });
-    const bool isSaved = m_capture->data.SaveBitmap(WebcamUtil::getTemporaryPath() + QLatin1Char('/') + name);
+    const bool isSaved = m_capture->data.SaveBitmap(folder + QLatin1Char('/') + name);
     const Cause why = isSaved ? Cause::None : causeOf(m_capture->data.lastPhotoFault());
     m_capture->facts.change([&](Facts &now) {
-        now.photo = {isSaved ? PhotoState::Done : PhotoState::Failed, why, isSaved ? name : QString(), {}};
+        now.photo.state = isSaved ? PhotoState::Done : PhotoState::Failed;
+        now.photo.why = why;
+        if (!isSaved)
+            now.photo.name.clear();
         now.hasRoom = now.hasRoom && why != Cause::Disk;
     });
-    return isSaved ? name : QString();
+    return facts().now().photo.name;
+}
+
+void LiveVideoWidget::forgetPhoto()
+{
+    m_capture->facts.change([](Facts &now) { now.photo = {}; });
+}
+
+void LiveVideoWidget::forgetPicture()
+{
+    m_capture->facts.change([](Facts &now) { now.photo.picture = QImage(); });
 }
 
 bool LiveVideoWidget::hasRoom()
 {
+    const Waiting waiting(this);
     const bool hasRoom = WebcamUtil::chkdiskFreeSpace();
     m_capture->facts.change([hasRoom](Facts &now) { now.hasRoom = hasRoom; });
     return hasRoom;
@@ -73,49 +90,54 @@ bool LiveVideoWidget::Record()
 {
     if (isBusy())
         return false;
-    const QString warning = startMovie();
-    if (facts().now().isMovieRunning())
-        return true;
-    // With both devices at hand only the file can have been refused.
-    if (warning.isEmpty())
-        WebcamUtil::ShowDiskWorningMessage(this);
-    else
+    QString warning;
+    const Cause refusal = startMovie(&warning);
+    if (refusal == Cause::Refused)
         WebcamUtil::WarningMessage(warning, this);
-    return false;
+    else if (refusal == Cause::Disk)
+        WebcamUtil::ShowDiskWorningMessage(this);
+    return refusal == Cause::None;
 }
 
-// Returns what is to be said of the devices when it is they that keep it from running.
-QString LiveVideoWidget::startMovie()
+// Why it does not run: refused by the devices, with what is to be said of them, or by the disk. A camera that
+// is lost meanwhile is told as such, and only once.
+Cause LiveVideoWidget::startMovie(QString *warning)
 {
     const Waiting waiting(this);
     const QString path = WebcamUtil::CreateMoviefilename();
     m_capture->facts.change([&path](Facts &now) { now.movie = {MovieState::None, Cause::None, path}; });
     m_capture->data.Record(path);
-    QString warning = invalidDevicesText();
-    if (!warning.isEmpty()) {
-        dropMovie();
-        return warning;
+    *warning = invalidDevicesText();
+    const Cause refusal = refusalOfMovie(*warning);
+    if (refusal != Cause::None) {
+        m_capture->data.RecordStop();
+        WebcamUtil::deletetmpfile(path);
+        return refusal;
     }
-    if (!m_capture->data.IsRecording())
-        return {};
     m_capture->facts.change([](Facts &now) {
         now.movie.state = MovieState::Recording;
         now.sound = SoundState::There;
     });
-    const QString previewPath = WebcamUtil::previewName(path);
     // A movie of the same second is replaced, and so is its preview.
-    WebcamUtil::deletetmpfile(previewPath);
-    m_capture->data.SaveBitmap(previewPath);
-    return {};
+    WebcamUtil::deletetmpfile(WebcamUtil::previewName(path));
+    savePreview();
+    return Cause::None;
 }
 
-// One that began before its microphone was found to be of no use.
-void LiveVideoWidget::dropMovie()
+Cause LiveVideoWidget::refusalOfMovie(const QString &warning) const
 {
-    if (!m_capture->data.IsRecording())
-        return;
-    m_capture->data.RecordStop();
-    WebcamUtil::deletetmpfile(moviePath());
+    if (m_isLossToTell)
+        return Cause::Camera;
+    if (!warning.isEmpty())
+        return Cause::Refused;
+    // With both devices at hand only the file can have been refused.
+    return m_capture->data.IsRecording() ? Cause::None : Cause::Disk;
+}
+
+// Without it no list shows the movie.
+void LiveVideoWidget::savePreview()
+{
+    m_hasPreview = m_capture->data.SaveBitmap(WebcamUtil::previewName(moviePath()));
 }
 
 QString LiveVideoWidget::invalidAudioText()
@@ -143,14 +165,33 @@ QString LiveVideoWidget::invalidDevicesText()
 
 void LiveVideoWidget::RecordStop()
 {
+    if (isBusy())
+        return;
     const Waiting waiting(this);
+    if (!m_hasPreview)
+        savePreview();
     m_capture->data.RecordStop();
+    noteEndOfMovie();
+}
+
+void LiveVideoWidget::noteEndOfMovie()
+{
     const bool isFinishing = isFinishingMovie();
     const bool hadHole = m_capture->data.hadSoundHole();
     m_capture->facts.change([=](Facts &now) {
         now.movie.state = isFinishing ? MovieState::Finishing : MovieState::None;
         now.sound = hadHole ? SoundState::LostInMovie : SoundState::There;
     });
+}
+
+QStringList LiveVideoWidget::unfinishedMovies() const
+{
+    QStringList names;
+    for (const QString &path : m_capture->data.unfinishedMovies()) {
+        const QString name = QFileInfo(path).fileName();
+        names << name << WebcamUtil::previewName(name);
+    }
+    return names;
 }
 
 QString LiveVideoWidget::moviePath() const

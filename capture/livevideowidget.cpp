@@ -2,6 +2,7 @@
 
 #include "capture/livecapture.h"
 #include "capture/livewaiting.h"
+#include "platform/playerplugins.h"
 #include "util/desktop/fonts.h"
 #include "util/webcamutil.h"
 
@@ -13,7 +14,7 @@
 #include <QTimer>
 
 #include <chrono>
-#include <utility>
+#include <thread>
 
 namespace
 {
@@ -38,6 +39,11 @@ QPalette blackWithGreenText(const QPalette &base)
 void LiveVideoWidget::prepare()
 {
     LiveVideoData::prepare();
+}
+
+void LiveVideoWidget::preparePlayer()
+{
+    std::thread(loadPlayerPlugins).detach();
 }
 
 LiveVideoWidget::LiveVideoWidget(QWidget *parent, Qt::WindowFlags flags)
@@ -176,12 +182,11 @@ void LiveVideoWidget::Release()
     if (m_capture->data.created)
         m_capture->data.Release();
     endSeries();
-    const bool isFinishing = isFinishingMovie();
-    m_capture->facts.change([isFinishing](Facts &now) {
+    if (facts().now().isMovieRunning())
+        noteEndOfMovie();
+    m_capture->facts.change([](Facts &now) {
         if (now.hasCamera())
             now.camera = {CameraState::None, Cause::None};
-        if (now.isMovieRunning())
-            now.movie.state = isFinishing ? MovieState::Finishing : MovieState::None;
     });
 }
 

@@ -22,8 +22,8 @@ class QTimer;
 // setResolution(), isVeltrixCam() and the series of ContinuesShot() are there because the class's interface
 // has them: the program uses none.
 //
-// SaveBmp(), Record() and RecordStop() wait for a camera or a disk. The windows live on meanwhile, and so
-// signals come and timers tick; the loss of the camera is told after them.
+// What takes, records, opens, closes or measures waits for a camera or a disk. The windows live on meanwhile,
+// and so signals come and timers tick; the loss of the camera is told afterwards.
 class LiveVideoWidget : public QWidget, public IDriverEventListener
 {
     Q_OBJECT
@@ -31,6 +31,9 @@ class LiveVideoWidget : public QWidget, public IDriverEventListener
 public:
     // Begins in the background to load what cameras need, for a view that is made a little later.
     static void prepare();
+    // Loads in the background what the player of a recorded movie takes, so that the first one begins at
+    // once.
+    static void preparePlayer();
 
     // Opens no camera.
     explicit LiveVideoWidget(QWidget *parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags());
@@ -71,6 +74,10 @@ public:
 
     // Says that SaveBmp() is about to be called: the photo is pending from now on.
     void announcePhoto();
+    // Drops the taken picture from the facts, which keep it until somebody has shown it; or all about the
+    // photo.
+    void forgetPicture();
+    void forgetPhoto();
     // Saves a photo in the working folder, and answers when the file is whole. Its bare file name; empty when
     // it could not be saved, and why in facts(). A camera that is still opening is waited for.
     QString SaveBmp();
@@ -84,6 +91,8 @@ public:
     void RecordStop();
     // Whether the file of a movie that was stopped is not yet whole.
     bool isFinishingMovie();
+    // The bare names of movies that are not whole, and of their previews.
+    QStringList unfinishedMovies() const;
     // Full path of the latest movie; empty before the first.
     QString moviePath() const;
 
@@ -131,9 +140,11 @@ private:
     void setUpCaption();
     void setUpOpeningNote();
     void endSeries();
-    QString startMovie();
+    Cause startMovie(QString *warning);
+    Cause refusalOfMovie(const QString &warning) const;
+    void savePreview();
+    void noteEndOfMovie();
     QString invalidDevicesText();
-    void dropMovie();
     void followFacts();
     void moveAsInScene(const QGraphicsSceneMouseEvent &move);
     void followGesture(int distance);
@@ -143,6 +154,7 @@ private:
     const std::unique_ptr<LiveCapture> m_capture;
     int m_busy = 0;
     bool m_isLossToTell = false; // held back while something waits
+    bool m_hasPreview = false;   // the movie
     QLabel *m_liveCaption = nullptr;
     QLabel *m_openingNote = nullptr; // of a camera that takes its time
     QTimer *m_openingTimer = nullptr;

@@ -22,7 +22,8 @@ public:
     ~Waiting()
     {
         --m_view->m_busy;
-        if (m_view->facts().now().isHeldUp)
+        // Whoever left alone what changed during the wait looks now.
+        if (!m_view->isBusy())
             setHeldUp(m_view, false);
         if (!m_view->isBusy() && std::exchange(m_view->m_isLossToTell, false))
             QMetaObject::invokeMethod(m_view, &LiveVideoWidget::disconnectDevice, Qt::QueuedConnection);

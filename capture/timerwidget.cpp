@@ -1,5 +1,7 @@
 #include "capture/timerwidget.h"
 
+#include "platform/movielimits.h"
+
 #include "util/desktop/fonts.h"
 #include "util/files/timetext.h"
 
@@ -8,6 +10,8 @@
 #include <QTimer>
 
 static constexpr int tickMilliseconds = 1000;
+
+const int TimerWidget::recordingLimit = longestRecordingSeconds;
 
 TimerWidget::TimerWidget(QWidget *parent, Qt::WindowFlags flags)
     : QLabel(parent, flags), m_ticker(new QTimer(this))

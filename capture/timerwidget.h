@@ -21,7 +21,7 @@ class TimerWidget : public QLabel
 
 public:
     // A recording ends after this many seconds.
-    static constexpr int recordingLimit = 600;
+    static const int recordingLimit;
 
     explicit TimerWidget(QWidget *parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags());
 

@@ -46,12 +46,20 @@ void CPictorelDlg::OnPhoto()
     m_pictureView->Release();
     m_liveView->announcePhoto();
     TransitionMode(DisplayMode::Photo);
-    m_currentPhoto.clear();
-    m_currentPhoto = m_liveView->SaveBmp();
     m_isMovieShown = false;
-    if (m_currentPhoto.isEmpty())
-        tellOfFailedPhoto();
+    takePhoto();
     refreshScreen();
+}
+
+// False, after it was told, when it could not be saved.
+bool CPictorelDlg::takePhoto()
+{
+    const bool isSaved = !m_liveView->SaveBmp().isEmpty();
+    showTakenPicture();
+    m_liveView->forgetPicture();
+    if (!isSaved)
+        tellOfFailedPhoto();
+    return isSaved;
 }
 
 // The photo as it was taken, while its file is still being written.
@@ -68,6 +76,7 @@ void CPictorelDlg::showTakenPicture()
 // The picture stays empty. A camera that was lost is told as such.
 void CPictorelDlg::tellOfFailedPhoto()
 {
+    m_timerView->Stop();
     m_pictureView->Release();
     const Facts now = facts();
     if (now.photo.why == Cause::Disk)
@@ -78,9 +87,10 @@ void CPictorelDlg::tellOfFailedPhoto()
 
 void CPictorelDlg::OnRetake()
 {
-    if (!m_currentPhoto.isEmpty())
-        WebcamUtil::deletetmpfile(WebcamUtil::getTemporaryPath() + "/" + m_currentPhoto);
-    m_currentPhoto.clear();
+    const QString photo = facts().photo.name;
+    m_liveView->forgetPhoto();
+    if (!photo.isEmpty())
+        WebcamUtil::deletetmpfile(WebcamUtil::getTemporaryPath() + "/" + photo);
     m_isMovieShown = false;
     OnLive();
 }
@@ -91,7 +101,7 @@ void CPictorelDlg::OnAply()
         m_movieView->Release();
     TransitionMode(DisplayMode::Photo, Variant::Accepted);
     // The viewer keeps what it has scaled down; the larger place deserves the photo itself.
-    showInPictureView(m_currentPhoto, QString());
+    showInPictureView(facts().photo.name, QString());
     m_pictureView->setLabelText(tr("Still"));
 }
 
@@ -133,22 +143,19 @@ void CPictorelDlg::startSeries()
 
 void CPictorelDlg::OnShot()
 {
-    // The timer may tick while a shot is still being written, on a slow disk.
-    if (m_liveView->isBusy())
+    // The timer may tick while a shot is still being written, on a slow disk, or a message is read.
+    if (m_liveView->isBusy() || !m_isSeriesRunning)
         return;
     stop_window();
     playShutterSound();
     m_pictureView->setLabelText(QString::number(m_shotsTaken + 1) + tr("/") +
                                 QString::number(m_continuousCount));
-    m_currentPhoto.clear();
-    m_currentPhoto = m_liveView->SaveBmp();
-    if (m_currentPhoto.isEmpty()) {
-        tellOfFailedPhoto();
+    if (!takePhoto()) {
         finishSeries();
         return;
     }
-    m_seriesList.append(m_currentPhoto);
-    m_listView->AddPictureWithSelect(m_currentPhoto);
+    m_seriesList.append(facts().photo.name);
+    m_listView->AddPictureWithSelect(facts().photo.name);
     ++m_shotsTaken;
     if (m_shotsTaken >= m_continuousCount)
         finishSeries();
@@ -156,6 +163,8 @@ void CPictorelDlg::OnShot()
 
 void CPictorelDlg::finishSeries()
 {
+    if (!m_isSeriesRunning) // left while a message was read
+        return;
     m_shotsTaken = 0;
     m_isSeriesRunning = false;
     m_timerView->Stop();

@@ -27,19 +27,24 @@ constexpr auto movieLimitAtLogOut = 5s;
 // How soon leaving is looked at again while a photo or a movie is still being waited for.
 constexpr auto retryPeriod = 50ms;
 
-Q_LOGGING_CATEGORY(lcClosing, "orvane.closing")
+Q_LOGGING_CATEGORY(closingLog, "orvane.closing")
 
 } // namespace
 
 void CPictorelDlg::OnClose()
 {
     stop_window();
+    if (isWaitingAlive()) { // pressed, or closed by the window manager, in the middle of something
+        QTimer::singleShot(retryPeriod, this, &CPictorelDlg::OnClose);
+        return;
+    }
+    if (m_isLeaving)
+        return;
     if (WebcamUtil::isSaveFile()) {
         SaveConfirmDlg question(this);
         const int answer = question.exec();
         if (m_isLeaving || answer == QDialog::Rejected)
             return;
-        m_isLeaving = true;
         if (answer != QDialog::Accepted)
             WebcamUtil::deleteData();
         else if (!saveCaptures(movieLimit))
@@ -49,55 +54,56 @@ void CPictorelDlg::OnClose()
     close();
 }
 
-// A movie that is still being finished waits for its end, which a copy of it now would lack.
+// A movie that is still being finished waits for its end, which a copy of it now would lack. One that takes
+// too long stays, and nothing else for its sake.
 bool CPictorelDlg::saveCaptures(std::chrono::milliseconds limit)
 {
+    m_isSaving = true;
     QGuiApplication::setOverrideCursor(QCursor(Qt::WaitCursor));
-    if (m_liveView && facts().isMovieRunning())
+    if (facts().isMovieRunning() && !m_liveView->isBusy())
         m_liveView->RecordStop();
-    const bool isFinished =
-        waitAlive([this] { return !m_liveView || !m_liveView->isFinishingMovie(); }, limit) && m_liveView;
-    const bool isSaved = isFinished && WebcamUtil::saveData(m_saveDirectory);
+    waitAlive([this] { return !m_liveView->isFinishingMovie(); }, limit, Input::KeptThroughout);
+    const QStringList unfinished = m_liveView->unfinishedMovies();
+    const bool isSaved = WebcamUtil::saveData(m_saveDirectory, unfinished) && unfinished.isEmpty();
     QGuiApplication::restoreOverrideCursor();
+    m_isSaving = false;
     return isSaved;
 }
 
-// A capture that is just being taken comes along.
 void CPictorelDlg::saveAndLeave()
 {
-    if (m_liveView && m_liveView->isBusy()) {
+    m_isLeaving = true;
+    saveQuietly();
+    // What is just being taken or saved is waited for, and comes along.
+    if (m_isSaving || isWaitingAlive()) {
         QTimer::singleShot(retryPeriod, this, &CPictorelDlg::saveAndLeave);
         return;
     }
-    saveQuietly();
-    m_isLeaving = true;
     close();
     QCoreApplication::quit(); // a message may be open, which close() does not close
 }
 
 void CPictorelDlg::saveQuietly()
 {
-    if (m_isLeaving || !WebcamUtil::isSaveFile())
+    if (m_isSaving || !m_liveView || !WebcamUtil::isSaveFile())
         return;
-    m_isLeaving = true;
     stop_window();
     m_timerView->Stop();
     if (!saveCaptures(movieLimitAtLogOut))
-        qCWarning(lcClosing, "Not everything that was taken could be saved; the rest is in %s.",
+        qCWarning(closingLog, "Not everything that was taken could be saved; the rest is in %s.",
                   qUtf8Printable(WebcamUtil::getTemporaryPath()));
-    m_isLeaving = false;
 }
 
 void CPictorelDlg::closeEvent(QCloseEvent *event)
 {
-    if (event->spontaneous() && !m_isLeaving) {
+    if (event->spontaneous() || isWaitingAlive()) {
         event->ignore();
-        if (!m_liveView || !m_liveView->isBusy())
-            OnClose();
+        OnClose();
         return;
     }
     m_timerView->Stop(); // no shot is taken any more
-    hide();              // a slow disk may still take a movie
+    m_returnTimer->stop();
+    hide(); // a slow disk may still take a movie
     closeViews();
     QWidget::closeEvent(event);
 }
@@ -107,9 +113,9 @@ void CPictorelDlg::closeViews()
     if (m_liveView) {
         if (m_liveView->isCreate())
             m_liveView->Release();
-        // Closed from outside while a message is open or something is waited for, a command still stands in
-        // the middle of its work: the live view then goes with the window.
-        if (!QApplication::activeModalWidget() && !m_liveView->isBusy()) {
+        // Closed from outside while a message is open, a command still stands in the middle of its work: the
+        // live view then goes with the window.
+        if (!QApplication::activeModalWidget()) {
             // What was pressed while the program saved comes only now, and must find nothing left to command.
             setEnabled(false);
             delete m_liveView;

@@ -57,7 +57,15 @@ void CPictorelDlg::chkdevice()
 
 void CPictorelDlg::changeNodevicemode()
 {
+    if (m_isReturning &&
+        m_mode != DisplayMode::Live) { // it was not there for whoever went on to another screen
+        m_isReturning = false;
+        m_liveView->Release();
+        m_liveView->lookForCamera();
+        return;
+    }
     const bool isKnown = m_isErrorMode;
+    const bool wasRecording = facts().isMovieRunning();
     m_isErrorMode = true;
     m_isReturning = false;
     m_timerView->Stop();
@@ -72,6 +80,8 @@ void CPictorelDlg::changeNodevicemode()
         WebcamUtil::WarningMessage(
             tr("The video device is invalid. Please confirm whether the device is correctly connected. "),
             this);
+    if (wasRecording)
+        tellOfMovie(Cause::Camera);
     TransitionMode(DisplayMode::Live);
     m_liveView->lookForCamera();
 }
@@ -100,7 +110,7 @@ void CPictorelDlg::followCamera()
         m_returnTimer->setInterval(firstReturn);
     if (now.camera.state == CameraState::Live && m_isReturning) {
         m_isReturning = false;
-        m_isErrorMode = false;
+        m_isErrorMode = !m_liveView->hasRoom(); // of which enough was said
         if (m_mode == DisplayMode::Live)
             showLive();
     } else if (now.canReopen && m_mode == DisplayMode::Live && !m_returnTimer->isActive()) {
@@ -110,6 +120,8 @@ void CPictorelDlg::followCamera()
 
 void CPictorelDlg::reopenCamera()
 {
+    if (!m_liveView)
+        return;
     m_liveView->lookForCamera();
     if (m_mode != DisplayMode::Live || m_liveView->isCreate() || !facts().canReopen)
         return;

@@ -50,6 +50,7 @@ void CPictorelDlg::SetLiveMode()
 void CPictorelDlg::SetMovieMode()
 {
     m_isMovieLoaded = false;
+    m_isMovieAwaited = false;
 }
 
 void CPictorelDlg::SetListMode()
@@ -112,8 +113,18 @@ Situation CPictorelDlg::situation() const
 // another button is now the one to press.
 void CPictorelDlg::refreshScreen()
 {
+    if (!m_liveView)
+        return;
+    const bool isHeldUp = facts().isHeldUp;
+    if (isHeldUp && !m_focusBeforeWait)
+        m_focusBeforeWait = focusWidget();
     const Screen screen = screenFor(situation(), m_screen);
     showScreen(screen, screen.focus != m_screen.focus || screen.isStripFocused != m_screen.isStripFocused);
+    if (!isHeldUp && m_focusBeforeWait) {
+        if (m_focusBeforeWait->isVisible() && m_focusBeforeWait->isEnabled())
+            focusOn(m_focusBeforeWait);
+        m_focusBeforeWait.clear();
+    }
 }
 
 void CPictorelDlg::showScreen(const Screen &screen, bool movesFocus)

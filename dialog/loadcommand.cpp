@@ -30,15 +30,13 @@ void CPictorelDlg::dirLoad()
         return;
     const auto kind = m_isMovieShown ? FolderCopy::Kind::Movies : FolderCopy::Kind::Photos;
     m_folderCopy = new FolderCopy(kind, m_loadFolder, WebcamUtil::existingTemporaryPath(), this);
-    connect(m_folderCopy, &QThread::finished, this, &CPictorelDlg::finishLoad);
-    connect(m_waitDialog, &CWaiteMsgDlg::stopRequested, m_folderCopy, &QThread::requestInterruption);
-    m_folderCopy->start();
+    connect(m_folderCopy, &FolderCopy::finished, this, &CPictorelDlg::finishLoad);
+    connect(m_waitDialog, &CWaiteMsgDlg::stopRequested, m_folderCopy, &FolderCopy::stop);
 }
 
-void CPictorelDlg::finishLoad()
+void CPictorelDlg::finishLoad(bool isComplete)
 {
-    const bool isComplete = m_folderCopy->isComplete();
-    delete m_folderCopy;
+    m_folderCopy->deleteLater();
     m_folderCopy = nullptr;
     OnList();
     emit loadcomp(isComplete);

@@ -74,7 +74,7 @@ void CPictorelDlg::PutVXSPhoto()
     const QString size = QString("%1x%2").arg(viewRect().width()).arg(viewRect().height());
     QStringList lines = {photoRequest, size, listedFolder()};
     if (m_mode == DisplayMode::Photo) {
-        appendName(lines, m_currentPhoto);
+        appendName(lines, facts().photo.name);
     } else if (m_mode == DisplayMode::List || m_mode == DisplayMode::Series) {
         for (const PictureWidget *tile : qAsConst(m_thumbnails)) {
             if (tile->isVisible())

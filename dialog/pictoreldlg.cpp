@@ -44,12 +44,15 @@ CPictorelDlg::CPictorelDlg(QWidget *parent, Qt::WindowFlags flags)
     setWindowFrame();
     openCamera();
     m_liveView->setGeometry(viewRect());
-    // A camera may be lost as soon as it runs: a warning of the first screen leaves time for it.
+    // A camera may be lost as soon as it runs: a warning of the first screen leaves time for it. Changed
+    // facts are followed later: a command in the middle of which they change goes on first.
+    connect(&m_liveView->facts(), &CaptureFacts::changed, this, &CPictorelDlg::followFacts,
+            Qt::QueuedConnection);
     connect(m_liveView, &LiveVideoWidget::disconnectDevice, this, &CPictorelDlg::changeNodevicemode);
     m_liveView->Start();
     TransitionMode(DisplayMode::Live);
     SetLocalConnect();
-    QTimer::singleShot(playerDelay, this, &MovieWidget::prepare);
+    QTimer::singleShot(playerDelay, this, &LiveVideoWidget::preparePlayer);
 
     // A picture is never mirrored, whatever the language.
     m_liveView->setLayoutDirection(Qt::LeftToRight);
@@ -99,6 +102,8 @@ void CPictorelDlg::fitToScreen()
     refreshScreen();
     if (m_mode == DisplayMode::Series && m_variant == Variant::Grid)
         placeTiles();
+    else if (m_mode == DisplayMode::List) // its thumbnails have another size
+        OnList();
 }
 
 // The order of making is the order of stacking: the timer lies over the views.
@@ -165,8 +170,6 @@ void CPictorelDlg::SetLocalConnect()
     connect(this, &CPictorelDlg::loadcomp, m_waitDialog, &CWaiteMsgDlg::comp);
     connect(m_waitDialog, &CWaiteMsgDlg::OnShow, this, &CPictorelDlg::dirLoad);
     // Later: a command in the middle of which they change goes on first.
-    connect(&m_liveView->facts(), &CaptureFacts::changed, this, &CPictorelDlg::followFacts,
-            Qt::QueuedConnection);
     connect(m_returnTimer, &QTimer::timeout, this, &CPictorelDlg::reopenCamera);
     followScreen();
 }

@@ -3,6 +3,7 @@
 #include "dialog/screen.h"
 #include "util/desktop/windowmanagement.h"
 
+#include <QPointer>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -149,6 +150,7 @@ private:
     bool refuseOnFullDisk();
     void playShutterSound();
     void showLive();
+    bool takePhoto();
     void tellOfFailedPhoto();
     void startSeries();
     void finishSeries();
@@ -162,7 +164,7 @@ private:
     void placeTiles();
     // Where listed files are: the list's folder, which is empty for the working folder.
     QString listedFolder() const;
-    void finishLoad();
+    void finishLoad(bool isComplete);
     bool saveCaptures(std::chrono::milliseconds movieLimit);
     void closeViews();
 
@@ -181,7 +183,8 @@ private:
 
     Layout m_layout;
     QPoint m_screenCorner;
-    Screen m_screen; // as it is shown
+    Screen m_screen;                     // as it is shown
+    QPointer<QWidget> m_focusBeforeWait; // while a long wait keeps everything from being pressed
 
     // State.
     bool m_isStartable = false;
@@ -196,11 +199,11 @@ private:
     bool m_isMovieLoaded = false;
     bool m_isMovieAwaited = false; // the recorded one, until its file is whole
     bool m_isSeriesRunning = false;
-    bool m_isLeaving = false;
+    bool m_isLeaving = false; // it is decided
+    bool m_isSaving = false;
     int m_shotsTaken = 0;
     QStringList m_seriesList;
-    QString m_currentPhoto; // bare name of the latest; empty when it could not be saved
-    QString m_shownMovie;   // full path
+    QString m_shownMovie; // full path
     QString m_loadFolder;
     FolderCopy *m_folderCopy = nullptr; // while a folder is being copied in
 

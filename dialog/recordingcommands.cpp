@@ -25,7 +25,7 @@ void CPictorelDlg::OnRecord()
 
 void CPictorelDlg::OnMovieStop()
 {
-    if (!facts().isMovieRunning())
+    if (!facts().isMovieRunning() || m_liveView->isBusy())
         return;
     const Cause end = facts().movie.why;
     if (m_liveView->isCreate())

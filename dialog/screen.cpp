@@ -76,7 +76,7 @@ ButtonRow setPhotoModeButtonEnabled(const Situation &)
 
 ButtonRow setMovieModeButton(const Situation &now)
 {
-    const bool isWhole = now.facts.movie.state != MovieState::Finishing;
+    const bool isWhole = now.isMovieLoaded || now.facts.movie.state != MovieState::Finishing;
     return {otherRowButtons,
             {{on(Button::Live)},
              {{Button::MoviePause, now.isPlaying, true}, {Button::MoviePlay, !now.isPlaying, isWhole}},

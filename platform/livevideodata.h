@@ -104,6 +104,8 @@ public:
     void RecordStop();
     // Whether a file is still being finished in the background. That takes as long as the disk goes on.
     bool isFinishingMovie();
+    // The paths of all movies whose files are not whole, a running one too.
+    QStringList unfinishedMovies() const;
     // Whether the last movie that has ended was without a microphone's sound for more than two seconds on
     // end.
     bool hadSoundHole() const { return m_hadSoundHole; }

@@ -151,6 +151,20 @@ bool LiveVideoData::isFinishingMovie()
                        [](const auto &movie) { return !movie->isFinished(); });
 }
 
+QStringList LiveVideoData::unfinishedMovies() const
+{
+    QStringList paths;
+    for (const auto &movie : m_unfinished) {
+        if (!movie->isFinished())
+            paths << movie->path();
+    }
+    for (const auto &movie : {m_movie, m_startingMovie}) {
+        if (movie)
+            paths << movie->path();
+    }
+    return paths;
+}
+
 void LiveVideoData::finishMovies()
 {
     static_cast<void>(stopMovie());

@@ -49,6 +49,7 @@ public:
     void discard();
     // Whether the file is finished, and waiting for that; false when it has not come in that time.
     bool isFinished() const;
+    QString path() const { return m_settings.path; }
     bool waitForFile(std::chrono::milliseconds limit);
 
 private:

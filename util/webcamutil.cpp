@@ -14,6 +14,9 @@
 #include <QDir>
 #include <QFile>
 
+#include <atomic>
+#include <chrono>
+#include <memory>
 #include <optional>
 #include <utility>
 
@@ -203,13 +206,29 @@ void WebcamUtil::deleteData()
 {
     const QString folder = getTemporaryPath();
     const QStringList names = getFileList({});
-    for (const QString &name : names) {
-        if (!removeFile("deleteData", folder + "/" + name))
-            break;
-    }
+    askDisk("deleteData", folder, false, [folder, names] {
+        for (const QString &name : names)
+            QFile::remove(folder + "/" + name);
+        return true;
+    });
 }
 
-bool WebcamUtil::saveData(const QString &dir)
+// Waits for as long as it goes on. A folder on a server that has died would keep the program for ever.
+static bool moveAside(const QStringList &captures, const QString &working, const QString &save)
+{
+    using Clock = std::chrono::steady_clock;
+    constexpr auto patience = std::chrono::minutes(2);
+    const auto lastSign = std::make_shared<std::atomic<Clock::time_point>>(Clock::now());
+    auto moved = startAside(
+        [=] { return moveCaptures(captures, working, save, [lastSign] { *lastSign = Clock::now(); }); });
+    const auto isOver = [&] { return isReady(moved) || Clock::now() - lastSign->load() > patience; };
+    waitAlive(isOver, noLimit, Input::KeptThroughout);
+    if (!isReady(moved))
+        noteSilentDisk("saveData", save);
+    return isReady(moved) && moved.get();
+}
+
+bool WebcamUtil::saveData(const QString &dir, const QStringList &except)
 {
     const QString working = getTemporaryPath();
     if (working.isEmpty())
@@ -218,9 +237,10 @@ bool WebcamUtil::saveData(const QString &dir)
     const QString save = CreateSavePath(dir);
     if (save.isEmpty())
         return false;
-    const QStringList captures = getFileList({photoFilter(), movieFilter()});
-    const auto move = [=] { return moveCaptures(captures, working, save); };
-    return !captures.isEmpty() && doAside(move, noLimit, Input::KeptThroughout).value_or(false);
+    QStringList captures = getFileList({photoFilter(), movieFilter()});
+    for (const QString &name : except)
+        captures.removeAll(name);
+    return !captures.isEmpty() && moveAside(captures, working, save);
 }
 
 void WebcamUtil::infoMessage(const QString &text, QWidget *parent)

@@ -100,9 +100,10 @@ public:
     // preview together or not at all. A file that is there already under the same name is kept and the
     // working copy removed. False when nothing was there to move, or at the first failure: what was moved
     // until then stays moved, the rest stays in the working folder, and nothing half written is left
-    // anywhere. Returns when all is done, however long it takes; the windows are painted meanwhile, and what
-    // the user presses comes afterwards.
-    static bool saveData(const QString &dir);
+    // anywhere. Captures named in except stay where they are. Returns when all is done, or when the disks
+    // have taken nothing for two minutes; the windows are painted meanwhile, and what the user presses comes
+    // afterwards.
+    static bool saveData(const QString &dir, const QStringList &except = {});
 
     // --- Messages ---
     // Modal boxes titled "Orvane" in the middle of the desktop, over parent (may be null). They return when

@@ -1,12 +1,9 @@
 #include "widgets/moviewidget.h"
 
 #include "util/desktop/fonts.h"
-#include "widgets/backgroundpool.h"
-#include "widgets/moviepreload.h"
 
 #include <QLabel>
 #include <QShowEvent>
-#include <QThreadPool>
 #include <QTimer>
 #include <QUrl>
 
@@ -154,9 +151,4 @@ void MovieWidget::showFirstPicture()
     forgetWish();
     m_firstPicture->start();
     play();
-}
-
-void MovieWidget::prepare()
-{
-    backgroundPool()->start(preloadPlayer);
 }

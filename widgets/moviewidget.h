@@ -16,10 +16,6 @@ class MovieWidget : public Phonon::VideoPlayer
 public:
     explicit MovieWidget(QWidget *parent = nullptr);
 
-    // Loads in the background most of what the player needs, so that the first Create() finds it there.
-    // Returns at once; once for a program, before or while its first window is shown.
-    static void prepare();
-
     // Whether a movie was ever loaded.
     bool isCreated() const { return m_created; }
 

@@ -19,10 +19,29 @@ enum class Input {
 
 constexpr std::chrono::milliseconds noLimit = std::chrono::milliseconds::max();
 
+// Whether one of these waits at this moment, on the GUI thread: what it waits for must not be taken from
+// under it.
+bool isWaitingAlive();
+
 // Waits until isDone() answers true, which is asked again and again; false when it has not by the limit. The
 // windows are painted meanwhile.
 bool waitAlive(const std::function<bool()> &isDone, std::chrono::milliseconds limit,
                Input input = Input::KeptAtFirst);
+
+// Does the work on a thread of its own, which is left to itself: it must own all that it uses.
+template<typename Work> auto startAside(Work work) -> std::future<decltype(work())>
+{
+    using Result = decltype(work());
+    auto task = std::make_shared<std::packaged_task<Result()>>(std::move(work));
+    std::future<Result> result = task->get_future();
+    std::thread([task] { (*task)(); }).detach();
+    return result;
+}
+
+template<typename Result> bool isReady(const std::future<Result> &result)
+{
+    return result.wait_for(std::chrono::milliseconds(0)) == std::future_status::ready;
+}
 
 // Does the work on a thread of its own and waits for its result: for some milliseconds as if it were done
 // here, then as waitAlive() does. Nothing when it has not come by the limit; the work is then left to itself,
@@ -32,14 +51,9 @@ auto doAside(Work work, std::chrono::milliseconds limit, Input input = Input::Ke
     -> std::optional<decltype(work())>
 {
     constexpr std::chrono::milliseconds unnoticed(15);
-    using Result = decltype(work());
-    auto task = std::make_shared<std::packaged_task<Result()>>(std::move(work));
-    std::future<Result> result = task->get_future();
-    std::thread([task] { (*task)(); }).detach();
-    const auto isReady = [&result] {
-        return result.wait_for(std::chrono::milliseconds(0)) == std::future_status::ready;
-    };
-    if (result.wait_for(unnoticed) != std::future_status::ready && !waitAlive(isReady, limit, input))
+    auto result = startAside(std::move(work));
+    if (result.wait_for(unnoticed) != std::future_status::ready &&
+        !waitAlive([&result] { return isReady(result); }, limit, input))
         return {};
     return result.get();
 }

@@ -17,13 +17,13 @@ void noteSilentDisk(const char *operation, const QString &path);
 
 // What the work finds out on the disk. Any thread; on the GUI thread it is done aside, as doAside() does it,
 // so it must own all that it uses. When it has not ended by the limit then, silent is the answer, and a line
-// names the operation and the path.
+// names the operation and the path. What the user presses meanwhile comes afterwards.
 template<typename Answer, typename Work>
 Answer askDisk(const char *operation, const QString &path, Answer silent, Work work)
 {
     if (!isGuiThread())
         return work();
-    std::optional<Answer> answer = doAside(std::move(work), diskLimit);
+    std::optional<Answer> answer = doAside(std::move(work), diskLimit, Input::KeptThroughout);
     if (answer)
         return *std::move(answer);
     noteSilentDisk(operation, path);

@@ -104,9 +104,14 @@ std::unique_ptr<WholeFile> copied(const QString &source, const QString &target, 
     return file;
 }
 
-std::unique_ptr<WholeFile> lastingCopy(const QString &source, const QString &target)
+std::unique_ptr<WholeFile> lastingCopy(const QString &source, const QString &target,
+                                       const std::function<void()> &giveSign)
 {
     Copying copying;
+    copying.isToStop = [&giveSign] {
+        giveSign();
+        return false;
+    };
     copying.isLasting = true;
     return copied(source, target, copying);
 }
@@ -135,11 +140,11 @@ bool copyFileWhole(const QString &source, const QString &target, const std::func
     return file && file->publish();
 }
 
-FilePlacement::FilePlacement(const QString &source, const QString &target)
-    : m_source(source), m_target(target)
+FilePlacement::FilePlacement(const QString &source, const QString &target, std::function<void()> giveSign)
+    : m_source(source), m_target(target), m_giveSign(std::move(giveSign))
 {
     if (!isOnFileSystemOf(QFileInfo(target).absolutePath(), source))
-        m_copy = lastingCopy(source, target);
+        m_copy = lastingCopy(source, target, m_giveSign);
 }
 
 FilePlacement::~FilePlacement() = default;
@@ -152,7 +157,7 @@ bool FilePlacement::finish()
         if (errno == EEXIST)
             return false;
         // Not every file system gives a file two names.
-        m_copy = lastingCopy(m_source, m_target);
+        m_copy = lastingCopy(m_source, m_target, m_giveSign);
     }
     return m_copy && isOnDisk(m_copy->descriptor()) && m_copy->publish();
 }

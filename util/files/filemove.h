@@ -23,8 +23,9 @@ bool copyFileWhole(
 class FilePlacement
 {
 public:
-    // Begins: a copy is made now, without a name, and the disk set to work on it.
-    FilePlacement(const QString &source, const QString &target);
+    // Begins: a copy is made now, without a name, and the disk set to work on it. giveSign is called again
+    // and again while it is being copied.
+    FilePlacement(const QString &source, const QString &target, std::function<void()> giveSign);
     ~FilePlacement();
     FilePlacement(FilePlacement &&) = default;
     FilePlacement &operator=(FilePlacement &&) = default;
@@ -38,6 +39,7 @@ private:
 
     QString m_source;
     QString m_target;
+    std::function<void()> m_giveSign;
     std::unique_ptr<WholeFile> m_copy; // none for a second name
 };
 

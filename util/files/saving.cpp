@@ -35,7 +35,9 @@ QStringList takeUnit(QStringList *captures)
 class Unit
 {
 public:
-    Unit(const QStringList &names, const QString &working, const QString &save) : m_save(save)
+    Unit(const QStringList &names, const QString &working, const QString &save,
+         const std::function<void()> &giveSign)
+        : m_save(save)
     {
         for (const QString &name : names) {
             m_sources.append(working + "/" + name);
@@ -43,7 +45,7 @@ public:
             if (isSavedAlready(target)) // the working copy is only to be removed
                 continue;
             m_targets.append(target);
-            m_placements.emplace_back(m_sources.last(), target);
+            m_placements.emplace_back(m_sources.last(), target, giveSign);
         }
     }
     // False when not all could be placed, and then none is, or when a source could not be removed.
@@ -79,7 +81,8 @@ private:
 };
 
 // One unit after the other from the newest on, up to the first that fails.
-bool moveAll(QStringList captures, const QString &working, const QString &save)
+bool moveAll(QStringList captures, const QString &working, const QString &save,
+             const std::function<void()> &giveSign)
 {
     // While the disk writes one, the next are copied: it is never without work.
     constexpr size_t unitsUnderWay = 6;
@@ -87,11 +90,12 @@ bool moveAll(QStringList captures, const QString &working, const QString &save)
     bool isComplete = true;
     while (isComplete) {
         while (!captures.isEmpty() && underWay.size() < unitsUnderWay)
-            underWay.emplace_back(takeUnit(&captures), working, save);
+            underWay.emplace_back(takeUnit(&captures), working, save, giveSign);
         if (underWay.empty())
             break;
         isComplete = underWay.front().move();
         underWay.pop_front();
+        giveSign();
     }
     return isComplete;
 }
@@ -106,8 +110,9 @@ void removeLeftOvers(const QString &save)
 
 } // namespace
 
-bool moveCaptures(const QStringList &captures, const QString &working, const QString &save)
+bool moveCaptures(const QStringList &captures, const QString &working, const QString &save,
+                  const std::function<void()> &giveSign)
 {
     removeLeftOvers(save);
-    return moveAll(captures, working, save);
+    return moveAll(captures, working, save, giveSign);
 }

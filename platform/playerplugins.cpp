@@ -1,4 +1,4 @@
-#include "widgets/moviepreload.h"
+#include "platform/playerplugins.h"
 
 #include <gst/gst.h>
 
@@ -36,7 +36,7 @@ void lookForSoundDevice()
 
 } // namespace
 
-void preloadPlayer()
+void loadPlayerPlugins()
 {
     if (!gst_init_check(nullptr, nullptr, nullptr))
         return;
