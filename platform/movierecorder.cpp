@@ -18,8 +18,11 @@ namespace
 
 using namespace std::chrono_literals;
 
-// Frames that may wait for the encoder; with more of them the end of a movie would take too long.
-constexpr guint64 mostWaitingFrames = 10;
+// What may wait for the start or for the encoder, beside a second's worth of frames; with more of them the
+// end of a movie would take too long.
+constexpr gsize mostWaitingBytes = gsize(128) << 20;
+// With more than these waiting, what waits is a copy: a driver has few buffers.
+constexpr guint64 mostBorrowedFrames = 2;
 
 // How long a slow disk may take nothing of what is left of a movie before it is given up.
 constexpr auto closingLimit = 10s;
@@ -57,8 +60,9 @@ MovieRecorder::MovieRecorder(const MovieSettings &settings)
 
 MovieRecorder::~MovieRecorder() = default;
 
-bool MovieRecorder::start(const CapturedFrame &first, const Zoom &zoom)
+bool MovieRecorder::start(const FramePtr &first, const Zoom &zoom)
 {
+    keepFirst(first, zoom);
     m_movie = buildMoviePipeline(m_settings);
     if (!m_movie.isComplete())
         return false;
@@ -67,9 +71,6 @@ bool MovieRecorder::start(const CapturedFrame &first, const Zoom &zoom)
         gst_element_set_state(m_movie.pipeline.get(), GST_STATE_NULL);
         return false;
     }
-    // The muxer counts a track's time from its first frame, so that one must stand at the very start or the
-    // picture would run ahead of the sound.
-    push(first, zoom, 0);
     return beginRecording();
 }
 
@@ -79,11 +80,10 @@ bool MovieRecorder::startPipeline()
     const BusHandle bus(gst_element_get_bus(pipeline));
     gst_bus_set_sync_handler(bus.get(), onMessage, this, nullptr);
 
-    // Time counts from this moment on the clock that the frames' times are of.
+    // Time counts from the first frame on, on the clock that the frames' times are of.
     const ClockHandle clock(gst_system_clock_obtain());
     gst_pipeline_use_clock(GST_PIPELINE(pipeline), clock.get());
     gst_element_set_start_time(pipeline, GST_CLOCK_TIME_NONE);
-    m_startTime = gst_clock_get_time(clock.get());
     m_startedAt = std::chrono::steady_clock::now();
     gst_element_set_base_time(pipeline, m_startTime);
 
@@ -102,6 +102,8 @@ bool MovieRecorder::beginRecording()
         isWanted = !m_isDiscarded;
         if (m_state == State::Starting)
             m_state = m_end == MovieEnd::None ? State::Recording : State::Failed;
+        for (Picture &picture : std::exchange(m_kept, {}))
+            push(std::move(picture));
     }
     if (isWanted)
         std::thread([self = shared_from_this()] { self->watch(); }).detach();
@@ -159,29 +161,58 @@ void MovieRecorder::fail(MovieEnd why, const QString &line)
 
 void MovieRecorder::take(const FramePtr &frame, const Zoom &zoom)
 {
+    if (!gst_video_info_is_equal(&frame->info, &m_settings.picture))
+        return;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
+        if (m_state == State::Starting)
+            keep(frame, zoom);
         if (m_state != State::Recording)
             return;
     }
-    // A frame of the time before the start, still on its way then.
-    if (frame->clockTime < m_startTime || !gst_video_info_is_equal(&frame->info, &m_settings.picture))
-        return;
-    push(*frame, zoom, frame->clockTime - m_startTime + soundDelay());
+    if (!isBehind())
+        push({shown(*frame, zoom), frame->clockTime});
 }
 
-void MovieRecorder::push(const CapturedFrame &frame, const Zoom &zoom, GstClockTime time)
+// A copy of it: a driver whose few buffers are all held gives nothing more.
+void MovieRecorder::keep(const FramePtr &frame, const Zoom &zoom)
+{
+    if (m_keptBytes >= mostWaitingBytes || m_kept.size() >= size_t(m_settings.framesPerSecond))
+        return;
+    BufferHandle pixels = shown(*frame, zoom);
+    if (zoom.isNone())
+        pixels.reset(gst_buffer_copy_deep(pixels.get()));
+    m_keptBytes += gst_buffer_get_size(pixels.get());
+    m_kept.push_back({std::move(pixels), frame->clockTime});
+}
+
+void MovieRecorder::keepFirst(const FramePtr &first, const Zoom &zoom)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (m_kept.empty() || first->clockTime < m_kept.front().clockTime)
+        m_kept.push_front({shown(*first, zoom), first->clockTime});
+    m_startTime = m_nextTime = m_kept.front().clockTime;
+}
+
+bool MovieRecorder::isBehind() const
 {
     auto *pictures = GST_APP_SRC(m_movie.pictures);
-    if (gst_app_src_get_current_level_buffers(pictures) >= mostWaitingFrames)
+    return gst_app_src_get_current_level_bytes(pictures) >= mostWaitingBytes ||
+           gst_app_src_get_current_level_buffers(pictures) >= guint64(m_settings.framesPerSecond);
+}
+
+void MovieRecorder::push(Picture picture)
+{
+    GstBuffer *pixels = picture.pixels.get();
+    if (!pixels || picture.clockTime < m_nextTime)
         return;
-    BufferHandle buffer = shown(frame, zoom);
-    if (!buffer)
-        return;
-    GST_BUFFER_PTS(buffer.get()) = time;
-    GST_BUFFER_DTS(buffer.get()) = GST_CLOCK_TIME_NONE;
-    GST_BUFFER_DURATION(buffer.get()) = GST_CLOCK_TIME_NONE;
-    gst_app_src_push_buffer(pictures, buffer.release());
+    m_nextTime = picture.clockTime + 1;
+    const GstClockTime time = picture.clockTime - m_startTime;
+    // The muxer counts a track's time from its first frame, so that one must stand at the very start.
+    GST_BUFFER_PTS(pixels) = time > 0 ? time + soundDelay() : 0;
+    GST_BUFFER_DTS(pixels) = GST_CLOCK_TIME_NONE;
+    GST_BUFFER_DURATION(pixels) = GST_CLOCK_TIME_NONE;
+    gst_app_src_push_buffer(GST_APP_SRC(m_movie.pictures), picture.pixels.release());
     paceIndex(m_movie);
 }
 

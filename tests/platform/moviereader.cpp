@@ -1,5 +1,7 @@
 #include "tests/platform/moviereader.h"
 
+#include "tests/plugins/counterpicture.h"
+
 #include <cstdlib>
 
 namespace
@@ -29,7 +31,9 @@ void readFrames(GstElement *sink, MovieContents *contents)
         const QImage picture(static_cast<const uchar *>(GST_VIDEO_FRAME_PLANE_DATA(frame.get(), 0)),
                              info.width, info.height, GST_VIDEO_FRAME_PLANE_STRIDE(frame.get(), 0),
                              QImage::Format_Grayscale8);
-        contents->frames.push_back({seconds(buffer), qGray(picture.pixel(picture.rect().center()))});
+        const auto luma = [&picture](int x, int y) { return qGray(picture.pixel(x, y)); };
+        contents->frames.push_back({seconds(buffer), luma(info.width / 2, info.height / 2),
+                                    readCounter(luma, info.width, info.height)});
         contents->last = picture.copy();
         if (contents->first.isNull())
             contents->first = contents->last;

@@ -13,7 +13,8 @@
 struct MovieContents {
     struct Frame {
         double time = 0;
-        int middle = 0; // brightness, 0 to 255
+        int middle = 0;       // brightness, 0 to 255
+        qint64 captured = -1; // of a counter picture: when, in microseconds of the monotonic clock
     };
     std::vector<Frame> frames;
     QImage first; // grey, as last

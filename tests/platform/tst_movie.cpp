@@ -29,6 +29,7 @@ class TestMovie : public QObject
 private slots:
     void init() { m_folder = std::make_unique<QTemporaryDir>(); }
     void recordsPictureAndSoundInSync();
+    void holdsEveryFrameFromThePressOn();
     void startsOnlyWithCameraAndMicrophone();
     void outlivesItsMicrophone();
     void bringsItsMicrophoneBack();
@@ -94,6 +95,36 @@ void TestMovie::recordsPictureAndSoundInSync()
         }
         QVERIFY2(pairs >= 3, format);
         QFile::remove(path());
+    }
+}
+
+void TestMovie::holdsEveryFrameFromThePressOn()
+{
+    constexpr qint64 period = 1000000 / 15;
+    TestDevices devices;
+    devices.camera("cam").formats("YUY2 640x480 15").content("counter");
+    devices.microphone("mic");
+    devices.write();
+    CameraWindow camera;
+    QVERIFY(camera.start());
+    QTRY_VERIFY(camera.capture.IsValidAudioDevice());
+    const qint64 press = nowMicroseconds();
+    camera.capture.Record(path());
+    QTest::qWait(1500);
+    const qint64 stop = nowMicroseconds();
+    camera.capture.RecordStop();
+    QTRY_VERIFY(!camera.capture.isFinishingMovie());
+    const std::vector<MovieContents::Frame> frames = readMovie(path()).frames;
+    QVERIFY(frames.size() > 20);
+    const auto first = frames.front();
+    QVERIFY2(std::abs(press - first.captured) < 2 * period,
+             qPrintable(QString::number(press - first.captured)));
+    QVERIFY(stop - frames.back().captured < 3 * period);
+    for (size_t i = 1; i < frames.size(); ++i) {
+        const qint64 step = frames[i].captured - frames[i - 1].captured;
+        QVERIFY2(std::abs(step - period) < 1000, qPrintable(QString("%1: %2").arg(i).arg(step)));
+        const double drift = frames[i].time * 1e6 - double(frames[i].captured - first.captured);
+        QVERIFY2(std::abs(drift) < 25000, qPrintable(QString("%1: %2").arg(i).arg(drift)));
     }
 }
 
