@@ -43,14 +43,6 @@ MovieEnd endOf(GstMessage *message)
     return isFull ? MovieEnd::DiskFull : MovieEnd::Failed;
 }
 
-// Ends the sound with the next piece of the silence under it. At any other moment the end of a movie that is
-// stopped at once might come before the sound's beginning, which would undo it.
-GstPadProbeReturn endSound(GstPad *sound, GstPadProbeInfo *, gpointer)
-{
-    gst_pad_send_event(sound, gst_event_new_eos());
-    return GST_PAD_PROBE_REMOVE;
-}
-
 } // namespace
 
 MovieRecorder::MovieRecorder(const MovieSettings &settings)
@@ -80,16 +72,10 @@ bool MovieRecorder::startPipeline()
     const BusHandle bus(gst_element_get_bus(pipeline));
     gst_bus_set_sync_handler(bus.get(), onMessage, this, nullptr);
 
-    // Time counts from the first frame on, on the clock that the frames' times are of.
-    const ClockHandle clock(gst_system_clock_obtain());
-    gst_pipeline_use_clock(GST_PIPELINE(pipeline), clock.get());
-    gst_element_set_start_time(pipeline, GST_CLOCK_TIME_NONE);
     m_startedAt = std::chrono::steady_clock::now();
-    gst_element_set_base_time(pipeline, m_startTime);
-
     if (gst_element_set_state(pipeline, GST_STATE_PLAYING) == GST_STATE_CHANGE_FAILURE)
         return false;
-    m_sound = std::make_unique<MovieSound>(pipeline, m_movie.mixer, m_settings.microphone);
+    m_sound = std::make_unique<MovieSound>(m_movie.sound, m_startTime, m_settings.microphone);
     return true;
 }
 
@@ -134,9 +120,6 @@ void MovieRecorder::note(GstMessage *message)
 {
     const bool isError = GST_MESSAGE_TYPE(message) == GST_MESSAGE_ERROR;
     if (!isError && GST_MESSAGE_TYPE(message) != GST_MESSAGE_EOS)
-        return;
-    // The movie goes on without its microphone.
-    if (isError && MicrophoneBranch::noteError(message))
         return;
     if (isError)
         fail(endOf(message), errorText(message));
@@ -207,9 +190,7 @@ void MovieRecorder::push(Picture picture)
     if (!pixels || picture.clockTime < m_nextTime)
         return;
     m_nextTime = picture.clockTime + 1;
-    const GstClockTime time = picture.clockTime - m_startTime;
-    // The muxer counts a track's time from its first frame, so that one must stand at the very start.
-    GST_BUFFER_PTS(pixels) = time > 0 ? time + soundDelay() : 0;
+    GST_BUFFER_PTS(pixels) = picture.clockTime - m_startTime;
     GST_BUFFER_DTS(pixels) = GST_CLOCK_TIME_NONE;
     GST_BUFFER_DURATION(pixels) = GST_CLOCK_TIME_NONE;
     gst_app_src_push_buffer(GST_APP_SRC(m_movie.pictures), picture.pixels.release());
@@ -266,6 +247,7 @@ void MovieRecorder::finish()
         if (m_state == State::Finishing || m_state == State::Finished)
             return;
         m_state = State::Finishing;
+        m_stopTime = gst_util_get_timestamp();
         m_changed.notify_all();
     }
     // What follows can wait for the disk, or for a driver, so it never runs in the caller's thread.
@@ -298,10 +280,9 @@ bool MovieRecorder::waitForFile(std::chrono::milliseconds limit)
 
 void MovieRecorder::close()
 {
-    m_sound->end();
-    endStreams();
+    gst_app_src_end_of_stream(GST_APP_SRC(m_movie.pictures));
+    m_sound->end(m_stopTime);
     waitForEndOfStreams();
-    m_sound->close();
     gst_element_set_state(m_movie.pipeline.get(), GST_STATE_NULL);
     bool isDiscarded = false;
     {
@@ -326,13 +307,4 @@ void MovieRecorder::waitForEndOfStreams()
             return;
         before = std::exchange(waiting, waitingBytes(m_movie));
     } while (waiting < before);
-}
-
-void MovieRecorder::endStreams()
-{
-    gst_app_src_end_of_stream(GST_APP_SRC(m_movie.pictures));
-    // Behind the mixer: in front of it the end would wait for a microphone that may have stopped giving
-    // sound.
-    const PadHandle sound(gst_element_get_static_pad(m_movie.soundEncoder, "sink"));
-    gst_pad_add_probe(sound.get(), GST_PAD_PROBE_TYPE_BUFFER, endSound, nullptr, nullptr);
 }

@@ -76,7 +76,6 @@ private:
     void watch();
     void lookAtRoom();
     void close();
-    void endStreams();
     void waitForEndOfStreams();
 
     const MovieSettings m_settings;
@@ -91,7 +90,8 @@ private:
     mutable std::mutex m_mutex; // guards all below
     std::condition_variable m_changed;
     State m_state = State::Starting;
-    std::deque<Picture> m_kept; // for the start
+    GstClockTime m_stopTime = 0; // set when it becomes Finishing
+    std::deque<Picture> m_kept;  // for the start
     gsize m_keptBytes = 0;
     MovieEnd m_end = MovieEnd::None;
     bool m_isDiscarded = false;

@@ -27,8 +27,6 @@ const Requirement requirements[] = {
     {{"videoconvert"}, "gstreamer1.0-plugins-base"},
     {{"audioconvert"}, "gstreamer1.0-plugins-base"},
     {{"audioresample"}, "gstreamer1.0-plugins-base"},
-    {{"audiomixer"}, "gstreamer1.0-plugins-base"},
-    {{"audiotestsrc"}, "gstreamer1.0-plugins-base"},
     jpegDecoding,
     {{"x264enc"}, "gstreamer1.0-plugins-ugly"},
     {{"h264parse"}, "gstreamer1.0-plugins-bad"},
