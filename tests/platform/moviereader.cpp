@@ -2,6 +2,7 @@
 
 #include "tests/plugins/counterpicture.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace
@@ -53,6 +54,8 @@ void readSound(GstElement *sink, MovieContents *contents)
             const double time = seconds(buffer) + double(i) / 48000;
             if (std::abs(samples[i]) < loud)
                 continue;
+            if (lastLoud >= 0)
+                contents->longestQuiet = std::max(contents->longestQuiet, time - lastLoud);
             if (lastLoud < 0 || time - lastLoud > quietSeconds)
                 contents->loudMoments.push_back(time);
             lastLoud = time;
@@ -84,4 +87,18 @@ MovieContents readMovie(const QString &path)
         gst_app_sink_is_eos(GST_APP_SINK(frames.get())) && gst_app_sink_is_eos(GST_APP_SINK(sound.get()));
     gst_element_set_state(pipeline.get(), GST_STATE_NULL);
     return contents;
+}
+
+std::vector<double> latenesses(const MovieContents &movie)
+{
+    std::vector<double> late;
+    for (size_t i = 1; i < movie.frames.size(); ++i) {
+        if (movie.frames[i].middle < 128 || movie.frames[i - 1].middle >= 128)
+            continue;
+        for (const double beep : movie.loudMoments) {
+            if (std::abs(beep - movie.frames[i].time) < 0.4)
+                late.push_back(beep - movie.frames[i].time);
+        }
+    }
+    return late;
 }

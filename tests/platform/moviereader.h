@@ -21,6 +21,7 @@ struct MovieContents {
     QImage last;
     std::vector<double> loudMoments; // where sound begins after quiet
     double lastLoud = -1;            // -1 without any sound
+    double longestQuiet = 0;         // between loud sounds
     double soundLength = 0;
     bool isReadToItsEnd = false;
 
@@ -28,3 +29,6 @@ struct MovieContents {
 };
 
 MovieContents readMovie(const QString &path);
+
+// Of a movie of flashes and beeps: by how many seconds each beep is later than the flash beside it.
+std::vector<double> latenesses(const MovieContents &movie);

@@ -7,6 +7,8 @@
 //   content   of a camera: page, flash, counter, quarters, or a colour as RRGGBB
 //   damaged   of a JPEG camera: every so manieth frame is
 //   sound     of a microphone: silence, tone or beep
+//   clock     of a microphone: by how many millionths of its rate it is fast
+//   bursts    of a microphone: gives its sound every so many milliseconds, as fast as it is taken
 //   opens-after  milliseconds that opening takes; none if left out
 //   fault     stall (gives nothing more and tells nothing), hang-open, hang-close (blocks there as long as
 //             this stands), busy, no-permission (cannot be opened), no-bandwidth (opens, but its stream does

@@ -28,8 +28,10 @@ static void orvane_test_device_init(OrvaneTestDevice *) {}
 static void orvane_test_device_class_init(OrvaneTestDeviceClass *klass)
 {
     GST_DEVICE_CLASS(klass)->create_element = [](GstDevice *device, const gchar *name) {
-        GstElement *element = gst_element_factory_make("orvanetestsource", name);
-        g_object_set(element, "device", g_object_get_data(G_OBJECT(device), sectionKey), nullptr);
+        const auto *section = static_cast<const char *>(g_object_get_data(G_OBJECT(device), sectionKey));
+        GstElement *element =
+            gst_element_factory_make(isCamera(section) ? "orvanetestsource" : "orvanetestmicrophone", name);
+        g_object_set(element, "device", section, nullptr);
         return element;
     };
 }
