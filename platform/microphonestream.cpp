@@ -112,8 +112,8 @@ struct MicrophoneStream::Microphone {
     }
 };
 
-MicrophoneStream::MicrophoneStream(GstDevice *device, std::shared_ptr<SoundTrack> track, GstClockTime start,
-                                   std::shared_ptr<SoundGaps> gaps)
+MicrophoneStream::MicrophoneStream(const CaptureDevice &device, std::shared_ptr<SoundTrack> track,
+                                   GstClockTime start, std::shared_ptr<SoundGaps> gaps)
     : m_microphone(std::make_shared<Microphone>(std::move(track), start, std::move(gaps))),
       m_closing(std::make_unique<std::shared_ptr<Microphone>>(m_microphone)),
       m_pipeline(GST_ELEMENT(gst_object_ref_sink(gst_pipeline_new("microphone"))))
@@ -125,11 +125,14 @@ MicrophoneStream::MicrophoneStream(GstDevice *device, std::shared_ptr<SoundTrack
         m_microphone->state.fail(QStringLiteral("No stream can be put together for it."));
 }
 
-bool MicrophoneStream::build(GstDevice *device)
+bool MicrophoneStream::build(const CaptureDevice &device)
 {
-    GstElement *source = gst_device_create_element(device, nullptr);
+    GstElement *source = gst_device_create_element(device.device.get(), nullptr);
     if (!source)
         return false;
+    // The list is not told of another default; without a name the server gives the one of now.
+    if (device.isDefault && device.provider == QLatin1String("pulsedeviceprovider"))
+        g_object_set(source, "device", nullptr, nullptr);
     auto *bin = GST_BIN(m_pipeline.get());
     gst_bin_add(bin, source);
     // Its stamps shall count its samples and nothing else: the track sees to the clocks.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/gsthandles.h"
+#include "platform/capturedevice.h"
 #include "platform/microphonestate.h"
 
 #include <memory>
@@ -12,9 +12,10 @@ class SoundTrack;
 class MicrophoneStream
 {
 public:
-    // Has the microphone opened. The device is borrowed. `start` is the moment, on GStreamer's system clock,
-    // from which the track's moments count. Every sound is told to the gaps too.
-    MicrophoneStream(GstDevice *device, std::shared_ptr<SoundTrack> track, GstClockTime start,
+    // Has the microphone opened. The user's default is what the sound server says it is now. `start` is the
+    // moment, on GStreamer's system clock, from which the track's moments count. Every sound is told to the
+    // gaps too.
+    MicrophoneStream(const CaptureDevice &device, std::shared_ptr<SoundTrack> track, GstClockTime start,
                      std::shared_ptr<SoundGaps> gaps);
     // The track is given nothing more. Has the microphone closed and does not wait for that.
     ~MicrophoneStream();
@@ -27,7 +28,7 @@ public:
 private:
     struct Microphone;
 
-    bool build(GstDevice *device);
+    bool build(const CaptureDevice &device);
 
     const std::shared_ptr<Microphone> m_microphone;
     // What the closing call will own, made in advance since a destructor must not fail.

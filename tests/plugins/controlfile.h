@@ -15,6 +15,8 @@
 //             not start), read-error (the next frame is an error), ends (the stream ends without an error)
 //   order     how it is told that a running device has gone: error-first (by the stream, then by the
 //             provider), removed-first, removed-only, error-only
+// A section "provider a" or "provider b" has the key
+//   fault     refuses (does not start), dead (nor does it follow the file any more)
 #pragma once
 
 #include <chrono>

@@ -1,4 +1,5 @@
 #include "tests/plugins/provider.h"
+#include "tests/plugins/devicestate.h"
 #include "tests/plugins/testsource.h"
 
 #include <algorithm>
@@ -64,6 +65,18 @@ GstDevice *newDevice(const std::string &section, const DeviceSettings &settings)
     return device;
 }
 
+bool isOf(const std::string &section, const DeviceSettings &settings, const std::string &mark)
+{
+    return section.rfind("provider ", 0) != 0 && settings.value("provider", "a") == mark;
+}
+
+std::string faultOf(const std::string &mark)
+{
+    DeviceSettings provider;
+    look("provider " + mark, &provider);
+    return provider.value("fault");
+}
+
 // Follows the control file while a provider is started.
 class Listing
 {
@@ -98,6 +111,8 @@ private:
     void update()
     {
         const auto file = readControlFile();
+        if (faultOf(m_mark) == "dead")
+            return;
         const auto gone = std::stable_partition(m_listed.begin(), m_listed.end(),
                                                 [&](Listed &listed) { return stays(&listed, *file); });
         for (auto listed = gone; listed != m_listed.end(); ++listed) {
@@ -106,7 +121,7 @@ private:
         }
         m_listed.erase(gone, m_listed.end());
         for (const auto &[section, settings] : *file) {
-            if (settings.value("provider", "a") != m_mark || isListed(section))
+            if (!isOf(section, settings, m_mark) || isListed(section))
                 continue;
             auto *device = GST_DEVICE(gst_object_ref_sink(newDevice(section, settings)));
             m_listed.push_back({section, settings, device});
@@ -165,7 +180,7 @@ GList *probe(GstDeviceProvider *provider)
     GList *devices = nullptr;
     const auto file = readControlFile();
     for (const auto &[section, settings] : *file) {
-        if (settings.value("provider", "a") == markOf(provider))
+        if (isOf(section, settings, markOf(provider)))
             devices = g_list_append(devices, newDevice(section, settings));
     }
     return devices;
@@ -173,6 +188,8 @@ GList *probe(GstDeviceProvider *provider)
 
 gboolean start(GstDeviceProvider *provider)
 {
+    if (!faultOf(markOf(provider)).empty())
+        return FALSE;
     reinterpret_cast<OrvaneTestProviderA *>(provider)->listing = new Listing(provider, markOf(provider));
     return TRUE;
 }

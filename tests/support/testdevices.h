@@ -47,6 +47,7 @@ public:
     // The section of that name, made when it is new. Nothing happens before write().
     Section &camera(const QString &id);
     Section &microphone(const QString &id);
+    Section &provider(const QString &mark);
 
     // Replaces the file in one step; ends the test program when it cannot. The devices follow within some 20
     // ms.
