@@ -3,7 +3,11 @@
 #include "platform/capturemode.h"
 #include "platform/requiredelements.h"
 
+#include <QHash>
+#include <QRegularExpression>
+
 #include <algorithm>
+#include <numeric>
 
 namespace
 {
@@ -34,6 +38,46 @@ QString withoutScheme(const QString &path)
 {
     const int slash = path.indexOf(QLatin1Char('/'));
     return slash > 0 ? path.mid(slash) : path;
+}
+
+// Some providers write a hexadecimal number with its mark, some without.
+QString withoutMark(const QString &number)
+{
+    return number.startsWith(QLatin1String("0x")) ? number.mid(2) : number;
+}
+
+// The sound card "hw:0,1" of the kernel's sound.
+QString soundCardNode(GstDevice *device)
+{
+    if (!g_object_class_find_property(G_OBJECT_GET_CLASS(device), "internal-name"))
+        return {};
+    gchar *name = nullptr;
+    g_object_get(device, "internal-name", &name, nullptr);
+    const TextHandle owned(name);
+    static const QRegularExpression card(QStringLiteral("^hw:(\\d+),(\\d+)$"));
+    const QRegularExpressionMatch match = card.match(QString::fromUtf8(name));
+    return match.hasMatch() ? QStringLiteral("/dev/snd/pcmC%1D%2c").arg(match.captured(1), match.captured(2))
+                            : QString();
+}
+
+// The kernel's way to a USB camera ends with its port, as "...-usb-0:6:1.0" or "...-usbv2-0:6:1.0".
+QString usbPortOf(const QString &busPath)
+{
+    static const QRegularExpression usb(QStringLiteral("-usb[^-]*-\\d+:([\\d.]+:\\d+\\.\\d+)$"));
+    return usb.match(busPath).captured(1);
+}
+
+// libcamera names a USB camera by the way to its port, the port and the make: "...-6:1.0-046d:0825".
+void describeLibcamera(const QString &id, CaptureDevice *described)
+{
+    static const QRegularExpression usb(
+        QStringLiteral("-([\\d.]+:\\d+\\.\\d+)-([0-9a-f]{4}):([0-9a-f]{4})$"));
+    const QRegularExpressionMatch match = usb.match(id);
+    if (!match.hasMatch())
+        return;
+    described->usbPort = match.captured(1);
+    described->vendor = match.captured(2);
+    described->product = match.captured(3);
 }
 
 bool isTrue(const GstStructure *properties, const char *name)
@@ -98,11 +142,15 @@ CaptureDevice describeDevice(GstDevice *device, const QString &provider)
     described.node = described.isDirect
                          ? ownNode
                          : withoutScheme(firstProperty(properties, {"api.v4l2.path", "object.path"}));
-    described.vendor = firstProperty(properties, {"device.vendor.id", "device.vendor.name"});
-    described.product = firstProperty(properties, {"device.product.id", "device.product.name"});
+    if (provider == QLatin1String("alsadeviceprovider"))
+        described.node = soundCardNode(device);
+    described.vendor = withoutMark(firstProperty(properties, {"device.vendor.id", "device.vendor.name"}));
+    described.product = withoutMark(firstProperty(properties, {"device.product.id", "device.product.name"}));
     described.serial = property(properties, "device.serial");
     described.busPath =
         firstProperty(properties, {"device.bus_path", "device.bus-path", "v4l2.device.bus_info"});
+    described.usbPort = usbPortOf(described.busPath);
+    describeLibcamera(property(properties, "api.libcamera.path"), &described);
     described.isDefault = isTrue(properties, "is-default");
     described.isMonitor = property(properties, "device.class") == QLatin1String("monitor") ||
                           described.name.startsWith(QLatin1String("Monitor of "));
@@ -123,6 +171,8 @@ bool isSameDevice(const CaptureDevice &a, const CaptureDevice &b)
         return true;
     if (!a.node.isEmpty() && !b.node.isEmpty())
         return a.node == b.node;
+    if (!a.usbPort.isEmpty() && !b.usbPort.isEmpty() && a.provider != b.provider)
+        return a.usbPort == b.usbPort && a.vendor == b.vendor && a.product == b.product;
     if (!a.busPath.isEmpty() && !b.busPath.isEmpty())
         return a.busPath == b.busPath && a.vendor == b.vendor && a.product == b.product &&
                a.serial == b.serial;
@@ -168,6 +218,21 @@ std::vector<CaptureDevice> mergeCameras(const std::vector<CaptureDevice> &listed
             *known = device;
     }
     return merged;
+}
+
+QStringList choiceNames(const std::vector<CaptureDevice> &cameras)
+{
+    std::vector<size_t> byPort(cameras.size());
+    std::iota(byPort.begin(), byPort.end(), 0);
+    std::stable_sort(byPort.begin(), byPort.end(),
+                     [&](size_t a, size_t b) { return cameras[a].busPath < cameras[b].busPath; });
+    QHash<QString, int> counts;
+    std::vector<QString> names(cameras.size());
+    for (const size_t i : byPort) {
+        const int number = ++counts[cameras[i].name];
+        names[i] = number > 1 ? QStringLiteral("%1 %2").arg(cameras[i].name).arg(number) : cameras[i].name;
+    }
+    return {names.begin(), names.end()};
 }
 
 const CaptureDevice *defaultMicrophone(const std::vector<CaptureDevice> &listed)

@@ -3,6 +3,7 @@
 #include "platform/gsthandles.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <vector>
@@ -12,11 +13,12 @@ struct CaptureDevice {
     std::shared_ptr<GstDevice> device;
     QString provider; // factory name of the provider that lists it
     QString name;     // what the user reads
-    QString node;     // device node, "/dev/video0"; empty when the provider does not tell
-    QString vendor;   // of the hardware, as are the next three; each may be empty
+    QString node; // device node, "/dev/video0" or "/dev/snd/pcmC0D0c"; empty when the provider does not tell
+    QString vendor; // of the hardware, as are the next four; each may be empty
     QString product;
     QString serial;
     QString busPath;
+    QString usbPort;        // port and interface, "6:1.0", where the bus path tells them
     bool isDirect = false;  // the kernel's own device rather than a sound or picture server's view of it
     bool isDefault = false; // the user's chosen microphone
     bool isMonitor = false; // what a loudspeaker plays, offered as a source
@@ -39,6 +41,10 @@ const CaptureDevice *findAgain(const std::vector<CaptureDevice> &listed, const C
 // The cameras of all providers, in the order given, each piece of hardware once. Where the kernel's own
 // device and a server's view of it are both there, the kernel's stands.
 std::vector<CaptureDevice> mergeCameras(const std::vector<CaptureDevice> &listed);
+
+// What the user reads of these cameras, in their order. Where several have one name, a number behind it tells
+// them apart, from the second on, in the order of their ports.
+QStringList choiceNames(const std::vector<CaptureDevice> &cameras);
 
 // The microphone that a movie is recorded with: the user's default, else the first of the sound servers,
 // else the first at all. Null when there is none; loudspeakers' monitors never count.

@@ -4,8 +4,16 @@
 #include "platform/providerwatch.h"
 #include "util/files/alivewait.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+
 #include <algorithm>
+#include <thread>
 #include <utility>
+
+#include <sys/stat.h>
 
 namespace
 {
@@ -13,19 +21,71 @@ namespace
 // A provider without its server answers in milliseconds; one that takes longer than this hangs.
 constexpr auto firstListingLimit = std::chrono::milliseconds(1500);
 
+// After a change in a folder: nodes get their permissions, and servers answer, a little later.
+constexpr auto settlingTime = std::chrono::milliseconds(500);
+
+constexpr char deviceFolder[] = "/dev";
 constexpr char soundCardFolder[] = "/dev/snd";
+constexpr char soundCardProvider[] = "alsadeviceprovider";
+// A sound server that starts anew has another one of these in the user's run folder.
+constexpr const char *serverFiles[] = {"pulse/pid", "pulse/native", "pipewire-0", "pipewire-0.lock"};
 
 constexpr char cameraClass[] = "Video/Source";
 constexpr char microphoneClass[] = "Audio/Source";
+
+QString runFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+}
+
+// Which sound servers there are: another text once one has come, gone or started anew.
+QString serversNow()
+{
+    QString servers;
+    for (const char *file : serverFiles) {
+        struct stat status = {};
+        const QByteArray path = QFile::encodeName(runFolder() + QLatin1Char('/') + QLatin1String(file));
+        if (stat(path.constData(), &status) == 0)
+            servers += QStringLiteral("%1 %2 %3;")
+                           .arg(status.st_ino)
+                           .arg(status.st_ctim.tv_sec)
+                           .arg(status.st_ctim.tv_nsec);
+    }
+    return servers;
+}
+
+QString soundCardsNow()
+{
+    const QDir::Filters all = QDir::System | QDir::Files;
+    return QDir(QString::fromLatin1(soundCardFolder)).entryList(all).join(QLatin1Char(' '));
+}
+
+bool isSoundServers(const ProviderWatch &provider)
+{
+    return provider.name() == QLatin1String("pulsedeviceprovider") ||
+           provider.name() == QLatin1String("pipewiredeviceprovider");
+}
+
+bool isSoundCards(const ProviderWatch &provider)
+{
+    return provider.name() == QLatin1String(soundCardProvider);
+}
+
+bool isNotKernels(const ProviderWatch &provider)
+{
+    return provider.name() != QLatin1String("v4l2deviceprovider");
+}
+
+bool isNamed(GstPluginFeature *feature, const char *name)
+{
+    return g_strcmp0(gst_plugin_feature_get_name(feature), name) == 0;
+}
 
 // The kernel's cameras first: where a server lists the same camera too, the order of the list must not
 // depend on which of the two was quicker.
 bool comesFirst(GstPluginFeature *a, GstPluginFeature *b)
 {
-    const auto isKernels = [](GstPluginFeature *feature) {
-        return g_strcmp0(gst_plugin_feature_get_name(feature), "v4l2deviceprovider") == 0;
-    };
-    return isKernels(a) && !isKernels(b);
+    return isNamed(a, "v4l2deviceprovider") && !isNamed(b, "v4l2deviceprovider");
 }
 
 // A provider that is ranked NONE is switched off, as everywhere in GStreamer.
@@ -64,6 +124,14 @@ DeviceWatch::DeviceWatch() : m_firstListingLimit(firstListingLimit)
 {
     if (!startGStreamer())
         return;
+    addProviders();
+    watchFolders();
+    for (const auto &provider : m_providers)
+        provider->start();
+}
+
+void DeviceWatch::addProviders()
+{
     GList *factories = providerFactories();
     std::vector<GstPluginFeature *> ordered;
     for (GList *link = factories; link; link = link->next)
@@ -78,12 +146,38 @@ DeviceWatch::DeviceWatch() : m_firstListingLimit(firstListingLimit)
         ProviderHandle provider(gst_device_provider_factory_get(factory));
         if (!provider)
             continue;
-        m_providers.push_back(
-            std::make_unique<ProviderWatch>(std::move(provider), factory, [this] { emit changed(); }));
-        m_providers.back()->start();
+        const bool isCards = isNamed(feature, soundCardProvider);
+        m_providers.push_back(std::make_unique<ProviderWatch>(
+            std::move(provider), factory, [this, isCards] { return !isCards || mayLookForSoundCards(); },
+            [this] { emit changed(); }));
     }
     gst_plugin_feature_list_free(factories);
-    watchSoundCards();
+}
+
+// Looking for sound cards opens each, which takes it from a sound server that is just opening it.
+bool DeviceWatch::mayLookForSoundCards() const
+{
+    constexpr auto period = std::chrono::milliseconds(20);
+    const auto isLate = [](const auto &provider) {
+        return isSoundServers(*provider) && !provider->isFirstListingDone();
+    };
+    while (!m_firstListingLimit.hasExpired() && std::any_of(m_providers.begin(), m_providers.end(), isLate))
+        std::this_thread::sleep_for(period);
+    return !hasSoundServer();
+}
+
+bool DeviceWatch::hasSoundServer() const
+{
+    for (const auto &provider : m_providers) {
+        if (!isSoundServers(*provider))
+            continue;
+        // A picture server may run without minding the sound.
+        const bool mindsSound = provider->name() == QLatin1String("pulsedeviceprovider") ||
+                                !provider->devices(microphoneClass).empty();
+        if (provider->isRunning() && mindsSound)
+            return true;
+    }
+    return false;
 }
 
 DeviceWatch::~DeviceWatch() = default;
@@ -154,14 +248,47 @@ void DeviceWatch::setAside(const CaptureDevice &camera, QThread *opening)
         takeBack();
 }
 
-// The sound cards' provider announces nothing, so the kernel's folder of them is what tells.
-void DeviceWatch::watchSoundCards()
+// The sound cards' provider announces nothing, and no provider tells that its server has ended.
+void DeviceWatch::watchFolders()
 {
-    m_soundCards.addPath(QString::fromLatin1(soundCardFolder));
-    connect(&m_soundCards, &QFileSystemWatcher::directoryChanged, this, [this] {
-        for (const auto &provider : m_providers) {
-            if (!provider->announcesChanges())
-                provider->relist();
-        }
-    });
+    m_soundCards = soundCardsNow();
+    m_servers = serversNow();
+    m_settling.setSingleShot(true);
+    m_settling.setInterval(settlingTime);
+    connect(&m_settling, &QTimer::timeout, this, &DeviceWatch::lookAtFolders);
+    const auto settle = [this] { m_settling.start(); };
+    connect(&m_folders, &QFileSystemWatcher::directoryChanged, this, settle);
+    connect(
+        this, &DeviceWatch::changed, this,
+        [this] {
+            if (std::exchange(m_hadSoundServer, hasSoundServer()) != m_hadSoundServer)
+                restartAll(isSoundCards);
+        },
+        Qt::QueuedConnection);
+    lookAtFolders();
+}
+
+void DeviceWatch::lookAtFolders()
+{
+    // A folder that was not there could not be watched.
+    for (const QString &folder : {QString::fromLatin1(deviceFolder), QString::fromLatin1(soundCardFolder),
+                                  runFolder(), QString(runFolder() + QStringLiteral("/pulse"))}) {
+        if (!m_folders.directories().contains(folder) && QFileInfo::exists(folder))
+            m_folders.addPath(folder);
+    }
+    const QString servers = serversNow();
+    const QString cards = soundCardsNow();
+    if (std::exchange(m_servers, servers) != servers)
+        restartAll(isNotKernels);
+    else if (std::exchange(m_soundCards, cards) != cards)
+        restartAll(isSoundCards);
+    m_soundCards = cards;
+}
+
+void DeviceWatch::restartAll(bool (*which)(const ProviderWatch &))
+{
+    for (const auto &provider : m_providers) {
+        if (which(*provider))
+            provider->restart();
+    }
 }

@@ -6,6 +6,7 @@
 #include <QFileSystemWatcher>
 #include <QObject>
 #include <QThread>
+#include <QTimer>
 
 #include <memory>
 #include <vector>
@@ -55,11 +56,20 @@ private:
     ~DeviceWatch() override;
     void awaitFirstListing(const char *deviceClass);
     std::vector<CaptureDevice> listed(const char *deviceClass) const;
-    void watchSoundCards();
+    void addProviders();
+    bool mayLookForSoundCards() const;
+    bool hasSoundServer() const;
+    void watchFolders();
+    void lookAtFolders();
+    void restartAll(bool (*which)(const ProviderWatch &));
 
     std::vector<std::unique_ptr<ProviderWatch>> m_providers;
     std::vector<std::shared_ptr<GstDevice>> m_setAside;
     const QDeadlineTimer m_firstListingLimit;
     bool m_isLatenessTold = false;
-    QFileSystemWatcher m_soundCards;
+    QFileSystemWatcher m_folders; // where the kernel shows sound cards, and servers themselves
+    QTimer m_settling;
+    QString m_soundCards; // as seen last, as the next two
+    QString m_servers;
+    bool m_hadSoundServer = false;
 };

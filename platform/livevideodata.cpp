@@ -293,12 +293,9 @@ QStringList LiveVideoData::GetVideoDeviceList()
 {
     const QPointer<LiveVideoData> self(this);
     const std::vector<CaptureDevice> listed = awaitCameras();
-    QStringList names;
-    for (const CaptureDevice &camera : listed)
-        names << camera.name;
     if (self)
         m_lastList = listed;
-    return names;
+    return choiceNames(listed);
 }
 
 void LiveVideoData::SetVideoDevice(int index)

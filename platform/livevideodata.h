@@ -81,7 +81,8 @@ public:
     // The sizes that the camera offers, "640x480" and so on, smallest to largest; empty without a camera.
     QStringList GetResoList() const;
 
-    // The names of the cameras that are there now, each once.
+    // The names of the cameras that are there now, each once; of several with one name the second ends in
+    // " 2", and so on.
     QStringList GetVideoDeviceList();
     // Chooses a camera of the list last returned, for the next Create(). Another index changes nothing.
     void SetVideoDevice(int index);

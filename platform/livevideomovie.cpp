@@ -39,20 +39,23 @@ void LiveVideoData::startMovie(const QString &path)
     const QPointer<LiveVideoData> self(this);
     const std::vector<CaptureDevice> microphones = awaitMicrophones();
     const CaptureDevice *microphone = defaultMicrophone(microphones);
-    const FramePtr frame = self && microphone ? awaitFrame() : FramePtr();
-    if (!frame)
+    const FramePtr atPress = self && microphone ? awaitFrame() : FramePtr();
+    if (!atPress)
         return;
     MovieSettings settings;
     settings.path = path;
-    settings.picture = frame->info;
+    settings.picture = atPress->info;
     if (m_mode.rateNumerator > 0)
         settings.framesPerSecond = qMax(1, qRound(m_mode.framesPerSecond()));
     settings.microphone = *microphone;
     const auto movie = std::make_shared<MovieRecorder>(settings);
     m_startingMovie = movie;
     m_grabThread->setSink(movie);
+    // The newest of now: what comes after it goes to the movie already.
+    const FramePtr newest = m_grabThread->newest();
+    const FramePtr first = newest ? newest : atPress;
     const auto isStarted =
-        doAside([movie, frame, zoom = m_zoom] { return movie->start(*frame, zoom); }, startWait);
+        doAside([movie, first, zoom = m_zoom] { return movie->start(first, zoom); }, startWait);
     if (!self || m_startingMovie != movie) {
         movie->discard(); // ended before it had begun
         return;

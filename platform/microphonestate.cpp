@@ -1,5 +1,7 @@
 #include "platform/microphonestate.h"
 
+#include "platform/soundformat.h"
+
 #include <algorithm>
 
 namespace
@@ -45,6 +47,13 @@ std::optional<bool> MicrophoneState::isUsable() const
     if (m_lastSound || (m_openedAt && Clock::now() - *m_openedAt > refusalLimit))
         return true;
     return {};
+}
+
+bool MicrophoneState::givesSound() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_failure.isEmpty() && m_lastSound &&
+           Clock::now() - *m_lastSound < std::chrono::duration<double>(mostSoundDelay);
 }
 
 bool MicrophoneState::hasAnswered() const

@@ -2,6 +2,7 @@
 
 #include "platform/movielimits.h"
 #include "platform/requiredelements.h"
+#include "platform/soundformat.h"
 
 #include <QFile>
 
@@ -21,7 +22,6 @@ constexpr GstClockTime seldomIndexPeriod = 20 * GST_SECOND;
 // The index takes 4 bytes for a sample's size and 8 for its duration where frames come unevenly; twice that
 // leaves room for key frames and chunks. An index that outgrows its place ends the movie.
 constexpr int indexBytesPerFrame = 24;
-constexpr int soundRate = 48000;
 constexpr int soundPacketSamples = 1024;
 constexpr int soundPacketsPerSecond = soundRate / soundPacketSamples + 1;
 constexpr int leastIndexBytesPerSecond = indexBytesPerFrame * soundPacketsPerSecond;
@@ -33,8 +33,6 @@ constexpr guint leastPictureKilobits = 500;
 // A key frame every two seconds keeps jumping about in the player quick.
 constexpr int secondsPerKeyFrame = 2;
 
-// Sound may arrive this much later than the picture before silence stands in for it.
-constexpr GstClockTime soundLatency = 100 * GST_MSECOND;
 constexpr int soundBitRate = 128000;
 
 // Holds the encoded streams while the muxer waits for the disk: a minute and more of movie.
@@ -133,18 +131,23 @@ GstElement *addFile(Assembly &assembly, const QString &path)
     return file;
 }
 
+// Not live: the muxer waits for the later of the two.
+GstElement *addSource(Assembly &assembly, GstCaps *caps)
+{
+    GstElement *source = assembly.add("appsrc");
+    if (source)
+        g_object_set(source, "caps", caps, "format", GST_FORMAT_TIME, "block", FALSE, "max-bytes", guint64(0),
+                     nullptr);
+    return source;
+}
+
 GstElement *addPictures(Assembly &assembly, const MovieSettings &settings)
 {
-    GstElement *pictures = assembly.add("appsrc");
-    if (!pictures)
-        return nullptr;
     GstVideoInfo info = settings.picture;
     info.fps_n = settings.framesPerSecond;
     info.fps_d = 1;
     const CapsHandle caps(gst_video_info_to_caps(&info));
-    g_object_set(pictures, "caps", caps.get(), "is-live", TRUE, "format", GST_FORMAT_TIME, "block", FALSE,
-                 "max-bytes", guint64(0), nullptr);
-    return pictures;
+    return addSource(assembly, caps.get());
 }
 
 } // namespace
@@ -163,30 +166,29 @@ MoviePipeline buildMoviePipeline(const MovieSettings &settings)
                     assembly.addFilter("video/x-raw,format=I420"), addVideoEncoder(assembly, settings),
                     assembly.add("h264parse"), movie.pictureQueue, movie.muxer});
 
-    // The sound track is a live silence on which the microphone lies: a microphone that opens late, stalls
-    // or is pulled out leaves a gap in the sound and holds nothing up.
-    movie.silence = assembly.add("audiotestsrc");
-    movie.mixer = assembly.add("audiomixer");
-    movie.soundEncoder = assembly.add(RequiredElements::aacEncoder().constData());
-    assembly.chain({movie.silence, assembly.addFilter("audio/x-raw,format=F32LE,rate=48000,channels=2"),
-                    movie.mixer, assembly.add("audioconvert"), movie.soundEncoder, assembly.add("aacparse"),
-                    addMuxQueue(assembly), movie.muxer});
+    const CapsHandle caps(gst_caps_from_string(soundCaps));
+    movie.sound = addSource(assembly, caps.get());
+    movie.soundQueue = addMuxQueue(assembly);
+    GstElement *encoder = assembly.add(RequiredElements::aacEncoder().constData());
+    assembly.chain({movie.sound, assembly.add("audioconvert"), encoder, assembly.add("aacparse"),
+                    movie.soundQueue, movie.muxer});
     if (!assembly.isComplete())
         return {};
-    g_object_set(movie.silence, "is-live", TRUE, nullptr);
-    gst_util_set_object_arg(G_OBJECT(movie.silence), "wave", "silence");
-    g_object_set(movie.mixer, "latency", guint64(soundLatency), nullptr);
-    g_object_set(movie.soundEncoder, "bitrate", soundBitRate, nullptr);
+    g_object_set(encoder, "bitrate", soundBitRate, nullptr);
     movie.pipeline = assembly.take();
     return movie;
 }
 
+// What the muxer is behind with waits in both queues; in one alone it only waits for the other.
 void paceIndex(const MoviePipeline &movie)
 {
-    guint64 waiting = 0;
-    g_object_get(movie.pictureQueue, "current-level-time", &waiting, nullptr);
+    guint64 pictures = 0;
+    guint64 sound = 0;
+    g_object_get(movie.pictureQueue, "current-level-time", &pictures, nullptr);
+    g_object_get(movie.soundQueue, "current-level-time", &sound, nullptr);
+    const bool isBehind = qMin(pictures, sound) >= indexPeriod;
     g_object_set(movie.muxer, "reserved-moov-update-period",
-                 guint64(waiting < indexPeriod ? indexPeriod : seldomIndexPeriod), nullptr);
+                 guint64(isBehind ? seldomIndexPeriod : indexPeriod), nullptr);
 }
 
 qint64 waitingBytes(const MoviePipeline &movie)
@@ -196,9 +198,9 @@ qint64 waitingBytes(const MoviePipeline &movie)
     return bytes;
 }
 
-GstClockTime soundDelay()
+double soundDelay()
 {
-    return gst_util_uint64_scale(soundPacketSamples, GST_SECOND, soundRate);
+    return double(soundPacketSamples) / soundRate;
 }
 
 qint64 mostBytesPerSecond(const MovieSettings &settings)

@@ -7,10 +7,9 @@ struct MoviePipeline {
     ElementHandle pipeline;
     GstElement *muxer = nullptr;        // writes the index
     GstElement *pictureQueue = nullptr; // encoded pictures that wait for the muxer, and it for the disk
+    GstElement *soundQueue = nullptr;   // the same of the sound
     GstElement *pictures = nullptr;     // appsrc that takes the frames
-    GstElement *silence = nullptr;      // live source under the microphone's sound
-    GstElement *mixer = nullptr;        // where the microphone joins
-    GstElement *soundEncoder = nullptr; // what the mixed sound goes into
+    GstElement *sound = nullptr;        // appsrc that takes the sound, as in platform/soundformat.h
 
     bool isComplete() const { return pipeline != nullptr; }
 };
@@ -22,12 +21,12 @@ MoviePipeline buildMoviePipeline(const MovieSettings &settings);
 // called again and again while the movie runs, from any one thread.
 void paceIndex(const MoviePipeline &movie);
 
-// Bytes of encoded pictures that wait for the disk.
+// Bytes of encoded pictures that wait for the disk, or for the sound beside them.
 qint64 waitingBytes(const MoviePipeline &movie);
 
-// By how much the sound of such a movie is later than its time stamps say, nanoseconds: the encoder puts a
+// By how much the sound of such a movie is later than its time stamps say, seconds: the encoder puts a
 // packet of its own before the first, which no player is told to leave out.
-GstClockTime soundDelay();
+double soundDelay();
 
 // What the encoders of such a movie give at most, in bytes a second.
 qint64 mostBytesPerSecond(const MovieSettings &settings);

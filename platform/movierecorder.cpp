@@ -18,8 +18,11 @@ namespace
 
 using namespace std::chrono_literals;
 
-// Frames that may wait for the encoder; with more of them the end of a movie would take too long.
-constexpr guint64 mostWaitingFrames = 10;
+// What may wait for the start or for the encoder, beside a second's worth of frames; with more of them the
+// end of a movie would take too long.
+constexpr gsize mostWaitingBytes = gsize(128) << 20;
+// With more than these waiting, what waits is a copy: a driver has few buffers.
+constexpr guint64 mostBorrowedFrames = 2;
 
 // How long a slow disk may take nothing of what is left of a movie before it is given up.
 constexpr auto closingLimit = 10s;
@@ -40,14 +43,6 @@ MovieEnd endOf(GstMessage *message)
     return isFull ? MovieEnd::DiskFull : MovieEnd::Failed;
 }
 
-// Ends the sound with the next piece of the silence under it. At any other moment the end of a movie that is
-// stopped at once might come before the sound's beginning, which would undo it.
-GstPadProbeReturn endSound(GstPad *sound, GstPadProbeInfo *, gpointer)
-{
-    gst_pad_send_event(sound, gst_event_new_eos());
-    return GST_PAD_PROBE_REMOVE;
-}
-
 } // namespace
 
 MovieRecorder::MovieRecorder(const MovieSettings &settings)
@@ -57,8 +52,9 @@ MovieRecorder::MovieRecorder(const MovieSettings &settings)
 
 MovieRecorder::~MovieRecorder() = default;
 
-bool MovieRecorder::start(const CapturedFrame &first, const Zoom &zoom)
+bool MovieRecorder::start(const FramePtr &first, const Zoom &zoom)
 {
+    keepFirst(first, zoom);
     m_movie = buildMoviePipeline(m_settings);
     if (!m_movie.isComplete())
         return false;
@@ -67,9 +63,6 @@ bool MovieRecorder::start(const CapturedFrame &first, const Zoom &zoom)
         gst_element_set_state(m_movie.pipeline.get(), GST_STATE_NULL);
         return false;
     }
-    // The muxer counts a track's time from its first frame, so that one must stand at the very start or the
-    // picture would run ahead of the sound.
-    push(first, zoom, 0);
     return beginRecording();
 }
 
@@ -79,17 +72,10 @@ bool MovieRecorder::startPipeline()
     const BusHandle bus(gst_element_get_bus(pipeline));
     gst_bus_set_sync_handler(bus.get(), onMessage, this, nullptr);
 
-    // Time counts from this moment on the clock that the frames' times are of.
-    const ClockHandle clock(gst_system_clock_obtain());
-    gst_pipeline_use_clock(GST_PIPELINE(pipeline), clock.get());
-    gst_element_set_start_time(pipeline, GST_CLOCK_TIME_NONE);
-    m_startTime = gst_clock_get_time(clock.get());
     m_startedAt = std::chrono::steady_clock::now();
-    gst_element_set_base_time(pipeline, m_startTime);
-
     if (gst_element_set_state(pipeline, GST_STATE_PLAYING) == GST_STATE_CHANGE_FAILURE)
         return false;
-    m_sound = std::make_unique<MovieSound>(pipeline, m_movie.mixer, m_settings.microphone);
+    m_sound = std::make_unique<MovieSound>(m_movie.sound, m_startTime, m_settings.microphone);
     return true;
 }
 
@@ -102,6 +88,8 @@ bool MovieRecorder::beginRecording()
         isWanted = !m_isDiscarded;
         if (m_state == State::Starting)
             m_state = m_end == MovieEnd::None ? State::Recording : State::Failed;
+        for (Picture &picture : std::exchange(m_kept, {}))
+            push(std::move(picture));
     }
     if (isWanted)
         std::thread([self = shared_from_this()] { self->watch(); }).detach();
@@ -133,9 +121,6 @@ void MovieRecorder::note(GstMessage *message)
     const bool isError = GST_MESSAGE_TYPE(message) == GST_MESSAGE_ERROR;
     if (!isError && GST_MESSAGE_TYPE(message) != GST_MESSAGE_EOS)
         return;
-    // The movie goes on without its microphone.
-    if (isError && MicrophoneBranch::noteError(message))
-        return;
     if (isError)
         fail(endOf(message), errorText(message));
     const std::lock_guard<std::mutex> lock(m_mutex);
@@ -159,29 +144,56 @@ void MovieRecorder::fail(MovieEnd why, const QString &line)
 
 void MovieRecorder::take(const FramePtr &frame, const Zoom &zoom)
 {
+    if (!gst_video_info_is_equal(&frame->info, &m_settings.picture))
+        return;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
+        if (m_state == State::Starting)
+            keep(frame, zoom);
         if (m_state != State::Recording)
             return;
     }
-    // A frame of the time before the start, still on its way then.
-    if (frame->clockTime < m_startTime || !gst_video_info_is_equal(&frame->info, &m_settings.picture))
-        return;
-    push(*frame, zoom, frame->clockTime - m_startTime + soundDelay());
+    if (!isBehind())
+        push({shown(*frame, zoom), frame->clockTime});
 }
 
-void MovieRecorder::push(const CapturedFrame &frame, const Zoom &zoom, GstClockTime time)
+// A copy of it: a driver whose few buffers are all held gives nothing more.
+void MovieRecorder::keep(const FramePtr &frame, const Zoom &zoom)
+{
+    if (m_keptBytes >= mostWaitingBytes || m_kept.size() >= size_t(m_settings.framesPerSecond))
+        return;
+    BufferHandle pixels = shown(*frame, zoom);
+    if (zoom.isNone())
+        pixels.reset(gst_buffer_copy_deep(pixels.get()));
+    m_keptBytes += gst_buffer_get_size(pixels.get());
+    m_kept.push_back({std::move(pixels), frame->clockTime});
+}
+
+void MovieRecorder::keepFirst(const FramePtr &first, const Zoom &zoom)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (m_kept.empty() || first->clockTime < m_kept.front().clockTime)
+        m_kept.push_front({shown(*first, zoom), first->clockTime});
+    m_startTime = m_nextTime = m_kept.front().clockTime;
+}
+
+bool MovieRecorder::isBehind() const
 {
     auto *pictures = GST_APP_SRC(m_movie.pictures);
-    if (gst_app_src_get_current_level_buffers(pictures) >= mostWaitingFrames)
+    return gst_app_src_get_current_level_bytes(pictures) >= mostWaitingBytes ||
+           gst_app_src_get_current_level_buffers(pictures) >= guint64(m_settings.framesPerSecond);
+}
+
+void MovieRecorder::push(Picture picture)
+{
+    GstBuffer *pixels = picture.pixels.get();
+    if (!pixels || picture.clockTime < m_nextTime)
         return;
-    BufferHandle buffer = shown(frame, zoom);
-    if (!buffer)
-        return;
-    GST_BUFFER_PTS(buffer.get()) = time;
-    GST_BUFFER_DTS(buffer.get()) = GST_CLOCK_TIME_NONE;
-    GST_BUFFER_DURATION(buffer.get()) = GST_CLOCK_TIME_NONE;
-    gst_app_src_push_buffer(pictures, buffer.release());
+    m_nextTime = picture.clockTime + 1;
+    GST_BUFFER_PTS(pixels) = picture.clockTime - m_startTime;
+    GST_BUFFER_DTS(pixels) = GST_CLOCK_TIME_NONE;
+    GST_BUFFER_DURATION(pixels) = GST_CLOCK_TIME_NONE;
+    gst_app_src_push_buffer(GST_APP_SRC(m_movie.pictures), picture.pixels.release());
     paceIndex(m_movie);
 }
 
@@ -235,6 +247,7 @@ void MovieRecorder::finish()
         if (m_state == State::Finishing || m_state == State::Finished)
             return;
         m_state = State::Finishing;
+        m_stopTime = gst_util_get_timestamp();
         m_changed.notify_all();
     }
     // What follows can wait for the disk, or for a driver, so it never runs in the caller's thread.
@@ -267,10 +280,9 @@ bool MovieRecorder::waitForFile(std::chrono::milliseconds limit)
 
 void MovieRecorder::close()
 {
-    m_sound->end();
-    endStreams();
+    gst_app_src_end_of_stream(GST_APP_SRC(m_movie.pictures));
+    m_sound->end(m_stopTime);
     waitForEndOfStreams();
-    m_sound->close();
     gst_element_set_state(m_movie.pipeline.get(), GST_STATE_NULL);
     bool isDiscarded = false;
     {
@@ -295,13 +307,4 @@ void MovieRecorder::waitForEndOfStreams()
             return;
         before = std::exchange(waiting, waitingBytes(m_movie));
     } while (waiting < before);
-}
-
-void MovieRecorder::endStreams()
-{
-    gst_app_src_end_of_stream(GST_APP_SRC(m_movie.pictures));
-    // Behind the mixer: in front of it the end would wait for a microphone that may have stopped giving
-    // sound.
-    const PadHandle sound(gst_element_get_static_pad(m_movie.soundEncoder, "sink"));
-    gst_pad_add_probe(sound.get(), GST_PAD_PROBE_TYPE_BUFFER, endSound, nullptr, nullptr);
 }

@@ -8,6 +8,7 @@
 
 #include <chrono>
 #include <condition_variable>
+#include <deque>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -18,16 +19,17 @@
 class MovieRecorder : public FrameSink, public std::enable_shared_from_this<MovieRecorder>
 {
 public:
-    // Makes nothing yet; frames may be given to it already and count from the start on.
+    // Makes nothing yet; frames may be given to it already and are kept for the start.
     explicit MovieRecorder(const MovieSettings &settings);
     ~MovieRecorder() override;
 
-    // Starts recording with the frame that is on the screen. False when the file cannot be made or an element
-    // is missing. Takes as long as the disk does to open the file. Any thread, once.
-    bool start(const CapturedFrame &first, const Zoom &zoom);
+    // Starts recording; the movie begins with this frame, which is on the screen, or with the first that was
+    // given if that is older. False when the file cannot be made or an element is missing. Takes as long as
+    // the disk does to open the file. Any thread, once.
+    bool start(const FramePtr &first, const Zoom &zoom);
 
-    // Adds a frame of the kind told at the start, showing what the zoom shows. While the encoder is behind by
-    // a third of a second frames are left out rather than kept waiting.
+    // Adds a frame of the kind told at the start, showing what the zoom shows. While the start, or then the
+    // encoder, is behind by a second or by 128 MB frames are left out rather than kept waiting.
     void take(const FramePtr &frame, const Zoom &zoom) override;
 
     // The following wait for nothing, but for waitForFile().
@@ -55,18 +57,26 @@ public:
 private:
     enum class State { Starting, Recording, Failed, Finishing, Finished };
 
+    // A picture as it goes into the movie.
+    struct Picture {
+        BufferHandle pixels;
+        GstClockTime clockTime = 0;
+    };
+
+    void keep(const FramePtr &frame, const Zoom &zoom);
+    void keepFirst(const FramePtr &first, const Zoom &zoom);
     bool startPipeline();
     bool beginRecording();
     static GstBusSyncReply onMessage(GstBus *bus, GstMessage *message, gpointer self);
     void note(GstMessage *message);
     void fail(MovieEnd why, const QString &line);
-    void push(const CapturedFrame &frame, const Zoom &zoom, GstClockTime time);
+    bool isBehind() const;
+    void push(Picture picture);
     BufferHandle shown(const CapturedFrame &frame, const Zoom &zoom);
     void tellShortRoom() const;
     void watch();
     void lookAtRoom();
     void close();
-    void endStreams();
     void waitForEndOfStreams();
 
     const MovieSettings m_settings;
@@ -74,12 +84,16 @@ private:
     MoviePipeline m_movie; // made by start()
     std::unique_ptr<MovieSound> m_sound;
     std::chrono::steady_clock::time_point m_startedAt;
-    GstClockTime m_startTime = 0; // on GStreamer's system clock, as the frames' times are
+    GstClockTime m_startTime = 0; // capture time of the first frame, on GStreamer's system clock
+    GstClockTime m_nextTime = 0;  // the next frame is not older: the first may come twice
     FrameConverter m_zoomer{GST_VIDEO_RESAMPLER_METHOD_LINEAR};
 
     mutable std::mutex m_mutex; // guards all below
     std::condition_variable m_changed;
     State m_state = State::Starting;
+    GstClockTime m_stopTime = 0; // set when it becomes Finishing
+    std::deque<Picture> m_kept;  // for the start
+    gsize m_keptBytes = 0;
     MovieEnd m_end = MovieEnd::None;
     bool m_isDiscarded = false;
     bool m_isFileComplete = false;

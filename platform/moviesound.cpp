@@ -2,6 +2,10 @@
 
 #include "platform/capturelog.h"
 #include "platform/devicewatch.h"
+#include "platform/moviepipeline.h"
+#include "platform/soundformat.h"
+
+#include <gst/app/gstappsrc.h>
 
 #include <algorithm>
 
@@ -11,11 +15,22 @@ namespace
 using namespace std::chrono_literals;
 
 constexpr auto pauseBetweenTries = 1s;
+constexpr std::chrono::milliseconds lastSoundLimit(qint64(mostSoundDelay * 1000));
+
+SoundTrack::Writer writerTo(GstElement *source)
+{
+    return [source](const std::vector<float> &frames, qint64 first) {
+        GstBuffer *sound = gst_buffer_new_memdup(frames.data(), frames.size() * sizeof(float));
+        GST_BUFFER_PTS(sound) = gst_util_uint64_scale(guint64(first), GST_SECOND, soundRate);
+        gst_app_src_push_buffer(GST_APP_SRC(source), sound);
+    };
+}
 
 } // namespace
 
-MovieSound::MovieSound(GstElement *pipeline, GstElement *mixer, const CaptureDevice &microphone)
-    : m_pipeline(pipeline), m_mixer(mixer), m_wanted(microphone)
+MovieSound::MovieSound(GstElement *sound, GstClockTime start, const CaptureDevice &microphone)
+    : m_sound(sound), m_start(start), m_track(std::make_shared<SoundTrack>(soundDelay(), writerTo(sound))),
+      m_wanted(microphone)
 {
     open(microphone);
     m_first = m_present;
@@ -25,10 +40,11 @@ void MovieSound::open(const CaptureDevice &microphone)
 {
     m_lastTry = MicrophoneState::Clock::now();
     m_microphone = microphone;
-    m_branch = std::make_unique<MicrophoneBranch>(m_pipeline, m_mixer, microphone.device.get(), m_gaps);
-    m_openings.push_back({microphone.device, m_branch->state()});
+    m_track->breakOff();
+    m_stream = std::make_unique<MicrophoneStream>(microphone, m_track, m_start, m_gaps);
+    m_openings.push_back({microphone.device, m_stream->state()});
     const std::lock_guard<std::mutex> lock(m_presentMutex);
-    m_present = m_branch->state();
+    m_present = m_stream->state();
 }
 
 // A microphone that stays away would else be told of every second.
@@ -42,16 +58,17 @@ void MovieSound::tell(const QString &loss)
 
 void MovieSound::lookAfter()
 {
-    const std::lock_guard<std::mutex> lock(m_branchMutex);
+    const std::lock_guard<std::mutex> lock(m_streamMutex);
     if (m_hasEnded)
         return;
+    m_track->fill(sinceStart(gst_util_get_timestamp()));
     const std::vector<CaptureDevice> listed = DeviceWatch::instance().microphones();
-    if (m_branch) {
+    if (m_stream) {
         const QString why = loss(listed);
         if (why.isEmpty())
             return;
         tell(why);
-        m_branch.reset();
+        m_stream.reset();
         const std::lock_guard<std::mutex> presentLock(m_presentMutex);
         m_present.reset();
     }
@@ -63,7 +80,7 @@ void MovieSound::lookAfter()
 
 QString MovieSound::loss(const std::vector<CaptureDevice> &listed) const
 {
-    const QString why = m_branch->state()->loss();
+    const QString why = m_stream->state()->loss();
     return why.isEmpty() && !findAgain(listed, m_microphone) ? QStringLiteral("It was unplugged.") : why;
 }
 
@@ -92,20 +109,24 @@ bool MovieSound::hangs(const CaptureDevice &microphone)
                        [&microphone](const Opening &opening) { return opening.device == microphone.device; });
 }
 
-// Later a microphone's sound may end only because the movie's does.
-void MovieSound::end()
+void MovieSound::end(GstClockTime moment)
 {
-    const std::lock_guard<std::mutex> lock(m_branchMutex);
+    const std::lock_guard<std::mutex> lock(m_streamMutex);
     m_hasEnded = true;
-    const QString why = m_branch ? m_branch->state()->loss() : QString();
+    const QString why = m_stream ? m_stream->state()->loss() : QString();
     if (!why.isEmpty())
         tell(why);
+    m_track->endAt(sinceStart(moment));
+    if (m_stream && m_stream->state()->givesSound())
+        m_track->waitForLast(lastSoundLimit);
+    m_stream.reset();
+    m_track->close();
+    gst_app_src_end_of_stream(GST_APP_SRC(m_sound));
 }
 
-void MovieSound::close()
+double MovieSound::sinceStart(GstClockTime moment) const
 {
-    const std::lock_guard<std::mutex> lock(m_branchMutex);
-    m_branch.reset();
+    return double(GST_CLOCK_DIFF(m_start, moment)) / GST_SECOND;
 }
 
 std::optional<bool> MovieSound::isUsable() const

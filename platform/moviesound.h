@@ -1,32 +1,33 @@
 #pragma once
 
 #include "platform/capturedevice.h"
-#include "platform/microphonebranch.h"
+#include "platform/microphonestream.h"
+#include "platform/soundtrack.h"
 
 #include <memory>
 #include <mutex>
 #include <optional>
 #include <vector>
 
-// Keeps a movie in sound: one microphone at a time lies on the movie's mixer, and where it is lost it is
-// tried again, in turn with the default one, until one gives sound.
+// Keeps a movie in sound: one microphone at a time gives its sound to the movie's track, and where it is lost
+// it is tried again, in turn with the default one, until one gives sound.
 class MovieSound
 {
 public:
-    // Has the microphone opened. The elements are borrowed until close(), and the pipeline runs.
-    MovieSound(GstElement *pipeline, GstElement *mixer, const CaptureDevice &microphone);
-    // close() has been called.
+    // Has the microphone opened. The appsrc, which takes the track, is borrowed until end() has been called.
+    // `start` is the moment on GStreamer's system clock at which the movie begins.
+    MovieSound(GstElement *sound, GstClockTime start, const CaptureDevice &microphone);
     ~MovieSound() = default;
     MovieSound(const MovieSound &) = delete;
     MovieSound &operator=(const MovieSound &) = delete;
 
-    // Takes out a microphone that is lost, and tries one where there is none. To be called several times a
-    // second, on a thread that may wait for the pipeline a little.
+    // Takes out a microphone that is lost, and tries one where there is none; has silence stand in. To be
+    // called several times a second.
     void lookAfter();
-    // The movie ends: nothing is looked after any more. Tells the log of a microphone that is lost already.
-    void end();
-    // Takes the microphone out; waits as lookAfter() does. After end().
-    void close();
+    // The movie ends at this moment of GStreamer's system clock. Waits for what is still to come of its
+    // sound, three quarters of a second at most, closes the microphone and ends the track. Tells the log of
+    // a microphone that is lost already.
+    void end(GstClockTime moment);
 
     // Whether the present microphone is usable, and whether the first one ever was; nothing while that is not
     // known. These wait for nothing.
@@ -46,15 +47,17 @@ private:
     QString loss(const std::vector<CaptureDevice> &listed) const;
     const CaptureDevice *next(const std::vector<CaptureDevice> &listed);
     bool hangs(const CaptureDevice &microphone);
+    double sinceStart(GstClockTime moment) const;
 
-    GstElement *const m_pipeline;
-    GstElement *const m_mixer;
+    GstElement *const m_sound;
+    const GstClockTime m_start;
+    const std::shared_ptr<SoundTrack> m_track;
     const CaptureDevice m_wanted;
     const std::shared_ptr<SoundGaps> m_gaps = std::make_shared<SoundGaps>();
 
-    std::mutex m_branchMutex;   // guards down to the next comment
-    CaptureDevice m_microphone; // of the branch
-    std::unique_ptr<MicrophoneBranch> m_branch;
+    std::mutex m_streamMutex;   // guards down to the next comment
+    CaptureDevice m_microphone; // of the stream
+    std::unique_ptr<MicrophoneStream> m_stream;
     std::vector<Opening> m_openings; // that have not been answered
     MicrophoneState::Clock::time_point m_lastTry;
     bool m_isDefaultsTurn = false;
@@ -62,6 +65,6 @@ private:
     QString m_told; // what the log has last
 
     mutable std::mutex m_presentMutex;                // guards m_present
-    std::shared_ptr<const MicrophoneState> m_present; // null while there is no branch
+    std::shared_ptr<const MicrophoneState> m_present; // null while there is no stream
     std::shared_ptr<const MicrophoneState> m_first;   // never changes
 };

@@ -2,13 +2,34 @@
 
 #include "platform/capturelog.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 #include <iterator>
 #include <thread>
+#include <utility>
 
 namespace
 {
-constexpr char relistCommand[] = "orvane-relist";
+
+using namespace std::chrono_literals;
+
+constexpr char restartCommand[] = "orvane-restart";
+
+constexpr std::chrono::seconds shortestPause = 1s;
+constexpr std::chrono::seconds longestPause = 60s;
+
+// Adds to a new listing what only the old one has and is still there.
+void keepPresent(const std::vector<CaptureDevice> &old, std::vector<CaptureDevice> *listed)
+{
+    for (const CaptureDevice &device : old) {
+        const bool isListed =
+            std::any_of(listed->begin(), listed->end(),
+                        [&device](const CaptureDevice &other) { return other.node == device.node; });
+        if (!isListed && !device.node.isEmpty() && QFileInfo::exists(device.node))
+            listed->push_back(device);
+    }
+}
 
 auto isDevice(GstDevice *device)
 {
@@ -18,9 +39,10 @@ auto isDevice(GstDevice *device)
 } // namespace
 
 ProviderWatch::ProviderWatch(ProviderHandle provider, GstDeviceProviderFactory *factory,
-                             std::function<void()> changed)
+                             std::function<bool()> mayRun, std::function<void()> changed)
     : m_provider(std::move(provider)), m_bus(gst_device_provider_get_bus(m_provider.get())),
-      m_factory(GST_DEVICE_PROVIDER_FACTORY(gst_object_ref(factory))), m_changed(std::move(changed))
+      m_factory(GST_DEVICE_PROVIDER_FACTORY(gst_object_ref(factory))), m_mayRun(std::move(mayRun)),
+      m_changed(std::move(changed))
 {
 }
 
@@ -30,9 +52,9 @@ void ProviderWatch::start()
 }
 
 // The bus is what the thread sleeps on, so a message of our own is what wakes it.
-void ProviderWatch::relist()
+void ProviderWatch::restart()
 {
-    gst_bus_post(m_bus.get(), gst_message_new_application(nullptr, gst_structure_new_empty(relistCommand)));
+    gst_bus_post(m_bus.get(), gst_message_new_application(nullptr, gst_structure_new_empty(restartCommand)));
 }
 
 bool ProviderWatch::announcesChanges() const
@@ -63,16 +85,36 @@ std::vector<CaptureDevice> ProviderWatch::devices(const char *deviceClass) const
 
 void ProviderWatch::run()
 {
-    if (gst_device_provider_start(m_provider.get())) {
-        listAll();
-        follow();
-        return;
+    bool isTold = false;
+    for (auto length = shortestPause;;) {
+        if (startProvider()) {
+            length = shortestPause;
+            isTold = false;
+            listAll();
+            follow();
+            continue;
+        }
+        if (!std::exchange(isTold, true))
+            qCInfo(deviceLog).noquote()
+                << name() + QStringLiteral(": It does not start; its devices are not listed.");
+        setListed({});
+        pause(length);
+        length = std::min(2 * length, longestPause);
     }
-    qCInfo(deviceLog).noquote() << name() +
-                                       QStringLiteral(": It does not start; its devices are not listed.");
-    m_isFirstListingDone = true;
 }
 
+bool ProviderWatch::startProvider()
+{
+    if (m_isRunning)
+        gst_device_provider_stop(m_provider.get());
+    // What an earlier start announced is not to be heard any more.
+    gst_bus_set_flushing(m_bus.get(), TRUE);
+    gst_bus_set_flushing(m_bus.get(), FALSE);
+    m_isRunning = m_mayRun() && gst_device_provider_start(m_provider.get());
+    return m_isRunning;
+}
+
+// Devices that are only in use are not found anew by some providers, so those whose node is there stay.
 void ProviderWatch::listAll()
 {
     std::vector<CaptureDevice> listed;
@@ -80,19 +122,46 @@ void ProviderWatch::listAll()
     for (GList *link = devices; link; link = link->next)
         listed.push_back(describe(GST_DEVICE(link->data)));
     g_list_free_full(devices, gst_object_unref);
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_listed = std::move(listed);
-    }
-    m_isFirstListingDone = true;
-    m_changed();
+    if (!announcesChanges())
+        keepPresent(m_listed, &listed);
+    setListed(std::move(listed));
 }
 
+void ProviderWatch::setListed(std::vector<CaptureDevice> listed)
+{
+    bool isChange = !listed.empty();
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        isChange = isChange || !m_listed.empty();
+        m_listed = std::move(listed);
+    }
+    if (!m_isFirstListingDone.exchange(true) || isChange)
+        m_changed();
+}
+
+void ProviderWatch::pause(std::chrono::seconds length)
+{
+    const auto end = std::chrono::steady_clock::now() + length;
+    for (auto now = std::chrono::steady_clock::now(); now < end; now = std::chrono::steady_clock::now()) {
+        const MessageHandle message(gst_bus_timed_pop(m_bus.get(), GstClockTime((end - now) / 1ns)));
+        if (message && isRestart(message.get()))
+            return;
+    }
+}
+
+bool ProviderWatch::isRestart(GstMessage *message)
+{
+    return gst_message_has_name(message, restartCommand);
+}
+
+// Until it is to be started afresh.
 void ProviderWatch::follow()
 {
     for (;;) {
         const MessageHandle message(gst_bus_timed_pop(m_bus.get(), GST_CLOCK_TIME_NONE));
         if (!message)
+            continue;
+        if (isRestart(message.get()))
             return;
         react(message.get());
     }
@@ -102,13 +171,6 @@ void ProviderWatch::react(GstMessage *message)
 {
     GstDevice *device = nullptr;
     GstDevice *replaced = nullptr;
-    if (gst_message_has_name(message, relistCommand)) {
-        // Only a fresh start makes a provider without announcements look again.
-        gst_device_provider_stop(m_provider.get());
-        gst_device_provider_start(m_provider.get());
-        listAll();
-        return;
-    }
     switch (GST_MESSAGE_TYPE(message)) {
     case GST_MESSAGE_DEVICE_ADDED:
         gst_message_parse_device_added(message, &device);

@@ -3,6 +3,7 @@
 #include "platform/capturedevice.h"
 
 #include <atomic>
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -13,16 +14,22 @@
 class ProviderWatch
 {
 public:
+    // `mayRun` is asked, in the watching thread, before the provider is started; it may take its time.
     // `changed` is called from the watching thread after each change of the list.
     // The factory, which made the provider, is borrowed.
-    ProviderWatch(ProviderHandle provider, GstDeviceProviderFactory *factory, std::function<void()> changed);
+    ProviderWatch(ProviderHandle provider, GstDeviceProviderFactory *factory, std::function<bool()> mayRun,
+                  std::function<void()> changed);
 
-    // Starts the thread. This object must live as long as the process.
+    // Starts the thread. This object must live as long as the process. A provider that does not start is
+    // tried again after pauses that grow from a second to a minute.
     void start();
-    // Has a provider that announces nothing by itself list its devices afresh.
-    void relist();
+    // Has the provider started afresh: it may not have noticed that its server ended, or it announces nothing
+    // by itself. What is listed stays until it has listed again.
+    void restart();
     // Whether the provider tells of changes by itself.
     bool announcesChanges() const;
+    // Whether it is started.
+    bool isRunning() const { return m_isRunning; }
 
     // Whether the provider lists devices of this class of device ("Video/Source", "Audio/Source").
     bool lists(const char *deviceClass) const;
@@ -37,9 +44,13 @@ public:
 
 private:
     void run();
+    bool startProvider();
     void listAll();
+    void setListed(std::vector<CaptureDevice> listed);
+    void pause(std::chrono::seconds length);
     CaptureDevice describe(GstDevice *device) const;
     void follow();
+    static bool isRestart(GstMessage *message);
     void react(GstMessage *message);
     void add(GstDevice *device);
     void remove(GstDevice *device);
@@ -48,8 +59,10 @@ private:
     const ProviderHandle m_provider;
     const BusHandle m_bus;
     const std::unique_ptr<GstDeviceProviderFactory, GstObjectRelease> m_factory;
+    const std::function<bool()> m_mayRun;
     const std::function<void()> m_changed;
 
+    std::atomic<bool> m_isRunning{false};
     std::atomic<bool> m_isFirstListingDone{false};
     mutable std::mutex m_mutex; // guards m_listed
     std::vector<CaptureDevice> m_listed;

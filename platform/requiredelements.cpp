@@ -2,6 +2,9 @@
 
 #include "platform/gsthandles.h"
 
+#include <QFileInfo>
+#include <QStandardPaths>
+
 #include <vector>
 
 namespace
@@ -19,6 +22,7 @@ const Requirement h264Decoding{{"avdec_h264", "openh264dec"}, "gstreamer1.0-liba
 const Requirement aacEncoding{{"avenc_aac", "fdkaacenc", "voaacenc"}, "gstreamer1.0-libav"};
 
 const Requirement requirements[] = {
+    {{"v4l2src"}, "gstreamer1.0-plugins-good"},
     {{"capsfilter"}, "libgstreamer1.0-0"},
     {{"queue"}, "libgstreamer1.0-0"},
     {{"filesink"}, "libgstreamer1.0-0"},
@@ -27,14 +31,21 @@ const Requirement requirements[] = {
     {{"videoconvert"}, "gstreamer1.0-plugins-base"},
     {{"audioconvert"}, "gstreamer1.0-plugins-base"},
     {{"audioresample"}, "gstreamer1.0-plugins-base"},
-    {{"audiomixer"}, "gstreamer1.0-plugins-base"},
-    {{"audiotestsrc"}, "gstreamer1.0-plugins-base"},
     jpegDecoding,
     {{"x264enc"}, "gstreamer1.0-plugins-ugly"},
     {{"h264parse"}, "gstreamer1.0-plugins-bad"},
     aacEncoding,
     {{"aacparse"}, "gstreamer1.0-plugins-good"},
     {{"qtmux"}, "gstreamer1.0-plugins-good"},
+};
+
+// Of the sound servers, the one that is asked first where both run; by its socket in the user's run folder.
+const struct {
+    const char *socket;
+    Requirement plugIn;
+} soundServers[] = {
+    {"/pulse/native", {{"pulsesrc"}, "gstreamer1.0-pulseaudio"}},
+    {"/pipewire-0", {{"pipewiresrc"}, "gstreamer1.0-pipewire"}},
 };
 
 QByteArray installed(const Requirement &requirement)
@@ -46,6 +57,13 @@ QByteArray installed(const Requirement &requirement)
     return {};
 }
 
+void tellMissing(const Requirement &requirement, QStringList *lines)
+{
+    if (installed(requirement).isEmpty())
+        *lines << QStringLiteral("GStreamer element \"%1\" is not installed (package %2)")
+                      .arg(QLatin1String(requirement.elements.front()), QLatin1String(requirement.package));
+}
+
 } // namespace
 
 namespace RequiredElements
@@ -54,11 +72,14 @@ namespace RequiredElements
 QStringList missing()
 {
     QStringList lines;
-    for (const Requirement &requirement : requirements) {
-        if (installed(requirement).isEmpty())
-            lines << QStringLiteral("GStreamer element \"%1\" is not installed (package %2)")
-                         .arg(QLatin1String(requirement.elements.front()),
-                              QLatin1String(requirement.package));
+    for (const Requirement &requirement : requirements)
+        tellMissing(requirement, &lines);
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    for (const auto &server : soundServers) {
+        if (!QFileInfo::exists(folder + QLatin1String(server.socket)))
+            continue;
+        tellMissing(server.plugIn, &lines);
+        break;
     }
     return lines;
 }

@@ -1,5 +1,8 @@
 #include "tests/platform/moviereader.h"
 
+#include "tests/plugins/counterpicture.h"
+
+#include <algorithm>
 #include <cstdlib>
 
 namespace
@@ -29,7 +32,9 @@ void readFrames(GstElement *sink, MovieContents *contents)
         const QImage picture(static_cast<const uchar *>(GST_VIDEO_FRAME_PLANE_DATA(frame.get(), 0)),
                              info.width, info.height, GST_VIDEO_FRAME_PLANE_STRIDE(frame.get(), 0),
                              QImage::Format_Grayscale8);
-        contents->frames.push_back({seconds(buffer), qGray(picture.pixel(picture.rect().center()))});
+        const auto luma = [&picture](int x, int y) { return qGray(picture.pixel(x, y)); };
+        contents->frames.push_back({seconds(buffer), luma(info.width / 2, info.height / 2),
+                                    readCounter(luma, info.width, info.height)});
         contents->last = picture.copy();
         if (contents->first.isNull())
             contents->first = contents->last;
@@ -49,6 +54,8 @@ void readSound(GstElement *sink, MovieContents *contents)
             const double time = seconds(buffer) + double(i) / 48000;
             if (std::abs(samples[i]) < loud)
                 continue;
+            if (lastLoud >= 0)
+                contents->longestQuiet = std::max(contents->longestQuiet, time - lastLoud);
             if (lastLoud < 0 || time - lastLoud > quietSeconds)
                 contents->loudMoments.push_back(time);
             lastLoud = time;
@@ -80,4 +87,18 @@ MovieContents readMovie(const QString &path)
         gst_app_sink_is_eos(GST_APP_SINK(frames.get())) && gst_app_sink_is_eos(GST_APP_SINK(sound.get()));
     gst_element_set_state(pipeline.get(), GST_STATE_NULL);
     return contents;
+}
+
+std::vector<double> latenesses(const MovieContents &movie)
+{
+    std::vector<double> late;
+    for (size_t i = 1; i < movie.frames.size(); ++i) {
+        if (movie.frames[i].middle < 128 || movie.frames[i - 1].middle >= 128)
+            continue;
+        for (const double beep : movie.loudMoments) {
+            if (std::abs(beep - movie.frames[i].time) < 0.4)
+                late.push_back(beep - movie.frames[i].time);
+        }
+    }
+    return late;
 }

@@ -13,13 +13,15 @@
 struct MovieContents {
     struct Frame {
         double time = 0;
-        int middle = 0; // brightness, 0 to 255
+        int middle = 0;       // brightness, 0 to 255
+        qint64 captured = -1; // of a counter picture: when, in microseconds of the monotonic clock
     };
     std::vector<Frame> frames;
     QImage first; // grey, as last
     QImage last;
     std::vector<double> loudMoments; // where sound begins after quiet
     double lastLoud = -1;            // -1 without any sound
+    double longestQuiet = 0;         // between loud sounds
     double soundLength = 0;
     bool isReadToItsEnd = false;
 
@@ -27,3 +29,6 @@ struct MovieContents {
 };
 
 MovieContents readMovie(const QString &path);
+
+// Of a movie of flashes and beeps: by how many seconds each beep is later than the flash beside it.
+std::vector<double> latenesses(const MovieContents &movie);

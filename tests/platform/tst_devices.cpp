@@ -5,12 +5,40 @@ class TestDeviceLists : public QObject
     Q_OBJECT
 
 private slots:
+    void startsAProviderAgain();
     void listsEachCameraOnceAndNothingElse();
     void knowsMicrophonesFromMonitors();
     void keepsTheChoice();
     void opensTheFirstWhileTheChosenOneIsAway();
     void takesTheSameCameraAgain();
 };
+
+// The first of all tests, as providers are followed for as long as the process runs.
+void TestDeviceLists::startsAProviderAgain()
+{
+    TestDevices devices;
+    devices.provider("b").fault("refuses");
+    devices.camera("direct").name("Direct");
+    devices.camera("served").name("Served").provider("b");
+    devices.write();
+    CameraWindow camera;
+    QVERIFY(camera.lists({"Direct"}));
+    devices.setFault("b", "");
+    QVERIFY(camera.lists({"Direct", "Served"}));
+    // Its server ends, and a new one says so in the user's run folder.
+    devices.setFault("b", "dead");
+    devices.camera("new").name("New").provider("b");
+    devices.pull("served");
+    QTest::qWait(100);
+    QVERIFY(camera.lists({"Direct", "Served"}));
+    devices.setFault("b", "");
+    const QDir folder(qEnvironmentVariable("XDG_RUNTIME_DIR"));
+    QVERIFY(folder.mkpath("pulse"));
+    QFile server(folder.filePath("pulse/pid"));
+    QVERIFY(server.open(QIODevice::WriteOnly));
+    QVERIFY(camera.lists({"Direct", "New"}));
+    QVERIFY(server.remove());
+}
 
 void TestDeviceLists::listsEachCameraOnceAndNothingElse()
 {
@@ -20,6 +48,12 @@ void TestDeviceLists::listsEachCameraOnceAndNothingElse()
     devices.camera("served").property("api.v4l2.path", "/dev/video4").property("device.bus_path", "usb-1");
     devices.camera("direct").provider("a").name("Board Cam: direct");
     devices.camera("direct").property("device.path", "/dev/video4").property("device.bus_path", "usb-1");
+    // As libcamera calls a USB camera, beside the kernel's name for its socket.
+    devices.camera("own way").provider("b").name("Desk Cam, by itself");
+    devices.camera("own way").property("api.libcamera.path", "SB_.PCI0.XHC_.RHUB.HS06-6:1.0-046d:0825");
+    devices.camera("kernel's").name("Desk Cam").property("device.path", "/dev/video6");
+    devices.camera("kernel's").property("device.bus_path", "pci-0000:00:14.0-usb-0:6:1.0");
+    devices.camera("kernel's").property("device.vendor.id", "0x046d").property("device.product.id", "0825");
     // Two of one make, without a serial number, at two sockets, and two that tell nothing of themselves.
     for (const char *socket : {"usb-2", "usb-3"})
         devices.camera(socket)
@@ -35,10 +69,12 @@ void TestDeviceLists::listsEachCameraOnceAndNothingElse()
     devices.write();
 
     CameraWindow camera;
-    QVERIFY(camera.lists({"Board Cam: direct", "Nameless", "Nameless", "Notebook Camera", "Twin", "Twin"}));
+    QVERIFY(camera.lists(
+        {"Board Cam: direct", "Desk Cam", "Nameless", "Nameless 2", "Notebook Camera", "Twin", "Twin 2"}));
     // The list is of this moment, and costs nothing.
     devices.pull("usb-2");
-    QVERIFY(camera.lists({"Board Cam: direct", "Nameless", "Nameless", "Notebook Camera", "Twin"}));
+    QVERIFY(
+        camera.lists({"Board Cam: direct", "Desk Cam", "Nameless", "Nameless 2", "Notebook Camera", "Twin"}));
     QElapsedTimer clock;
     clock.start();
     for (int i = 0; i < 100; ++i)
@@ -132,12 +168,9 @@ void TestDeviceLists::takesTheSameCameraAgain()
     devices.camera("a").name("Twin").property("device.bus_path", "usb-2").formats("YUY2 320x240 30");
     devices.write();
     CameraWindow camera;
-    QVERIFY(camera.lists({"Twin", "Twin"}));
-    for (int i = 0; i < 2 && camera.capture.nativeWidth != 320; ++i) {
-        camera.capture.SetVideoDevice(i);
-        camera.capture.Release();
-        QVERIFY(camera.start());
-    }
+    QVERIFY(camera.lists({"Twin", "Twin 2"}));
+    camera.choose("Twin 2");
+    QVERIFY(camera.start());
     QCOMPARE(camera.capture.nativeWidth, 320);
     for (const char *socket : {"usb-2", "usb-7"}) {
         const int losses = camera.lost.count();

@@ -7,12 +7,16 @@
 //   content   of a camera: page, flash, counter, quarters, or a colour as RRGGBB
 //   damaged   of a JPEG camera: every so manieth frame is
 //   sound     of a microphone: silence, tone or beep
+//   clock     of a microphone: by how many millionths of its rate it is fast
+//   bursts    of a microphone: gives its sound every so many milliseconds, as fast as it is taken
 //   opens-after  milliseconds that opening takes; none if left out
 //   fault     stall (gives nothing more and tells nothing), hang-open, hang-close (blocks there as long as
 //             this stands), busy, no-permission (cannot be opened), no-bandwidth (opens, but its stream does
 //             not start), read-error (the next frame is an error), ends (the stream ends without an error)
 //   order     how it is told that a running device has gone: error-first (by the stream, then by the
 //             provider), removed-first, removed-only, error-only
+// A section "provider a" or "provider b" has the key
+//   fault     refuses (does not start), dead (nor does it follow the file any more)
 #pragma once
 
 #include <chrono>

@@ -1,4 +1,4 @@
-// The frames of one running device.
+// The frames of one running camera.
 #pragma once
 
 #include "tests/plugins/controlfile.h"
@@ -15,8 +15,4 @@ public:
 
     // nullptr when the format is not known.
     static std::unique_ptr<Producer> ofCamera(const DeviceSettings &device, const GstCaps *fixed);
-    static std::unique_ptr<Producer> ofMicrophone(const DeviceSettings &device, const GstCaps *fixed);
 };
-
-constexpr int soundRate = 48000;
-constexpr int chunksPerSecond = 100;

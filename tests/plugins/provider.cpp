@@ -1,4 +1,5 @@
 #include "tests/plugins/provider.h"
+#include "tests/plugins/devicestate.h"
 #include "tests/plugins/testsource.h"
 
 #include <algorithm>
@@ -28,8 +29,10 @@ static void orvane_test_device_init(OrvaneTestDevice *) {}
 static void orvane_test_device_class_init(OrvaneTestDeviceClass *klass)
 {
     GST_DEVICE_CLASS(klass)->create_element = [](GstDevice *device, const gchar *name) {
-        GstElement *element = gst_element_factory_make("orvanetestsource", name);
-        g_object_set(element, "device", g_object_get_data(G_OBJECT(device), sectionKey), nullptr);
+        const auto *section = static_cast<const char *>(g_object_get_data(G_OBJECT(device), sectionKey));
+        GstElement *element =
+            gst_element_factory_make(isCamera(section) ? "orvanetestsource" : "orvanetestmicrophone", name);
+        g_object_set(element, "device", section, nullptr);
         return element;
     };
 }
@@ -60,6 +63,18 @@ GstDevice *newDevice(const std::string &section, const DeviceSettings &settings)
     if (properties)
         gst_structure_free(properties);
     return device;
+}
+
+bool isOf(const std::string &section, const DeviceSettings &settings, const std::string &mark)
+{
+    return section.rfind("provider ", 0) != 0 && settings.value("provider", "a") == mark;
+}
+
+std::string faultOf(const std::string &mark)
+{
+    DeviceSettings provider;
+    look("provider " + mark, &provider);
+    return provider.value("fault");
 }
 
 // Follows the control file while a provider is started.
@@ -96,6 +111,8 @@ private:
     void update()
     {
         const auto file = readControlFile();
+        if (faultOf(m_mark) == "dead")
+            return;
         const auto gone = std::stable_partition(m_listed.begin(), m_listed.end(),
                                                 [&](Listed &listed) { return stays(&listed, *file); });
         for (auto listed = gone; listed != m_listed.end(); ++listed) {
@@ -104,7 +121,7 @@ private:
         }
         m_listed.erase(gone, m_listed.end());
         for (const auto &[section, settings] : *file) {
-            if (settings.value("provider", "a") != m_mark || isListed(section))
+            if (!isOf(section, settings, m_mark) || isListed(section))
                 continue;
             auto *device = GST_DEVICE(gst_object_ref_sink(newDevice(section, settings)));
             m_listed.push_back({section, settings, device});
@@ -163,7 +180,7 @@ GList *probe(GstDeviceProvider *provider)
     GList *devices = nullptr;
     const auto file = readControlFile();
     for (const auto &[section, settings] : *file) {
-        if (settings.value("provider", "a") == markOf(provider))
+        if (isOf(section, settings, markOf(provider)))
             devices = g_list_append(devices, newDevice(section, settings));
     }
     return devices;
@@ -171,6 +188,8 @@ GList *probe(GstDeviceProvider *provider)
 
 gboolean start(GstDeviceProvider *provider)
 {
+    if (!faultOf(markOf(provider)).empty())
+        return FALSE;
     reinterpret_cast<OrvaneTestProviderA *>(provider)->listing = new Listing(provider, markOf(provider));
     return TRUE;
 }

@@ -1,5 +1,7 @@
 #include "tests/plugins/testsource.h"
+#include "tests/plugins/devicestate.h"
 #include "tests/plugins/producer.h"
+#include "tests/plugins/testmicrophone.h"
 
 #include <gst/base/gstpushsrc.h>
 
@@ -11,16 +13,15 @@
 namespace
 {
 
-// What a device keeps for a reader that is late; older frames are lost. A driver fills one frame while the
-// reader works on the one before; the ring buffer of usual sound sources holds 200 ms.
-constexpr int64_t cameraBacklog = 1;
-constexpr int64_t microphoneBacklog = 20;
+// What a camera keeps for a reader that is late; older frames are lost. A driver fills one frame while the
+// reader works on the one before.
+constexpr int64_t backlog = 1;
 
 struct SourceState {
     std::string section;
     DeviceSettings device; // as last seen
     std::unique_ptr<Producer> producer;
-    int rate = chunksPerSecond; // frames in so many seconds
+    int rate = 30; // frames in so many seconds
     int seconds = 1;
     int64_t firstFrame = -1; // frames are counted from the monotonic clock's zero, so that all devices agree
     int64_t lastFrame = -1;
@@ -45,11 +46,6 @@ SourceState *stateOf(gpointer source)
     return static_cast<OrvaneTestSource *>(source)->state;
 }
 
-int64_t monotonicNow()
-{
-    return int64_t(gst_util_get_timestamp());
-}
-
 int64_t timeOf(const SourceState &state, int64_t frame)
 {
     return int64_t(gst_util_uint64_scale(guint64(frame), GST_SECOND * state.seconds, guint64(state.rate)));
@@ -65,31 +61,6 @@ int64_t periodOf(const SourceState &state)
     return timeOf(state, 1);
 }
 
-// False when the device is not there.
-bool look(SourceState *state)
-{
-    const auto file = readControlFile();
-    const auto found = file->find(state->section);
-    if (found != file->end())
-        state->device = found->second;
-    return found != file->end();
-}
-
-// As long as the device takes to be opened; one that goes meanwhile is not waited for.
-void waitForOpening(SourceState *state)
-{
-    const int64_t began = monotonicNow();
-    while (look(state) &&
-           monotonicNow() - began < std::stoll(state->device.value("opens-after", "0")) * GST_MSECOND)
-        std::this_thread::sleep_for(pollPeriod);
-}
-
-void waitWhileFaultIs(SourceState *state, const char *fault)
-{
-    while (look(state) && state->device.value("fault") == fault)
-        std::this_thread::sleep_for(pollPeriod);
-}
-
 } // namespace
 
 G_DEFINE_TYPE(OrvaneTestSource, orvane_test_source, GST_TYPE_PUSH_SRC)
@@ -101,7 +72,7 @@ void setProperty(GObject *object, guint, const GValue *value, GParamSpec *)
 {
     stateOf(object)->section = g_value_get_string(value);
     // Formats are asked for before the device is opened.
-    look(stateOf(object));
+    look(stateOf(object)->section, &stateOf(object)->device);
 }
 
 void finalize(GObject *object)
@@ -110,37 +81,15 @@ void finalize(GObject *object)
     G_OBJECT_CLASS(orvane_test_source_parent_class)->finalize(object);
 }
 
-bool open(GstElement *source)
-{
-    SourceState *state = stateOf(source);
-    waitWhileFaultIs(state, "hang-open");
-    waitForOpening(state);
-    const bool isThere = look(state);
-    const std::string fault = state->device.value("fault");
-    // In the words of the usual camera source.
-    if (!isThere)
-        GST_ELEMENT_ERROR(source, RESOURCE, NOT_FOUND, ("Cannot identify device '/dev/video0'."),
-                          ("system error: No such file or directory"));
-    else if (fault == "busy")
-        GST_ELEMENT_ERROR(source, RESOURCE, BUSY, ("Device '/dev/video0' is busy"),
-                          ("Call to S_FMT failed for YUYV @ 640x480: Device or resource busy"));
-    else if (fault == "no-permission")
-        GST_ELEMENT_ERROR(source, RESOURCE, OPEN_READ_WRITE,
-                          ("Could not open device '/dev/video0' for reading and writing."),
-                          ("system error: Permission denied"));
-    else
-        return true;
-    return false;
-}
-
 GstStateChangeReturn changeState(GstElement *element, GstStateChange change)
 {
-    if (change == GST_STATE_CHANGE_NULL_TO_READY && !open(element))
+    SourceState *state = stateOf(element);
+    if (change == GST_STATE_CHANGE_NULL_TO_READY && !openDevice(element, state->section, &state->device))
         return GST_STATE_CHANGE_FAILURE;
     const GstStateChangeReturn result =
         GST_ELEMENT_CLASS(orvane_test_source_parent_class)->change_state(element, change);
     if (change == GST_STATE_CHANGE_READY_TO_NULL)
-        waitWhileFaultIs(stateOf(element), "hang-close");
+        waitWhileFaultIs(state->section, &state->device, "hang-close");
     return result;
 }
 
@@ -167,8 +116,7 @@ gboolean setCaps(GstBaseSrc *source, GstCaps *caps)
     gst_structure_get_fraction(gst_caps_get_structure(caps, 0), "framerate", &state->rate, &state->seconds);
     state->firstFrame = state->lastFrame = -1;
     state->goneSince = 0;
-    state->producer = isCamera(state->section) ? Producer::ofCamera(state->device, caps)
-                                               : Producer::ofMicrophone(state->device, caps);
+    state->producer = Producer::ofCamera(state->device, caps);
     return state->producer != nullptr;
 }
 
@@ -177,9 +125,8 @@ gboolean query(GstBaseSrc *source, GstQuery *query)
     if (GST_QUERY_TYPE(query) != GST_QUERY_LATENCY)
         return GST_BASE_SRC_CLASS(orvane_test_source_parent_class)->query(source, query);
     const SourceState *state = stateOf(source);
-    const int64_t frames = isCamera(state->section) ? cameraBacklog + 1 : microphoneBacklog;
     const int64_t period = periodOf(*state);
-    gst_query_set_latency(query, TRUE, GstClockTime(period), GstClockTime(frames * period));
+    gst_query_set_latency(query, TRUE, GstClockTime(period), GstClockTime((backlog + 1) * period));
     return TRUE;
 }
 
@@ -202,25 +149,16 @@ gboolean unlockStop(GstBaseSrc *source)
     return setFlushing(source, false);
 }
 
-// Whether the stream tells by now that the device has gone.
-bool isLossDue(const SourceState &state)
-{
-    const std::string order = state.device.value("order", "error-first");
-    if (order == "removed-first")
-        return monotonicNow() > state.goneSince + tellingGap;
-    return order != "removed-only";
-}
-
 // Until that moment, or until there is something else to say.
 GstFlowReturn waitUntil(SourceState *state, int64_t due)
 {
     const std::chrono::steady_clock::time_point moment{std::chrono::nanoseconds(due)};
     std::unique_lock lock(state->mutex);
     while (!state->isFlushing) {
-        if (!look(state) && !state->goneSince)
+        if (!look(state->section, &state->device) && !state->goneSince)
             state->goneSince = monotonicNow();
         const std::string fault = state->device.value("fault");
-        if (state->goneSince ? isLossDue(*state) : fault == "read-error")
+        if (state->goneSince ? isLossDue(state->device, state->goneSince) : fault == "read-error")
             return GST_FLOW_ERROR;
         if (fault == "ends")
             return GST_FLOW_EOS;
@@ -237,24 +175,19 @@ GstFlowReturn waitUntil(SourceState *state, int64_t due)
 int64_t nextFrame(const SourceState &state)
 {
     const int64_t newest = frameAt(state, monotonicNow());
-    const int64_t backlog = isCamera(state.section) ? cameraBacklog : microphoneBacklog;
     return state.lastFrame < 0 ? newest + 1 : std::max(state.lastFrame + 1, newest - backlog + 1);
 }
 
 GstFlowReturn create(GstPushSrc *source, GstBuffer **buffer)
 {
     SourceState *state = stateOf(source);
-    // Sound is there when its last sample is.
-    const int64_t readyAfter = isCamera(state->section) ? 0 : periodOf(*state);
-    const GstFlowReturn waited = waitUntil(state, timeOf(*state, nextFrame(*state)) + readyAfter);
+    const GstFlowReturn waited = waitUntil(state, timeOf(*state, nextFrame(*state)));
     if (waited == GST_FLOW_ERROR)
-        GST_ELEMENT_ERROR(
-            source, RESOURCE, READ, ("Could not read from resource."),
-            ("poll error 1: %s", state->goneSince ? "No such device (19)" : "Input/output error (5)"));
+        tellReadError(GST_ELEMENT(source), state->goneSince != 0);
     if (waited != GST_FLOW_OK)
         return waited;
     // The wait may have been a stall.
-    const int64_t newest = frameAt(*state, monotonicNow() - readyAfter);
+    const int64_t newest = frameAt(*state, monotonicNow());
     const int64_t frame = state->lastFrame < 0 ? newest : std::min(nextFrame(*state), newest);
     if (state->lastFrame < 0)
         state->firstFrame = frame;
@@ -288,8 +221,8 @@ static void orvane_test_source_class_init(OrvaneTestSourceClass *klass)
         g_param_spec_string("device", "Device", "Its section in the control file", "",
                             GParamFlags(G_PARAM_WRITABLE | G_PARAM_STATIC_STRINGS)));
     GST_ELEMENT_CLASS(klass)->change_state = changeState;
-    gst_element_class_set_static_metadata(GST_ELEMENT_CLASS(klass), "Test source", "Source/Video/Audio",
-                                          "A camera or microphone of the control file", "Orvane");
+    gst_element_class_set_static_metadata(GST_ELEMENT_CLASS(klass), "Test source", "Source/Video",
+                                          "A camera of the control file", "Orvane");
     GstCaps *any = gst_caps_new_any();
     gst_element_class_add_pad_template(GST_ELEMENT_CLASS(klass),
                                        gst_pad_template_new("src", GST_PAD_SRC, GST_PAD_ALWAYS, any));
@@ -311,7 +244,7 @@ bool isCamera(const std::string &section)
 GstCaps *deviceCaps(const std::string &section, const DeviceSettings &device)
 {
     if (!isCamera(section))
-        return gst_caps_from_string("audio/x-raw,format=S16LE,layout=interleaved,rate=48000,channels=[1,2]");
+        return gst_caps_from_string(microphoneCaps);
     GstCaps *caps = gst_caps_new_empty();
     std::stringstream formats(device.value("formats", "YUY2 640x480 30"));
     for (std::string format; std::getline(formats, format, ';');) {

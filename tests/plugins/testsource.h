@@ -1,4 +1,4 @@
-// The element "orvanetestsource": a live source, tied by its property "device" to one section of the control
+// The element "orvanetestsource": a live camera, tied by its property "device" to one section of the control
 // file.
 #pragma once
 

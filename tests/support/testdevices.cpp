@@ -34,6 +34,11 @@ TestDevices::Section &TestDevices::microphone(const QString &id)
     return section("microphone", id);
 }
 
+TestDevices::Section &TestDevices::provider(const QString &mark)
+{
+    return section("provider", mark);
+}
+
 TestDevices::Section &TestDevices::section(const QString &kind, const QString &id)
 {
     Section &section = m_sections[id];

@@ -23,6 +23,8 @@ public:
         Section &formats(const QString &list) { return set("formats", list); }
         Section &content(const QString &word) { return set("content", word); }
         Section &sound(const QString &word) { return set("sound", word); }
+        Section &clock(int millionths) { return set("clock", QString::number(millionths)); }
+        Section &bursts(int milliseconds) { return set("bursts", QString::number(milliseconds)); }
         Section &fault(const QString &word) { return set("fault", word); }
         Section &opensAfter(int milliseconds) { return set("opens-after", QString::number(milliseconds)); }
         Section &order(const QString &word) { return set("order", word); }
@@ -45,6 +47,7 @@ public:
     // The section of that name, made when it is new. Nothing happens before write().
     Section &camera(const QString &id);
     Section &microphone(const QString &id);
+    Section &provider(const QString &mark);
 
     // Replaces the file in one step; ends the test program when it cannot. The devices follow within some 20
     // ms.
