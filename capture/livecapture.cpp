@@ -60,10 +60,13 @@ void LiveCapture::movieHasEnded(MovieEnd why)
     });
 }
 
-void LiveCapture::movieFileIsFinished()
+void LiveCapture::movieFileIsFinished(bool areAllWhole)
 {
-    if (facts.now().movie.state == MovieState::Finishing)
-        facts.change([](Facts &now) { now.movie.state = MovieState::None; });
+    facts.change([areAllWhole](Facts &now) {
+        if (now.movie.state == MovieState::Finishing)
+            now.movie.state = MovieState::None;
+        now.movie.isBroken = now.movie.isBroken || !areAllWhole;
+    });
 }
 
 // A movie's preview is taken likewise, and is no photo.

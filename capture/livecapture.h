@@ -14,7 +14,7 @@ public:
     void cameraIsLive() override;
     void cameraIsLost(CameraFault why) override;
     void movieHasEnded(MovieEnd why) override;
-    void movieFileIsFinished() override;
+    void movieFileIsFinished(bool areAllWhole) override;
     void photoIsTaken(const QImage &picture) override;
     void devicesChanged() override;
 

@@ -105,7 +105,9 @@ Cause LiveVideoWidget::startMovie(QString *warning)
 {
     const Waiting waiting(this);
     const QString path = WebcamUtil::CreateMoviefilename();
-    m_capture->facts.change([&path](Facts &now) { now.movie = {MovieState::None, Cause::None, path}; });
+    m_capture->facts.change([&path](Facts &now) {
+        now.movie = {MovieState::None, Cause::None, path, now.movie.isBroken};
+    });
     m_capture->data.Record(path);
     *warning = invalidDevicesText();
     const Cause refusal = refusalOfMovie(*warning);
@@ -182,6 +184,11 @@ void LiveVideoWidget::noteEndOfMovie()
         now.movie.state = isFinishing ? MovieState::Finishing : MovieState::None;
         now.sound = hadHole ? SoundState::LostInMovie : SoundState::There;
     });
+}
+
+void LiveVideoWidget::forgetBrokenMovie()
+{
+    m_capture->facts.change([](Facts &now) { now.movie.isBroken = false; });
 }
 
 QStringList LiveVideoWidget::unfinishedMovies() const

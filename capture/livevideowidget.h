@@ -91,6 +91,8 @@ public:
     void RecordStop();
     // Whether the file of a movie that was stopped is not yet whole.
     bool isFinishingMovie();
+    // Says that it was told that a movie lacks its end.
+    void forgetBrokenMovie();
     // The bare names of movies that are not whole, and of their previews.
     QStringList unfinishedMovies() const;
     // Full path of the latest movie; empty before the first.

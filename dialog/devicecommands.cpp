@@ -96,6 +96,10 @@ void CPictorelDlg::followFacts()
     if (m_liveView->isBusy())
         return;
     loadRecordedMovie();
+    if (facts().movie.isBroken) {
+        m_liveView->forgetBrokenMovie();
+        WebcamUtil::ShowDiskWorningMessage(this);
+    }
     // One that has lost its camera is told, and left, with the camera.
     if (facts().movie.state == MovieState::Ended && facts().movie.why != Cause::Camera)
         OnMovieStop();

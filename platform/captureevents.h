@@ -48,8 +48,8 @@ public:
     // A movie that ran has ended; its file may still be being finished. Asked is what RecordStop() and
     // Release() give.
     virtual void movieHasEnded(MovieEnd) {}
-    // The files of all movies that have ended are whole now.
-    virtual void movieFileIsFinished() {}
+    // The files of all movies that have ended are finished now; whether none of them lacks its end.
+    virtual void movieFileIsFinished(bool /*areAllWhole*/) {}
     // The picture that SaveBitmap() is saving, in full size, Format_RGB32; its file does not stand yet.
     virtual void photoIsTaken(const QImage &) {}
     // A camera or microphone came or went.

@@ -190,7 +190,8 @@ private:
     std::shared_ptr<MovieRecorder> m_movie;
     std::shared_ptr<MovieRecorder> m_startingMovie; // while Record() waits for it
     std::vector<std::shared_ptr<MovieRecorder>> m_unfinished;
-    QTimer m_fileWatch; // runs while there are unfinished ones
+    bool m_hasBrokenFile = false; // one of those that were unfinished
+    QTimer m_fileWatch;           // runs while there are unfinished ones
     std::shared_ptr<GstDevice> m_movieMicrophone;
     std::shared_ptr<GstDevice> m_deafMicrophone; // that the last movie could not open; null when it could
     bool m_isRecordCalled = false;

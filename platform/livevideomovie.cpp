@@ -138,6 +138,10 @@ void LiveVideoData::tellMovieEnd(const std::shared_ptr<MovieRecorder> &movie, Mo
 void LiveVideoData::lookAtMovieFiles()
 {
     const bool hadUnfinished = !m_unfinished.empty();
+    for (const auto &movie : m_unfinished) {
+        if (movie->isFinished() && movie->fileFault() != MovieEnd::None)
+            m_hasBrokenFile = true;
+    }
     m_unfinished.erase(std::remove_if(m_unfinished.begin(), m_unfinished.end(),
                                       [](const auto &movie) { return movie->isFinished(); }),
                        m_unfinished.end());
@@ -145,7 +149,7 @@ void LiveVideoData::lookAtMovieFiles()
         return;
     m_fileWatch.stop();
     if (m_listener)
-        m_listener->movieFileIsFinished();
+        m_listener->movieFileIsFinished(!std::exchange(m_hasBrokenFile, false));
 }
 
 bool LiveVideoData::isFinishingMovie()

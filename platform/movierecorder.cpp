@@ -30,6 +30,10 @@ constexpr auto closingLimit = 10s;
 // Room for the index and what the encoders hold; with less of it a movie is ended while it still can be.
 constexpr qint64 leastFreeBytes = qint64(16) << 20;
 
+// For so long frames may be left out, and the disk not answer, before the movie is given up.
+constexpr auto behindLimit = 5s;
+constexpr auto silenceLimit = 10s;
+
 // How often the room on the disk and the microphone are looked at.
 constexpr auto watchPeriod = 250ms;
 
@@ -138,6 +142,8 @@ void MovieRecorder::fail(MovieEnd why, const QString &line)
         m_end = why;
         if (m_state == State::Recording)
             m_state = State::Failed;
+        else if (m_state == State::Finishing)
+            m_fileFault = why;
     }
     qCWarning(movieLog).noquote().nospace() << m_settings.path << ": " << line;
 }
@@ -148,13 +154,29 @@ void MovieRecorder::take(const FramePtr &frame, const Zoom &zoom)
         return;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        if (m_state == State::Starting)
+        if (m_state == State::Starting) {
             keep(frame, zoom);
+            m_lastInTime = std::chrono::steady_clock::now();
+        }
         if (m_state != State::Recording)
             return;
     }
     if (!isBehind())
         push({shown(*frame, zoom), frame->clockTime});
+    lookForLife();
+}
+
+// A disk that hangs lets nobody know: what waits for it grows until frames are left out, and the look at its
+// room does not come back.
+void MovieRecorder::lookForLife()
+{
+    const auto now = std::chrono::steady_clock::now();
+    if (!isBehind())
+        m_lastInTime = now;
+    const auto lastLook = m_lastLook.load();
+    if (now - m_lastInTime > behindLimit ||
+        (lastLook != std::chrono::steady_clock::time_point::min() && now - lastLook > silenceLimit))
+        fail(MovieEnd::DiskFull, QStringLiteral("The disk takes no more of the movie."));
 }
 
 // A copy of it: a driver whose few buffers are all held gives nothing more.
@@ -210,6 +232,12 @@ BufferHandle MovieRecorder::shown(const CapturedFrame &frame, const Zoom &zoom)
     return buffer;
 }
 
+MovieEnd MovieRecorder::fileFault() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_fileFault;
+}
+
 MovieEnd MovieRecorder::end() const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
@@ -222,6 +250,7 @@ void MovieRecorder::watch()
     std::unique_lock<std::mutex> lock(m_mutex);
     while (!m_changed.wait_for(lock, watchPeriod, [this] { return m_state != State::Recording; })) {
         lock.unlock();
+        m_lastLook = std::chrono::steady_clock::now();
         m_sound->lookAfter();
         lookAtRoom();
         lock.lock();
@@ -307,4 +336,7 @@ void MovieRecorder::waitForEndOfStreams()
             return;
         before = std::exchange(waiting, waitingBytes(m_movie));
     } while (waiting < before);
+    lock.unlock();
+    fail(MovieEnd::Failed,
+         QStringLiteral("The disk has taken nothing for ten seconds; the movie lacks its end."));
 }

@@ -6,6 +6,7 @@
 #include "platform/moviepipeline.h"
 #include "platform/moviesound.h"
 
+#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <deque>
@@ -51,6 +52,8 @@ public:
     void discard();
     // Whether the file is finished, and waiting for that; false when it has not come in that time.
     bool isFinished() const;
+    // Why a finished file lacks its end; None when it does not.
+    MovieEnd fileFault() const;
     QString path() const { return m_settings.path; }
     bool waitForFile(std::chrono::milliseconds limit);
 
@@ -75,6 +78,7 @@ private:
     BufferHandle shown(const CapturedFrame &frame, const Zoom &zoom);
     void tellShortRoom() const;
     void watch();
+    void lookForLife();
     void lookAtRoom();
     void close();
     void waitForEndOfStreams();
@@ -88,6 +92,10 @@ private:
     GstClockTime m_nextTime = 0;  // the next frame is not older: the first may come twice
     FrameConverter m_zoomer{GST_VIDEO_RESAMPLER_METHOD_LINEAR};
 
+    std::chrono::steady_clock::time_point m_lastInTime = std::chrono::steady_clock::now(); // of a frame
+    std::atomic<std::chrono::steady_clock::time_point> m_lastLook{
+        std::chrono::steady_clock::time_point::min()};
+
     mutable std::mutex m_mutex; // guards all below
     std::condition_variable m_changed;
     State m_state = State::Starting;
@@ -95,6 +103,7 @@ private:
     std::deque<Picture> m_kept;  // for the start
     gsize m_keptBytes = 0;
     MovieEnd m_end = MovieEnd::None;
+    MovieEnd m_fileFault = MovieEnd::None;
     bool m_isDiscarded = false;
     bool m_isFileComplete = false;
 };
