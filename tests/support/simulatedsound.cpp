@@ -77,7 +77,7 @@ SimulatedSound simulate(const SimulatedMicrophone &microphone)
     std::minstd_rand random(1);
     std::exponential_distribution<double> lateness(5);
     const double period = 1 / (soundRate * (1 + microphone.clock));
-    double looked = 0;
+    int looks = 0;
     double arrival = 0;
     double moment = started;
     for (qint64 frame = pieceFrames; moment < microphone.seconds; frame += pieceFrames) {
@@ -88,8 +88,8 @@ SimulatedSound simulate(const SimulatedMicrophone &microphone)
         const double due =
             microphone.bursts > 0 ? std::ceil(end / microphone.bursts) * microphone.bursts : end;
         arrival = std::max(arrival, due + microphone.jitter * std::min(1.0, lateness(random)));
-        for (; looked < arrival; looked += lookPeriod)
-            track.fill(looked);
+        while (looks * lookPeriod < arrival)
+            track.fill(looks++ * lookPeriod);
         track.add(pieceAt(begin, period).data(), pieceFrames, arrival);
     }
     track.close();
