@@ -23,8 +23,8 @@ class Reader
 public:
     void read(const std::vector<float> &frames, qint64 first)
     {
-        for (size_t i = 0; i < frames.size(); i += soundChannels)
-            note(double(first + qint64(i) / soundChannels) / soundRate, frames[i], frames[i + 1]);
+        for (size_t i = 0; i < frames.size(); i += soundChannels, ++first)
+            note(double(first) / soundRate, frames[i], frames[i + 1]);
     }
     SimulatedSound result() const { return m_result; }
 
