@@ -58,8 +58,8 @@ void SoundStretcher::put(const float *frames, size_t count)
 
 void SoundStretcher::take(double step, std::vector<float> *frames)
 {
-    const double end = double(m_input.size() / soundChannels) - taps + 1;
-    for (; m_place < end; m_place += step) {
+    const auto there = qint64(m_input.size() / soundChannels);
+    for (const auto end = double(there - taps + 1); m_place < end; m_place += step) {
         const double whole = std::floor(m_place);
         const Mix mix = mixAt(m_place - whole);
         const float *input = &m_input[size_t(whole) * soundChannels];

@@ -190,6 +190,7 @@ void TestDeviceLists::takesTheSameCameraAgain()
     devices.pull("a");
     QTRY_COMPARE(camera.lost.count(), 3);
     camera.capture.Release();
+    QVERIFY(camera.lists({"Twin"}));
     devices.camera("c").name("Other");
     devices.write();
     QTRY_VERIFY(camera.capture.canReopen());

@@ -23,8 +23,8 @@ class Reader
 public:
     void read(const std::vector<float> &frames, qint64 first)
     {
-        for (size_t i = 0; i < frames.size(); i += soundChannels)
-            note(double(first + qint64(i) / soundChannels) / soundRate, frames[i], frames[i + 1]);
+        for (size_t i = 0; i < frames.size(); i += soundChannels, ++first)
+            note(double(first) / soundRate, frames[i], frames[i + 1]);
     }
     SimulatedSound result() const { return m_result; }
 
@@ -77,7 +77,7 @@ SimulatedSound simulate(const SimulatedMicrophone &microphone)
     std::minstd_rand random(1);
     std::exponential_distribution<double> lateness(5);
     const double period = 1 / (soundRate * (1 + microphone.clock));
-    double looked = 0;
+    int looks = 0;
     double arrival = 0;
     double moment = started;
     for (qint64 frame = pieceFrames; moment < microphone.seconds; frame += pieceFrames) {
@@ -88,8 +88,8 @@ SimulatedSound simulate(const SimulatedMicrophone &microphone)
         const double due =
             microphone.bursts > 0 ? std::ceil(end / microphone.bursts) * microphone.bursts : end;
         arrival = std::max(arrival, due + microphone.jitter * std::min(1.0, lateness(random)));
-        for (; looked < arrival; looked += lookPeriod)
-            track.fill(looked);
+        while (looks * lookPeriod < arrival)
+            track.fill(looks++ * lookPeriod);
         track.add(pieceAt(begin, period).data(), pieceFrames, arrival);
     }
     track.close();
