@@ -1,6 +1,7 @@
 // The movies of a LiveVideoData.
 
 #include "platform/livevideodata.h"
+#include "platform/moviepictures.h"
 #include "platform/movierecorder.h"
 #include "util/files/alivewait.h"
 
@@ -19,6 +20,19 @@ constexpr auto microphoneWait = 2s;
 constexpr auto fileWait = 450ms;
 constexpr auto lastFileWait = 30s;
 constexpr auto longestSoundGap = 2s;
+constexpr auto wholeFrameWait = 1s;
+
+// Of that frame, or of the next whole one; null when none comes.
+FramePtr wholePicture(FramePtr frame, const NewestFrame &frames, const Zoom &zoom)
+{
+    const auto limit = std::chrono::steady_clock::now() + wholeFrameWait;
+    FramePlanes planes;
+    MoviePictures pictures;
+    FramePtr picture;
+    while (frame && !(picture = pictures.make(frame, &planes, zoom)))
+        frame = frames.waitForOther(frame, limit);
+    return picture;
+}
 
 } // namespace
 
@@ -43,15 +57,18 @@ void LiveVideoData::startMovie(const QString &path)
         return;
     MovieSettings settings;
     settings.path = path;
-    settings.picture = frame->info;
+    settings.picture = MoviePictures::infoOf(frame->size());
     if (m_mode.rateNumerator > 0)
         settings.framesPerSecond = qMax(1, qRound(m_mode.framesPerSecond()));
     settings.microphone = *microphone;
     const auto movie = std::make_shared<MovieRecorder>(settings);
     m_startingMovie = movie;
     m_grabThread->setSink(movie);
-    const auto isStarted =
-        doAside([movie, frame, zoom = m_zoom] { return movie->start(*frame, zoom); }, startWait);
+    const auto start = [movie, zoom = m_zoom, frame, frames = m_grabThread->frames()] {
+        const FramePtr first = wholePicture(frame, *frames, zoom);
+        return first && movie->start(*first, Zoom());
+    };
+    const auto isStarted = doAside(start, startWait);
     if (!self || m_startingMovie != movie) {
         movie->discard(); // ended before it had begun
         return;
@@ -91,8 +108,6 @@ void LiveVideoData::endMovie(MovieEnd why)
 {
     const std::shared_ptr<MovieRecorder> movie = stopMovie();
     applyResolution();
-    if (m_isStopped && m_grabThread)
-        m_grabThread->setPaused(true);
     tellMovieEnd(movie, why);
 }
 
