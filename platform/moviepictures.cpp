@@ -1,8 +1,7 @@
 #include "platform/moviepictures.h"
 
 #include "platform/planecolours.h"
-
-#include <libyuv.h>
+#include "platform/planescaler.h"
 
 namespace
 {
@@ -13,11 +12,9 @@ const QSize largest(1920, 1080);
 void fill(const PicturePlanes &planes, GstVideoFrame *picture)
 {
     for (int i = 0; i < 3; ++i) {
-        const QSize from = planes.sizeOf(i);
-        libyuv::ScalePlane(planes.data[i], planes.stride[i], from.width(), from.height(),
-                           GST_VIDEO_FRAME_COMP_DATA(picture, i), GST_VIDEO_FRAME_COMP_STRIDE(picture, i),
-                           GST_VIDEO_FRAME_COMP_WIDTH(picture, i), GST_VIDEO_FRAME_COMP_HEIGHT(picture, i),
-                           libyuv::kFilterBox);
+        scalePlane(planes.data[i], planes.stride[i], planes.sizeOf(i), GST_VIDEO_FRAME_COMP_DATA(picture, i),
+                   GST_VIDEO_FRAME_COMP_STRIDE(picture, i),
+                   {GST_VIDEO_FRAME_COMP_WIDTH(picture, i), GST_VIDEO_FRAME_COMP_HEIGHT(picture, i)});
     }
     changeColours(planes.colours, picture);
 }

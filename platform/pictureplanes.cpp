@@ -1,6 +1,7 @@
 #include "platform/pictureplanes.h"
 
 #include "platform/largepixels.h"
+#include "platform/planescaler.h"
 
 #include <libyuv.h>
 
@@ -149,20 +150,18 @@ std::optional<PicturePlanes> planesOf(GstVideoFrame *frame, const QRect &part, P
 
 PicturePlanes scaled(const PicturePlanes &planes, const QSize &size, PlaneMemory *memory)
 {
-    PicturePlanes target = planes;
-    memory->create(size, halved(size));
-    const PicturePlanes own = memory->planes(size, halved(size), planes.colours);
+    const bool isHalfHigh = planes.colourSize.height() < planes.size.height();
+    const QSize colourSize(halved(size).width(), isHalfHigh ? halved(size).height() : size.height());
+    memory->create(size, colourSize);
+    PicturePlanes target = memory->planes(size, colourSize, planes.colours);
     for (int i = 0; i < 3; ++i) {
-        const QSize from = planes.sizeOf(i);
-        const QSize to = own.sizeOf(i);
-        if (from == to)
-            continue;
-        libyuv::ScalePlane(planes.data[i], planes.stride[i], from.width(), from.height(), memory->row(i, 0),
-                           own.stride[i], to.width(), to.height(), libyuv::kFilterBox);
-        target.data[i] = own.data[i];
-        target.stride[i] = own.stride[i];
+        if (planes.sizeOf(i) == target.sizeOf(i)) {
+            target.data[i] = planes.data[i];
+            target.stride[i] = planes.stride[i];
+        } else {
+            scalePlane(planes.data[i], planes.stride[i], planes.sizeOf(i), memory->row(i, 0),
+                       target.stride[i], target.sizeOf(i));
+        }
     }
-    target.size = own.size;
-    target.colourSize = own.colourSize;
     return target;
 }

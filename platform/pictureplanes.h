@@ -43,8 +43,8 @@ private:
 // planes of brightness and colour.
 std::optional<PicturePlanes> planesOf(GstVideoFrame *frame, const QRect &part, PlaneMemory *memory);
 
-// The planes at that size, their colour at half of it each way; as they are when they have that already.
-// Reduced to less than half, pixels are averaged; else this is bilinear.
+// The planes at that size, their colour half as wide and, unless it was as high as the brightness, half as
+// high. Planes that have their size already stay what they are.
 PicturePlanes scaled(const PicturePlanes &planes, const QSize &size, PlaneMemory *memory);
 
 // Half of each side, as a picture's colour mostly has it.
