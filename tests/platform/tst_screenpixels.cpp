@@ -1,3 +1,4 @@
+#include "platform/moviepictures.h"
 #include "platform/screenpixels.h"
 
 #include <QtTest>
@@ -47,6 +48,32 @@ static int mostDifference(const FramePtr &frame, const QRect &part, const QSize 
     return most;
 }
 
+// The same of one byte of a movie's picture.
+static int mostDifferenceInMovie(const FramePtr &frame)
+{
+    FramePlanes planes;
+    const FramePtr made = MoviePictures().make(frame, &planes, Zoom());
+    const BufferHandle expected(gst_buffer_new_allocate(nullptr, made->info.size, nullptr));
+    FrameConverter(GST_VIDEO_RESAMPLER_METHOD_LINEAR)
+        .convert(frame->info, frame->picture.get(), QRect(QPoint(0, 0), frame->size()), made->info,
+                 expected.get());
+    MappedFrame is(made->info, made->picture.get(), GST_MAP_READ);
+    MappedFrame shouldBe(made->info, expected.get(), GST_MAP_READ);
+    int most = 0;
+    for (int plane = 0; plane < 3; ++plane) {
+        for (int y = 0; y < GST_VIDEO_FRAME_COMP_HEIGHT(is.get(), plane); ++y) {
+            for (int x = 0; x < GST_VIDEO_FRAME_COMP_WIDTH(is.get(), plane); ++x) {
+                const auto at = [&](MappedFrame &mapped) {
+                    return GST_VIDEO_FRAME_COMP_DATA(
+                        mapped.get(), plane)[y * GST_VIDEO_FRAME_COMP_STRIDE(mapped.get(), plane) + x];
+                };
+                most = qMax(most, qAbs(at(is) - at(shouldBe)));
+            }
+        }
+    }
+    return most;
+}
+
 void TestScreenPixels::showsWhatGStreamerShows()
 {
     // Nobody sees a difference of so much in one pixel; a wrong matrix, range or order of colours is far
@@ -62,6 +89,8 @@ void TestScreenPixels::showsWhatGStreamerShows()
             QVERIFY(gst_video_colorimetry_from_string(&frame->info.colorimetry, isRgb ? "sRGB" : colours));
             frame->picture = patches(frame->info);
             frame->info.interlace_mode = GST_VIDEO_INTERLACE_MODE_INTERLEAVED;
+            const int inMovie = mostDifferenceInMovie(frame);
+            QVERIFY2(inMovie <= invisible, QByteArray(format + colours + ": " + QByteArray::number(inMovie)));
             for (const QRect &part : {QRect(0, 0, 323, 243), QRect(64, 34, 200, 150)}) {
                 for (const QSize &size : {part.size(), QSize(250, 188), QSize(400, 300)}) {
                     const int most = mostDifference(frame, part, size);
