@@ -14,8 +14,8 @@ constexpr double mostEnlarged = 1.08;
 int denominatorFor(const QSize &part, const QSize &size)
 {
     int denominator = 8;
-    while (denominator > 1 && (part.width() / denominator * mostEnlarged < size.width() ||
-                               part.height() / denominator * mostEnlarged < size.height()))
+    while (denominator > 1 && (part.width() * mostEnlarged < size.width() * denominator ||
+                               part.height() * mostEnlarged < size.height() * denominator))
         denominator /= 2;
     return denominator;
 }

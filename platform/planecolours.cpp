@@ -91,8 +91,8 @@ void changeColourRow(const ColourChange &change, uint8_t *first, uint8_t *second
         const auto u = static_cast<int16_t>(first[x] - 128);
         const auto v = static_cast<int16_t>(second[x] - 128);
         const int16_t bright = weighted(change.toBrightness, u, v);
-        added[2 * x] = bright;
-        added[2 * x + 1] = bright;
+        *added++ = bright;
+        *added++ = bright;
         first[x] = inByte(128 + weighted(change.toFirst, u, v));
         second[x] = inByte(128 + weighted(change.toSecond, u, v));
     }
