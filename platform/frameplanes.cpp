@@ -63,7 +63,7 @@ bool FramePlanes::decode(const FramePtr &frame, int denominator)
         release();
         m_frame = frame;
         m_denominator = denominator;
-        m_decoded = JpegDecoder::decode(frame->picture.get(), denominator, &m_memory);
+        m_decoded = JpegDecoder::decode(frame->picture.get(), frame->size(), denominator, &m_memory);
     }
     return m_decoded.has_value();
 }

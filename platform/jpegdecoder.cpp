@@ -104,6 +104,13 @@ private:
     ErrorManager m_errors{};
 };
 
+// Some cameras fill their pictures up to whole blocks.
+bool isCredible(const QSize &size, const QSize &announced)
+{
+    const auto area = [](const QSize &of) { return qint64(of.width()) * of.height(); };
+    return area(size) <= 2 * area(announced);
+}
+
 bool hasColour(const jpeg_decompress_struct &jpeg)
 {
     return jpeg.jpeg_color_space == JCS_YCbCr && jpeg.num_components == 3;
@@ -175,16 +182,17 @@ GstVideoColorimetry jpegColours()
 
 } // namespace
 
-QSize JpegDecoder::sizeOf(GstBuffer *jpeg)
+QSize JpegDecoder::sizeOf(GstBuffer *jpeg, const QSize &announced)
 {
     Reading reading(jpeg);
-    return reading.readHeader() ? reading.size() : QSize();
+    return reading.readHeader() && isCredible(reading.size(), announced) ? reading.size() : QSize();
 }
 
-std::optional<PicturePlanes> JpegDecoder::decode(GstBuffer *jpeg, int denominator, PlaneMemory *memory)
+std::optional<PicturePlanes> JpegDecoder::decode(GstBuffer *jpeg, const QSize &announced, int denominator,
+                                                 PlaneMemory *memory)
 {
     Reading reading(jpeg);
-    if (!reading.readHeader() || !isReadAsPlanes(reading.jpeg()) ||
+    if (!reading.readHeader() || !isCredible(reading.size(), announced) || !isReadAsPlanes(reading.jpeg()) ||
         !reading.attempt([=](jpeg_decompress_struct *info) { start(info, denominator); }))
         return {};
     const jpeg_decompress_struct &info = reading.jpeg();
@@ -217,5 +225,8 @@ bool JpegDecoder::decodeRgb(GstBuffer *jpeg, QImage *image)
         }
         jpeg_finish_decompress(info);
     });
+    // Nothing else has written to the memory of rows that did not come.
+    for (int y = int(reading.jpeg().output_scanline); !isThrough && y < image->height(); ++y)
+        memset(pixels + ptrdiff_t(y) * stride, 0, size_t(stride));
     return isThrough && reading.isWhole();
 }

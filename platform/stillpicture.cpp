@@ -50,7 +50,7 @@ struct RgbPicture {
 RgbPicture decoded(const CapturedFrame &frame)
 {
     RgbPicture picture;
-    const QSize size = JpegDecoder::sizeOf(frame.picture.get());
+    const QSize size = JpegDecoder::sizeOf(frame.picture.get(), frame.size());
     if (size.isEmpty())
         return picture;
     picture.image = largeImage(size);
