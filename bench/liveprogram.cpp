@@ -1,6 +1,7 @@
 // The live view alone, for the benchmarks: `liveprogram show WIDTHxHEIGHT` shows it in a window of that size
-// and tells twice a second how many frames were painted; `liveprogram record PATH` records a movie with the
-// window hidden. Both go on until SIGINT.
+// and tells twice a second how many frames were painted; `hide` does the same without the window, and `film`
+// records a movie of what is shown. `liveprogram record PATH` records one with the window hidden, until
+// SIGINT.
 
 #include "capture/livevideowidget.h"
 #include "platform/livevideodata.h"
@@ -38,19 +39,23 @@ QFrame *pictureFrame(const LiveVideoWidget &view)
     qFatal("the live view has no picture");
 }
 
-int show(const QString &size)
+int show(const QString &how, const QString &size)
 {
     LiveVideoWidget view;
     view.setWindowFlags(Qt::FramelessWindowHint);
     view.setFixedSize(size.section('x', 0, 0).toInt(), size.section('x', 1, 1).toInt());
     view.Create();
     view.Start();
-    view.show();
+    view.move(0, 0);
+    view.setVisible(how != "hide");
 
     PaintCounter counter;
     pictureFrame(view)->installEventFilter(&counter);
     QTimer report;
-    QObject::connect(&report, &QTimer::timeout, [&counter] {
+    bool isToBeFilmed = how == "film";
+    QObject::connect(&report, &QTimer::timeout, [&] {
+        if (isToBeFilmed && counter.painted > 0)
+            isToBeFilmed = !view.Record();
         std::printf("rendered: %d\n", counter.painted);
         std::fflush(stdout);
     });
@@ -87,8 +92,8 @@ int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
-    if (arguments.value(1) == "show")
-        return show(arguments.value(2));
+    if (arguments.value(1) != "record")
+        return show(arguments.value(1), arguments.value(2));
     std::signal(SIGINT, [](int) { isInterrupted = 1; });
     return record(arguments.value(2));
 }

@@ -1,6 +1,7 @@
 #include "bench/measuredprocess.h"
 
 #include <QElapsedTimer>
+#include <QFile>
 #include <QRegularExpression>
 
 #include <X11/Xlib.h>
@@ -50,6 +51,16 @@ MeasuredProcess::~MeasuredProcess()
     if (!m_process.waitForFinished(mostWaitMilliseconds))
         m_process.kill();
     m_process.waitForFinished();
+}
+
+double MeasuredProcess::memory() const
+{
+    static const QRegularExpression share("\nPss:\\s+(\\d+) kB");
+    QFile file(QString("/proc/%1/smaps_rollup").arg(m_process.processId()));
+    const auto match = share.match(file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray());
+    if (!match.hasMatch())
+        qFatal("the memory of %s cannot be measured", qPrintable(m_process.program()));
+    return match.captured(1).toDouble() / 1024;
 }
 
 int MeasuredProcess::nextRendered()

@@ -24,6 +24,9 @@ public:
 
     double processorTime() const { return processorSeconds(m_process.processId()); }
 
+    // Megabytes that it holds now, its share of what it has in common with others.
+    double memory() const;
+
     // The number behind the next "rendered: " of what the program prints. Ends the whole benchmark when none
     // comes in ten seconds.
     int nextRendered();

@@ -4,18 +4,20 @@
 
 #include <gst/app/gstappsink.h>
 
-#include <algorithm>
-
 namespace
 {
-
-// A decoder keeps hold of a frame or two; anything older was dropped by it.
-constexpr size_t rememberedJpegs = 8;
 
 void setIfPresent(GstElement *element, const char *property, const char *value)
 {
     if (g_object_class_find_property(G_OBJECT_GET_CLASS(element), property))
         gst_util_set_object_arg(G_OBJECT(element), property, value);
+}
+
+// Has a camera keep its rate in a dim room, where it would else take longer for each frame. The names that
+// the kernel has had for it; a driver without them, or a source that is none of the kernel's, stays as it is.
+void keepRate(GstElement *source)
+{
+    setIfPresent(source, "extra-controls", "controls,exposure_dynamic_framerate=0,exposure_auto_priority=0");
 }
 
 } // namespace
@@ -51,65 +53,37 @@ bool CameraPipeline::build(GstDevice *device, const CaptureMode &mode)
     if (!source)
         return false;
     gst_bin_add(GST_BIN(m_pipeline.get()), source);
+    keepRate(source);
     GstElement *filter = add("capsfilter");
     m_sink = add("appsink");
     if (!filter || !m_sink)
         return false;
     const CapsHandle caps = fixedCaps(mode);
     g_object_set(filter, "caps", caps.get(), nullptr);
-    const CapsHandle rawCaps(gst_caps_new_empty_simple("video/x-raw"));
-    g_object_set(m_sink, "caps", rawCaps.get(), "max-buffers", guint(mostWaitingFrames), "drop", TRUE, "sync",
+    const CapsHandle taken(gst_caps_from_string("video/x-raw;image/jpeg"));
+    g_object_set(m_sink, "caps", taken.get(), "max-buffers", guint(mostWaitingFrames), "drop", TRUE, "sync",
                  FALSE, "async", FALSE, "qos", FALSE, "enable-last-sample", FALSE, "wait-on-eos", FALSE,
                  nullptr);
 
-    // No queue and no converter: the source's thread decodes, and what the formats need is done once for
-    // each use, at the size of that use.
+    // No queue and no converter: what the formats need is done once for each use, at the size of that use. So
+    // it is with JPEG, of which mostly a part of the pixels or none are wanted.
     GstElement *last = filter;
-    return gst_element_link(source, filter) && addDecoder(mode, &last) && gst_element_link(last, m_sink);
+    return gst_element_link(source, filter) &&
+           (mode.coding != CaptureMode::Coding::H264 || addH264Decoder(&last)) &&
+           gst_element_link(last, m_sink);
 }
 
-bool CameraPipeline::addDecoder(const CaptureMode &mode, GstElement **last)
+bool CameraPipeline::addH264Decoder(GstElement **last)
 {
-    if (mode.coding == CaptureMode::Coding::Raw)
-        return true;
-    if (mode.coding == CaptureMode::Coding::H264) {
-        GstElement *parser = add("h264parse");
-        if (!parser || !gst_element_link(*last, parser))
-            return false;
-        *last = parser;
-    }
-    const bool isJpeg = mode.coding == CaptureMode::Coding::Jpeg;
-    const QByteArray name = isJpeg ? RequiredElements::jpegDecoder() : RequiredElements::h264Decoder();
+    GstElement *parser = add("h264parse");
+    const QByteArray name = RequiredElements::h264Decoder();
     GstElement *decoder = name.isEmpty() ? nullptr : add(name.constData());
-    if (!decoder || !gst_element_link(*last, decoder))
+    if (!parser || !decoder || !gst_element_link_many(*last, parser, decoder, nullptr))
         return false;
     // Threads that each decode a frame would keep the picture back by as many frames.
     setIfPresent(decoder, "thread-type", "slice");
     *last = decoder;
-    if (isJpeg) {
-        const PadHandle pad(gst_element_get_static_pad(decoder, "sink"));
-        gst_pad_add_probe(pad.get(), GST_PAD_PROBE_TYPE_BUFFER, keepJpeg, this, nullptr);
-    }
     return true;
-}
-
-GstPadProbeReturn CameraPipeline::keepJpeg(GstPad *, GstPadProbeInfo *info, gpointer self)
-{
-    auto *pipeline = static_cast<CameraPipeline *>(self);
-    const std::lock_guard<std::mutex> lock(pipeline->m_jpegMutex);
-    pipeline->m_jpegs.push_back(retain(gst_pad_probe_info_get_buffer(info)));
-    if (pipeline->m_jpegs.size() > rememberedJpegs)
-        pipeline->m_jpegs.pop_front();
-    return GST_PAD_PROBE_OK;
-}
-
-BufferHandle CameraPipeline::jpegOf(GstClockTime time)
-{
-    const std::lock_guard<std::mutex> lock(m_jpegMutex);
-    const auto found = std::find_if(m_jpegs.begin(), m_jpegs.end(), [time](const BufferHandle &jpeg) {
-        return GST_BUFFER_PTS(jpeg.get()) == time;
-    });
-    return found == m_jpegs.end() ? BufferHandle() : retain(found->get());
 }
 
 bool CameraPipeline::open()
@@ -123,11 +97,6 @@ bool CameraPipeline::open()
     return false;
 }
 
-void CameraPipeline::setPaused(bool paused)
-{
-    gst_element_set_state(m_pipeline.get(), paused ? GST_STATE_PAUSED : GST_STATE_PLAYING);
-}
-
 FramePtr CameraPipeline::nextFrame(std::chrono::milliseconds wait)
 {
     const SampleHandle sample(
@@ -137,10 +106,12 @@ FramePtr CameraPipeline::nextFrame(std::chrono::milliseconds wait)
     auto frame = std::make_shared<CapturedFrame>();
     if (!gst_video_info_from_caps(&frame->info, gst_sample_get_caps(sample.get())))
         return {};
-    frame->picture = retain(gst_sample_get_buffer(sample.get()));
-    const GstClockTime time = GST_BUFFER_PTS(frame->picture.get());
+    GstBuffer *buffer = gst_sample_get_buffer(sample.get());
+    frame->isDamaged = GST_BUFFER_FLAG_IS_SET(buffer, GST_BUFFER_FLAG_CORRUPTED);
+    // The driver's buffers for JPEG are as large as raw pictures, and few. Copied, a frame may be kept.
+    frame->picture = frame->isJpeg() ? BufferHandle(gst_buffer_copy_deep(buffer)) : retain(buffer);
+    const GstClockTime time = GST_BUFFER_PTS(buffer);
     if (GST_CLOCK_TIME_IS_VALID(time)) {
-        frame->jpeg = jpegOf(time);
         frame->clockTime =
             gst_element_get_base_time(m_pipeline.get()) +
             gst_segment_to_running_time(gst_sample_get_segment(sample.get()), GST_FORMAT_TIME, time);

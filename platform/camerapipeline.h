@@ -5,10 +5,9 @@
 #include "platform/capturemode.h"
 
 #include <chrono>
-#include <deque>
-#include <mutex>
 
-// A camera's stream from the device to decoded frames: source, fixed mode, decoder, frames. Every call can
+// A camera's stream from the device to its frames, raw or JPEG: source, fixed mode, frames, and of H.264 its
+// decoder. Every call can
 // last as long as the camera's driver takes, so only the thread that grabs the frames makes them.
 class CameraPipeline
 {
@@ -27,9 +26,6 @@ public:
     // Opens the camera and starts the stream. False when the camera refuses.
     bool open();
 
-    // Stops the stream while the camera stays open, and lets it go on.
-    void setPaused(bool paused);
-
     // The next frame, waited for as long as told; null when none came.
     FramePtr nextFrame(std::chrono::milliseconds wait);
 
@@ -40,17 +36,12 @@ public:
 
 private:
     bool build(GstDevice *device, const CaptureMode &mode);
-    bool addDecoder(const CaptureMode &mode, GstElement **last);
+    bool addH264Decoder(GstElement **last);
     GstElement *add(const char *element);
-    static GstPadProbeReturn keepJpeg(GstPad *pad, GstPadProbeInfo *info, gpointer self);
-    BufferHandle jpegOf(GstClockTime time);
     void fail(CameraFailure failure);
 
     ElementHandle m_pipeline;
     BusHandle m_bus;
     GstElement *m_sink = nullptr; // owned by the pipeline
     CameraFailure m_failure;      // without a fault while all is well
-
-    std::mutex m_jpegMutex;
-    std::deque<BufferHandle> m_jpegs; // the last few on their way through the decoder
 };

@@ -14,13 +14,20 @@ constexpr double wantedRate = 30.0;
 // Cameras name 29.97 and 30.00003 as well as 30.
 constexpr double rateTolerance = 0.05;
 
+// Pages are read rather than watched: where a smooth picture is no larger than the first, one from the second
+// size on is better, at this rate.
+const QSize smallSize(640, 480);
+const QSize readableSize(1280, 720);
+constexpr double readableRate = 10.0;
+
 // Sizes that a range of sizes is offered in.
-const QSize usualSizes[] = {{320, 240},   {640, 480},   {800, 600},   {1024, 768},  {1280, 720}, {1280, 960},
-                            {1600, 1200}, {1920, 1080}, {2592, 1944}, {3264, 2448}, {3840, 2160}};
+const QSize usualSizes[] = {{320, 240},   {640, 480},   {800, 600},   {1024, 768},  {1280, 720},
+                            {1280, 960},  {1280, 1024}, {1600, 1200}, {1920, 1080}, {2048, 1536},
+                            {2560, 1440}, {2592, 1944}, {3264, 2448}, {3840, 2160}};
 
 // Raw formats by the work that they cost on the way to screen, photo and encoder, least first.
-const char *const rawFormats[] = {"I420", "YV12", "NV12", "NV21", "YUY2", "UYVY", "YVYU",
-                                  "VYUY", "Y42B", "Y444", "BGRx", "RGBx", "xRGB", "xBGR",
+const char *const rawFormats[] = {"I420", "YV12", "NV12", "NV21", "YUY2", "UYVY", "YVYU", "VYUY",
+                                  "NV16", "NV61", "Y42B", "Y444", "BGRx", "RGBx", "xRGB", "xBGR",
                                   "BGRA", "RGBA", "ARGB", "ABGR", "BGR",  "RGB"};
 
 struct Rate {
@@ -82,6 +89,7 @@ std::vector<IntRange> intRanges(const GstStructure *structure, const char *field
     return ranges;
 }
 
+// The far ends of a range are mostly what somebody would put up with, not what a camera has.
 std::vector<QSize> sizesOf(const GstStructure *structure)
 {
     std::vector<QSize> sizes;
@@ -91,12 +99,12 @@ std::vector<QSize> sizesOf(const GstStructure *structure)
     };
     for (const IntRange &width : intRanges(structure, "width")) {
         for (const IntRange &height : intRanges(structure, "height")) {
-            add({width.low, height.low});
+            if (width.low == width.high && height.low == height.high)
+                add({width.low, height.low});
             for (const QSize &usual : usualSizes) {
                 if (width.contains(usual.width()) && height.contains(usual.height()))
                     add(usual);
             }
-            add({width.high, height.high});
         }
     }
     return sizes;
@@ -201,6 +209,12 @@ bool betterAtOneSize(const CaptureMode &a, const CaptureMode &b)
     return rawFormatCost(a.rawFormat) < rawFormatCost(b.rawFormat);
 }
 
+bool isReadable(const CaptureMode &mode)
+{
+    return mode.framesPerSecond() >= readableRate - rateTolerance &&
+           mode.size.width() >= readableSize.width() && mode.size.height() >= readableSize.height();
+}
+
 bool betterNative(const CaptureMode &a, const CaptureMode &b)
 {
     if (isSmooth(a) != isSmooth(b))
@@ -234,7 +248,13 @@ std::vector<CaptureMode> captureModes(const GstCaps *caps, bool h264Decodes)
 CaptureMode nativeMode(const std::vector<CaptureMode> &modes)
 {
     const auto best = std::min_element(modes.begin(), modes.end(), betterNative);
-    return best == modes.end() ? CaptureMode() : *best;
+    if (best == modes.end())
+        return {};
+    if (!isSmooth(*best) || area(best->size) > area(smallSize))
+        return *best;
+    std::vector<CaptureMode> readable;
+    std::copy_if(modes.begin(), modes.end(), std::back_inserter(readable), isReadable);
+    return readable.empty() ? *best : *std::min_element(readable.begin(), readable.end(), betterNative);
 }
 
 CaptureMode modeOfSize(const std::vector<CaptureMode> &modes, const QSize &size)

@@ -25,11 +25,12 @@ struct CaptureMode {
 // Every mode of the caps that this program can take a picture from, one a size of each entry, each with the
 // frame rate that suits it: 30 a second, else the next above, else the fastest that is offered. Modes in
 // another memory than the system's, grey-only ones (infrared) and, unless h264Decodes, H.264 ones are left
-// out. Ranges of sizes give their ends and the usual sizes between.
+// out. Ranges of sizes give the usual sizes in them.
 std::vector<CaptureMode> captureModes(const GstCaps *caps, bool h264Decodes);
 
 // The mode in which to open a camera: the largest picture at 24 frames a second or more, else the largest;
-// at the same size the better rate, then raw before JPEG before H.264. An invalid mode when there is none.
+// where that is no larger than 640x480, the largest from 1280x720 on at 10 frames or more, if there is one.
+// At the same size the better rate, then raw before JPEG before H.264. An invalid mode when there is none.
 CaptureMode nativeMode(const std::vector<CaptureMode> &modes);
 
 // The best mode of exactly that size; an invalid mode when the size is not offered.

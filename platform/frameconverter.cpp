@@ -1,12 +1,27 @@
 #include "platform/frameconverter.h"
 
+namespace
+{
+
+// The converter refuses two infos whose rates or interlacing differ. The rates play no part in the picture,
+// and the lines of two fields that stand in turn are one picture as they are.
+GstVideoInfo plain(GstVideoInfo info)
+{
+    info.fps_n = 0;
+    info.fps_d = 1;
+    info.interlace_mode = GST_VIDEO_INTERLACE_MODE_PROGRESSIVE;
+    return info;
+}
+
+} // namespace
+
 bool FrameConverter::convert(const GstVideoInfo &sourceInfo, GstBuffer *source, const QRect &part,
                              const GstVideoInfo &targetInfo, GstBuffer *target)
 {
-    if (!prepare(sourceInfo, part, targetInfo))
+    if (!prepare(plain(sourceInfo), part, plain(targetInfo)))
         return false;
-    MappedFrame from(sourceInfo, source, GST_MAP_READ);
-    MappedFrame to(targetInfo, target, GST_MAP_WRITE);
+    MappedFrame from(m_sourceInfo, source, GST_MAP_READ);
+    MappedFrame to(m_targetInfo, target, GST_MAP_WRITE);
     if (!from.isValid() || !to.isValid())
         return false;
     gst_video_converter_frame(m_converter.get(), from.get(), to.get());
@@ -22,13 +37,8 @@ bool FrameConverter::prepare(const GstVideoInfo &sourceInfo, const QRect &part,
     m_sourceInfo = sourceInfo;
     m_targetInfo = targetInfo;
     m_part = part;
-    // The rates play no part in the picture, but the converter refuses two that differ.
-    GstVideoInfo from = sourceInfo;
-    GstVideoInfo to = targetInfo;
-    to.fps_n = from.fps_n;
-    to.fps_d = from.fps_d;
     m_converter.reset(gst_video_converter_new(
-        &from, &to,
+        &m_sourceInfo, &m_targetInfo,
         gst_structure_new("options", GST_VIDEO_CONVERTER_OPT_SRC_X, G_TYPE_INT, part.x(),
                           GST_VIDEO_CONVERTER_OPT_SRC_Y, G_TYPE_INT, part.y(),
                           GST_VIDEO_CONVERTER_OPT_SRC_WIDTH, G_TYPE_INT, part.width(),
@@ -45,4 +55,11 @@ GstVideoInfo pictureInfo(GstVideoFormat format, const QSize &size)
     gst_video_info_init(&info);
     gst_video_info_set_format(&info, format, guint(size.width()), guint(size.height()));
     return info;
+}
+
+BufferHandle wrapPixels(const cv::Mat &pixels)
+{
+    const gsize bytes = pixels.total() * pixels.elemSize();
+    return BufferHandle(
+        gst_buffer_new_wrapped_full(GstMemoryFlags(0), pixels.data, bytes, 0, bytes, nullptr, nullptr));
 }

@@ -4,6 +4,8 @@
 
 #include <QRect>
 
+#include <opencv2/core/mat.hpp>
+
 // Converts pictures between pixel formats and sizes with GStreamer's converter, which it keeps for as long
 // as the kind of conversion stays the same. For one thread at a time.
 class FrameConverter
@@ -28,3 +30,6 @@ private:
 
 // The description of a picture of that format and size without padding beyond GStreamer's own.
 GstVideoInfo pictureInfo(GstVideoFormat format, const QSize &size);
+
+// The pixels in a buffer, which does not own them.
+BufferHandle wrapPixels(const cv::Mat &pixels);

@@ -2,8 +2,6 @@
 
 #include "platform/largepixels.h"
 
-#include <libyuv.h>
-
 #include <algorithm>
 
 namespace
@@ -20,23 +18,13 @@ bool isHeldElsewhere(const cv::Mat &buffer)
 
 } // namespace
 
-cv::Mat FrameRenderer::render(const CapturedFrame &frame, const Zoom &zoom, const QSize &box)
+cv::Mat FrameRenderer::render(const FramePtr &frame, FramePlanes *planes, const Zoom &zoom, const QSize &box)
 {
-    const QSize full(GST_VIDEO_INFO_WIDTH(&frame.info), GST_VIDEO_INFO_HEIGHT(&frame.info));
-    const QSize size = full.scaled(box, Qt::KeepAspectRatio);
+    const QSize size = frame->size().scaled(box, Qt::KeepAspectRatio);
     if (size.isEmpty())
         return {};
-    const QRect part = zoom.shownPart(full);
     cv::Mat pixels = freeBuffer(size);
-    if (part.size() == size)
-        return m_colours.convert(frame.info, frame.picture.get(), part, &pixels) ? pixels : cv::Mat();
-    createLarge(&m_unscaled, part.height(), part.width(), CV_8UC4);
-    if (!m_colours.convert(frame.info, frame.picture.get(), part, &m_unscaled))
-        return {};
-    // Reduced to less than half, pixels are averaged; else this is bilinear.
-    libyuv::ARGBScale(m_unscaled.data, int(m_unscaled.step), part.width(), part.height(), pixels.data,
-                      int(pixels.step), size.width(), size.height(), libyuv::kFilterBox);
-    return pixels;
+    return m_pixels.convert(frame, zoom.shownPart(frame->size()), planes, &pixels) ? pixels : cv::Mat();
 }
 
 cv::Mat FrameRenderer::freeBuffer(const QSize &size)

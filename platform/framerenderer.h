@@ -13,13 +13,13 @@
 class FrameRenderer
 {
 public:
-    // The picture fitted into the box with its proportions kept; an empty matrix when that fails.
-    cv::Mat render(const CapturedFrame &frame, const Zoom &zoom, const QSize &box);
+    // The picture, read through `planes`, fitted into the box with its proportions kept; an empty matrix when
+    // that fails or the frame is damaged.
+    cv::Mat render(const FramePtr &frame, FramePlanes *planes, const Zoom &zoom, const QSize &box);
 
 private:
     cv::Mat freeBuffer(const QSize &size);
 
-    ScreenPixels m_colours;
-    cv::Mat m_unscaled;
+    ScreenPixels m_pixels;
     std::vector<cv::Mat> m_buffers;
 };

@@ -7,7 +7,7 @@ namespace
 
 using namespace std::chrono_literals;
 
-// How soon the thread sees that it is to stop, pause or paint anew while no frames come.
+// How soon the thread sees that it is to stop or paint anew while no frames come.
 constexpr auto frameWait = 50ms;
 
 // Some cameras wake up for seconds. One that has been let go by its earlier user or has started by then never
@@ -49,12 +49,6 @@ void GrabThread::setView(const QSize &box, const Zoom &zoom)
     m_isViewChanged = true;
 }
 
-void GrabThread::setPaused(bool paused)
-{
-    noteSignOfLife();
-    m_isPaused = paused;
-}
-
 void GrabThread::setLiveHandler(std::function<void()> handler)
 {
     m_liveHandler = std::move(handler);
@@ -76,8 +70,6 @@ QImage GrabThread::picture() const
 CameraFault GrabThread::overdue() const
 {
     const std::chrono::milliseconds silent(now() - m_lastSignOfLife);
-    if (m_isPaused && !m_isOpening)
-        return CameraFault::None;
     if (!m_isLive)
         return silent > openingLimit ? CameraFault::NotAnswering : CameraFault::None;
     return silent > silenceLimit ? CameraFault::Silent : CameraFault::None;
@@ -134,19 +126,12 @@ bool GrabThread::waitForAccess(std::unique_lock<std::timed_mutex> &access)
 
 void GrabThread::grabUntilStopped(CameraPipeline &pipeline)
 {
-    bool isPaused = false;
     while (!isInterruptionRequested() && !pipeline.hasFailed()) {
-        if (isPaused != m_isPaused) {
-            isPaused = m_isPaused;
-            pipeline.setPaused(isPaused);
-            // What lay under the camera before a pause is no picture of now.
-            if (!isPaused)
-                m_frames->put(nullptr);
-        }
         const FramePtr frame = grabAllWaiting(pipeline);
         // A changed view shows the frame that is there already rather than wait for the next.
         if (m_isViewChanged.exchange(false) || frame)
             show(frame ? frame : newest(), view());
+        m_planes.release();
     }
 }
 
@@ -174,6 +159,11 @@ void GrabThread::deliver(const FramePtr &frame)
     m_frames->put(frame);
     if (!m_isLive.exchange(true))
         QMetaObject::invokeMethod(this, &GrabThread::tellLive, Qt::QueuedConnection);
+    record(frame);
+}
+
+void GrabThread::record(const FramePtr &frame)
+{
     std::shared_ptr<FrameSink> sink;
     Zoom zoom;
     {
@@ -181,8 +171,11 @@ void GrabThread::deliver(const FramePtr &frame)
         sink = m_sink;
         zoom = m_view.zoom;
     }
-    if (sink)
-        sink->take(frame, zoom);
+    if (!sink)
+        return;
+    // The zoom is in the picture by then.
+    if (const FramePtr picture = m_moviePictures.make(frame, &m_planes, zoom))
+        sink->take(picture, Zoom());
 }
 
 void GrabThread::tellLive()
@@ -203,7 +196,7 @@ void GrabThread::show(const FramePtr &frame, const View &view)
 {
     if (!frame || view.box.isEmpty())
         return;
-    const cv::Mat pixels = m_renderer.render(*frame, view.zoom, view.box);
+    const cv::Mat pixels = m_renderer.render(frame, &m_planes, view.zoom, view.box);
     if (pixels.empty())
         return;
     {

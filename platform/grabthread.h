@@ -3,6 +3,7 @@
 #include "platform/camerapipeline.h"
 #include "platform/framerenderer.h"
 #include "platform/framesink.h"
+#include "platform/moviepictures.h"
 #include "platform/newestframe.h"
 
 #include <QImage>
@@ -37,16 +38,15 @@ public:
     // What the window shows: the box in device pixels into which the picture is fitted. An empty box, while
     // nothing is to be seen, saves the work.
     void setView(const QSize &box, const Zoom &zoom);
-    // Holds the stream, with the camera open, and lets it go on.
-    void setPaused(bool paused);
     // Has this called once, on the thread of this object, when the first frame has come; null ends that.
     void setLiveHandler(std::function<void()> handler);
-    // Hands every further frame to the sink too; null ends that.
+    // Hands every further whole frame to the sink, as a movie's picture of what the zoom shows; null ends
+    // that.
     void setSink(std::shared_ptr<FrameSink> sink);
 
     // The latest picture for the window; null before the first. Shares its pixels.
     QImage picture() const;
-    // The latest frame at the camera's full size; null before the first, and after a pause before the next.
+    // The latest frame at the camera's full size, which may be damaged; null before the first.
     FramePtr newest() const { return m_frames->get(); }
     // Where the frames arrive, for whoever needs them longer than this object lives.
     std::shared_ptr<const NewestFrame> frames() const { return m_frames; }
@@ -56,7 +56,7 @@ public:
     // Whether the camera has not answered to being opened yet.
     bool isOpening() const { return m_isOpening; }
     // Whether the camera has used up its time: NotAnswering without a first frame fifteen seconds after the
-    // start, Silent without a further one for three; else None. A paused camera owes no frames.
+    // start, Silent without a further one for three; else None.
     CameraFault overdue() const;
     // Why the camera could not be opened or broke off; once deviceerr() was emitted.
     CameraFailure failure() const;
@@ -81,6 +81,7 @@ private:
     void fail(CameraFailure failure);
     FramePtr grabAllWaiting(CameraPipeline &pipeline);
     void deliver(const FramePtr &frame);
+    void record(const FramePtr &frame);
     void tellLive();
     void show(const FramePtr &frame, const View &view);
     View view() const;
@@ -92,6 +93,8 @@ private:
     const CameraAccess m_camera;
     const CaptureMode m_mode;
     const std::shared_ptr<NewestFrame> m_frames;
+    FramePlanes m_planes; // of the frame that is worked on, for movie and window
+    MoviePictures m_moviePictures;
     FrameRenderer m_renderer;
     std::function<void()> m_liveHandler; // of the thread of this object
 
@@ -100,7 +103,6 @@ private:
     std::shared_ptr<FrameSink> m_sink;
     CameraFailure m_failure;
     std::atomic<bool> m_isViewChanged{false};
-    std::atomic<bool> m_isPaused{false};
     std::atomic<bool> m_isOpening{true};
     std::atomic<bool> m_isLive{false};
     mutable std::atomic<bool> m_isPictureAwaited{true};

@@ -174,7 +174,6 @@ void LiveVideoData::openCamera()
     });
     m_grabThread->setLiveHandler([this] { noteLive(); });
     updateView();
-    m_grabThread->setPaused(m_isStopped);
     m_grabThread->start();
     m_watch.start();
 }
@@ -193,7 +192,6 @@ void LiveVideoData::Release()
     m_target.setPicture(QImage());
     created = false;
     m_isStarted = false;
-    m_isStopped = false;
     m_wantedSize = QSize();
     m_zoom = Zoom();
     tellMovieEnd(movie, MovieEnd::Asked);
@@ -228,17 +226,13 @@ void LiveVideoData::closeCameraAndWait()
 void LiveVideoData::Start()
 {
     m_isStarted = true;
-    m_isStopped = false;
-    if (m_grabThread)
-        m_grabThread->setPaused(false);
     updateView();
 }
 
 void LiveVideoData::Stop()
 {
-    m_isStopped = true;
-    if (m_grabThread && !m_movie && !m_startingMovie)
-        m_grabThread->setPaused(true);
+    m_isStarted = false;
+    updateView();
 }
 
 void LiveVideoData::Reset()
@@ -321,7 +315,7 @@ FramePtr LiveVideoData::awaitFrame()
             return true;
         frame = m_grabThread->newest();
         // Opening has a limit of its own.
-        if (!m_grabThread->isLive() && !m_isStopped)
+        if (!m_grabThread->isLive())
             limit = QDeadlineTimer(frameWait);
         return frame || limit.hasExpired();
     };

@@ -66,7 +66,7 @@ public:
 
     // Starts the live picture; when it runs already nothing changes.
     void Start();
-    // Holds the live picture; the camera stays open. A running movie goes on.
+    // Holds the live picture: no more of them are made. The camera runs on, and so does a movie.
     void Stop();
     // Makes the picture anew for the target as it is now.
     void Reset();
@@ -183,7 +183,6 @@ private:
     int m_useCount = 0; // of Create() and Release(): whoever waited sees that the camera is another one
     bool m_isFollowing = false; // what comes and goes
     bool m_isStarted = false;
-    bool m_isStopped = false; // held by Stop()
     bool m_isLost = false;
     bool m_isLiveTold = false; // since Create()
 

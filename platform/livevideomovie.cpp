@@ -2,6 +2,7 @@
 
 #include "platform/capturelog.h"
 #include "platform/livevideodata.h"
+#include "platform/moviepictures.h"
 #include "platform/movierecorder.h"
 #include "util/files/alivewait.h"
 
@@ -20,6 +21,19 @@ constexpr auto microphoneWait = 2s;
 constexpr auto fileWait = 450ms;
 constexpr auto lastFileWait = 30s;
 constexpr auto longestSoundGap = 2s;
+constexpr auto wholeFrameWait = 1s;
+
+// Of that frame, or of the next whole one; null when none comes.
+FramePtr wholePicture(FramePtr frame, const NewestFrame &frames, const Zoom &zoom)
+{
+    const auto limit = std::chrono::steady_clock::now() + wholeFrameWait;
+    FramePlanes planes;
+    MoviePictures pictures;
+    FramePtr picture;
+    while (frame && !(picture = pictures.make(frame, &planes, zoom)))
+        frame = frames.waitForOther(frame, limit);
+    return picture;
+}
 
 } // namespace
 
@@ -44,7 +58,7 @@ void LiveVideoData::startMovie(const QString &path)
         return;
     MovieSettings settings;
     settings.path = path;
-    settings.picture = atPress->info;
+    settings.picture = MoviePictures::infoOf(atPress->size());
     if (m_mode.rateNumerator > 0)
         settings.framesPerSecond = qMax(1, qRound(m_mode.framesPerSecond()));
     settings.microphone = *microphone;
@@ -54,8 +68,11 @@ void LiveVideoData::startMovie(const QString &path)
     // The newest of now: what comes after it goes to the movie already.
     const FramePtr newest = m_grabThread->newest();
     const FramePtr first = newest ? newest : atPress;
-    const auto isStarted =
-        doAside([movie, first, zoom = m_zoom] { return movie->start(first, zoom); }, startWait);
+    const auto start = [movie, first, zoom = m_zoom, frames = m_grabThread->frames()] {
+        const FramePtr picture = wholePicture(first, *frames, zoom);
+        return picture && movie->start(picture, Zoom());
+    };
+    const auto isStarted = doAside(start, startWait);
     if (!self || m_startingMovie != movie) {
         movie->discard(); // ended before it had begun
         return;
@@ -98,8 +115,6 @@ void LiveVideoData::endMovie(MovieEnd why)
 {
     const std::shared_ptr<MovieRecorder> movie = stopMovie();
     applyResolution();
-    if (m_isStopped && m_grabThread)
-        m_grabThread->setPaused(true);
     tellMovieEnd(movie, why);
 }
 

@@ -161,10 +161,8 @@ MoviePipeline buildMoviePipeline(const MovieSettings &settings)
 
     movie.pictures = addPictures(assembly, settings);
     movie.pictureQueue = addMuxQueue(assembly);
-    // Many cameras' JPEG holds more colour than most players' H.264 decoders read.
-    assembly.chain({movie.pictures, assembly.add("videoconvert"),
-                    assembly.addFilter("video/x-raw,format=I420"), addVideoEncoder(assembly, settings),
-                    assembly.add("h264parse"), movie.pictureQueue, movie.muxer});
+    assembly.chain({movie.pictures, addVideoEncoder(assembly, settings), assembly.add("h264parse"),
+                    movie.pictureQueue, movie.muxer});
 
     const CapsHandle caps(gst_caps_from_string(soundCaps));
     movie.sound = addSource(assembly, caps.get());

@@ -15,9 +15,6 @@ struct Requirement {
     const char *package;
 };
 
-// jpegdec before the others: a decoder that runs on the graphics card may stall or answer with memory that
-// only the card can read.
-const Requirement jpegDecoding{{"jpegdec", "avdec_mjpeg"}, "gstreamer1.0-plugins-good"};
 const Requirement h264Decoding{{"avdec_h264", "openh264dec"}, "gstreamer1.0-libav"};
 const Requirement aacEncoding{{"avenc_aac", "fdkaacenc", "voaacenc"}, "gstreamer1.0-libav"};
 
@@ -28,10 +25,8 @@ const Requirement requirements[] = {
     {{"filesink"}, "libgstreamer1.0-0"},
     {{"appsink"}, "gstreamer1.0-plugins-base"},
     {{"appsrc"}, "gstreamer1.0-plugins-base"},
-    {{"videoconvert"}, "gstreamer1.0-plugins-base"},
     {{"audioconvert"}, "gstreamer1.0-plugins-base"},
     {{"audioresample"}, "gstreamer1.0-plugins-base"},
-    jpegDecoding,
     {{"x264enc"}, "gstreamer1.0-plugins-ugly"},
     {{"h264parse"}, "gstreamer1.0-plugins-bad"},
     aacEncoding,
@@ -84,10 +79,6 @@ QStringList missing()
     return lines;
 }
 
-QByteArray jpegDecoder()
-{
-    return installed(jpegDecoding);
-}
 QByteArray h264Decoder()
 {
     return installed(h264Decoding);

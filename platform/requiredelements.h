@@ -12,7 +12,6 @@ namespace RequiredElements
 QStringList missing();
 
 // The installed element for each task; empty when none is.
-QByteArray jpegDecoder();
 QByteArray h264Decoder();
 QByteArray aacEncoder();
 

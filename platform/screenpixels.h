@@ -1,30 +1,23 @@
 #pragma once
 
 #include "platform/frameconverter.h"
+#include "platform/frameplanes.h"
 
 #include <opencv2/core/mat.hpp>
 
-// Turns parts of a camera's frames into the 32-bit BGRx rows that a screen shows, at the size they have. For
-// one thread at a time.
+// Turns parts of a camera's frames into the 32-bit BGRx rows that a screen shows. For one thread at a time.
 class ScreenPixels
 {
 public:
-    // Fills `pixels`, whose size is that of the part. False when the frame cannot be read or converted. The
-    // part starts and, but at the frame's edges, ends on even pixels.
-    bool convert(const GstVideoInfo &info, GstBuffer *picture, const QRect &part, cv::Mat *pixels);
+    // Fills all of `pixels` with the part of the frame, read through `planes`. False for a damaged frame and
+    // for one that cannot be read. The part starts and, but at the frame's edges, ends on even pixels.
+    bool convert(const FramePtr &frame, const QRect &part, FramePlanes *planes, cv::Mat *pixels);
 
 private:
-    bool convertUsual(const GstVideoInfo &info, GstBuffer *picture, const QRect &part, cv::Mat *pixels);
-    // Packed pixels in the planes that the next step reads.
-    struct Planes {
-        const uint8_t *data[3] = {};
-        int stride[3] = {};
-    };
-    Planes unpack(GstVideoFrame *frame, const QRect &part);
+    bool convertPlanes(const PicturePlanes &planes, cv::Mat *pixels);
+    bool convertRgb(const CapturedFrame &frame, const QRect &part, cv::Mat *pixels);
 
-    FrameConverter m_general{GST_VIDEO_RESAMPLER_METHOD_NEAREST};
-    cv::Mat m_planes[3];
+    FrameConverter m_general{GST_VIDEO_RESAMPLER_METHOD_LINEAR};
+    PlaneMemory m_scaled;
+    cv::Mat m_unscaled;
 };
-
-// The frame's pixels in a buffer, which does not own them.
-BufferHandle wrapPixels(const cv::Mat &pixels);

@@ -2,7 +2,9 @@
 
 #include "platform/capturelog.h"
 #include "platform/frameconverter.h"
-#include "platform/jpegcheck.h"
+#include "platform/frameplanes.h"
+#include "platform/jpegdecoder.h"
+#include "platform/planecolours.h"
 #include "util/files/largebytes.h"
 #include "util/files/photofile.h"
 
@@ -19,62 +21,96 @@ using namespace std::chrono_literals;
 
 constexpr auto wholeFrameWait = 1s;
 
-bool isWhole(const CapturedFrame &frame)
-{
-    if (!frame.jpeg)
-        return true;
-    GstMapInfo mapped;
-    if (!gst_buffer_map(frame.jpeg.get(), &mapped, GST_MAP_READ))
-        return false;
-    const bool whole = isWholeJpeg(mapped.data, mapped.size);
-    gst_buffer_unmap(frame.jpeg.get(), &mapped);
-    return whole;
-}
-
-// The first whole frame from the one of the order on. Of a camera that gives none in that time the last is
-// better than nothing.
-FramePtr wholeFrame(const StillOrder &order)
-{
-    const auto limit = std::chrono::steady_clock::now() + wholeFrameWait;
-    FramePtr frame = order.frame;
-    while (frame && !isWhole(*frame)) {
-        FramePtr next = order.frames->waitForOther(frame, limit);
-        if (!next)
-            return frame;
-        frame = std::move(next);
-    }
-    return frame;
-}
-
 // An RGB image in memory that comes fast; null when there is none.
-QImage largeImage(const GstVideoInfo &rgb)
+QImage largeImage(const QSize &size)
 {
-    auto *pixels = new LargeBytes(GST_VIDEO_INFO_SIZE(&rgb));
+    const int stride = (size.width() * 3 + 3) & ~3;
+    auto *pixels = new LargeBytes(size_t(stride) * size_t(size.height()));
     if (pixels->size() == 0) {
         delete pixels;
         return {};
     }
     return QImage(
-        pixels->data(), GST_VIDEO_INFO_WIDTH(&rgb), GST_VIDEO_INFO_HEIGHT(&rgb),
-        GST_VIDEO_INFO_PLANE_STRIDE(&rgb, 0), QImage::Format_RGB888,
+        pixels->data(), size.width(), size.height(), stride, QImage::Format_RGB888,
         [](void *memory) { delete static_cast<LargeBytes *>(memory); }, pixels);
 }
 
-// The part of the frame that the zoom shows; null when it cannot be converted.
-QImage rgbPicture(const CapturedFrame &frame, const Zoom &zoom)
+BufferHandle wrapImage(QImage *image)
 {
-    const QSize size(GST_VIDEO_INFO_WIDTH(&frame.info), GST_VIDEO_INFO_HEIGHT(&frame.info));
+    const auto bytes = gsize(image->sizeInBytes());
+    return BufferHandle(
+        gst_buffer_new_wrapped_full(GstMemoryFlags(0), image->bits(), bytes, 0, bytes, nullptr, nullptr));
+}
+
+// A frame as RGB, and whether all of it came from the camera.
+struct RgbPicture {
+    QImage image; // null when there is nothing to see in it
+    bool isWhole = false;
+};
+
+RgbPicture decoded(const CapturedFrame &frame)
+{
+    RgbPicture picture;
+    const QSize size = JpegDecoder::sizeOf(frame.picture.get(), frame.size());
+    if (size.isEmpty())
+        return picture;
+    picture.image = largeImage(size);
+    picture.isWhole = !picture.image.isNull() && JpegDecoder::decodeRgb(frame.picture.get(), &picture.image);
+    return picture;
+}
+
+// The part of a raw picture, at its own size or, with GStreamer's best scaling, at another.
+bool convert(const GstVideoInfo &info, GstBuffer *buffer, const QRect &part, QImage *image)
+{
+    const GstVideoInfo rgb = pictureInfo(GST_VIDEO_FORMAT_RGB, image->size());
+    return FrameConverter(GST_VIDEO_RESAMPLER_METHOD_CUBIC)
+        .convert(info, buffer, part, rgb, wrapImage(image).get());
+}
+
+RgbPicture zoomed(RgbPicture picture, const Zoom &zoom)
+{
+    const QSize size = picture.image.size();
+    if (zoom.isNone() || picture.image.isNull())
+        return picture;
+    RgbPicture larger{largeImage(size), picture.isWhole};
     const GstVideoInfo rgb = pictureInfo(GST_VIDEO_FORMAT_RGB, size);
-    QImage image = largeImage(rgb);
-    if (image.isNull())
+    if (larger.image.isNull() ||
+        !convert(rgb, wrapImage(&picture.image).get(), zoom.shownPart(size), &larger.image))
         return {};
-    const BufferHandle picture(gst_buffer_new_wrapped_full(GstMemoryFlags(0), image.bits(),
-                                                           gsize(image.sizeInBytes()), 0,
-                                                           gsize(image.sizeInBytes()), nullptr, nullptr));
-    FrameConverter converter(GST_VIDEO_RESAMPLER_METHOD_CUBIC);
-    if (!converter.convert(frame.info, frame.picture.get(), zoom.shownPart(size), rgb, picture.get()))
+    return larger;
+}
+
+// The part of the frame that the zoom shows, at the frame's size.
+RgbPicture rgbPicture(const FramePtr &frame, const Zoom &zoom)
+{
+    if (frame->isJpeg())
+        return zoomed(decoded(*frame), zoom);
+    const QSize size = frame->size();
+    RgbPicture picture{largeImage(size), !frame->isDamaged};
+    if (picture.image.isNull())
         return {};
-    return image;
+    FramePlanes planes;
+    const auto found = zoom.isNone() ? planes.read(frame, zoom.shownPart(size), size) : std::nullopt;
+    if (!(found && toRgb(*found, picture.image.bits(), picture.image.bytesPerLine())) &&
+        !convert(frame->info, frame->picture.get(), zoom.shownPart(size), &picture.image))
+        return {};
+    return picture;
+}
+
+// Of the first whole frame from the one of the order on. Of a camera that gives none in that time the last is
+// better than nothing.
+QImage wholePicture(const StillOrder &order)
+{
+    const auto limit = std::chrono::steady_clock::now() + wholeFrameWait;
+    QImage last;
+    for (FramePtr frame = order.frame; frame; frame = order.frames->waitForOther(frame, limit)) {
+        RgbPicture picture = rgbPicture(frame, order.zoom);
+        if (picture.isWhole)
+            return picture.image;
+        if (!picture.image.isNull())
+            last = picture.image;
+    }
+    return last;
 }
 
 } // namespace
@@ -98,12 +134,9 @@ void StillPicture::save()
 
 PhotoFault StillPicture::make()
 {
-    const FramePtr frame = wholeFrame(m_order);
-    if (!frame)
-        return PhotoFault::NoPicture;
-    const QImage picture = rgbPicture(*frame, m_order.zoom);
+    const QImage picture = wholePicture(m_order);
     if (picture.isNull())
-        return PhotoFault::Failed;
+        return PhotoFault::NoPicture;
     if (m_isShown)
         offer(picture);
     return write(picture);

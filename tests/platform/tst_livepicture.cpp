@@ -12,6 +12,7 @@ private slots:
     void leavesWhatLiesOverItVisible();
     void staysUnderTwoFramesBehind();
     void stopsAndStarts();
+    void leavesDamagedFramesOut();
 };
 
 void TestLivePicture::keepsProportionsWithoutMirroring()
@@ -53,7 +54,7 @@ void TestLivePicture::followsItsWidget()
     camera.window.setFixedSize(320, 240);
     QTRY_VERIFY(camera.shownSince() >= 0);
 
-    // A change while the camera is held has only the last frame to go by.
+    // A change while the picture is held has only the last one to go by.
     camera.capture.Stop();
     camera.window.hide();
     camera.window.setFixedSize(480, 360);
@@ -129,6 +130,26 @@ void TestLivePicture::stopsAndStarts()
     QCOMPARE(camera.lost.count(), 0);
     camera.capture.Start();
     QTRY_VERIFY(camera.shownSince() > before);
+}
+
+void TestLivePicture::leavesDamagedFramesOut()
+{
+    TestDevices devices;
+    devices.camera("cam").formats("JPEG 1280x720 30").content("counter").damaged("2");
+    devices.write();
+    CameraWindow camera;
+    QVERIFY(camera.start());
+    const QRect picture(0, 60, 640, 360);
+    qint64 last = 0;
+    int changes = 0;
+    QElapsedTimer clock;
+    for (clock.start(); clock.elapsed() < 1500; QTest::qWait(5)) {
+        const qint64 shown = CameraWindow::capturedAt(camera.screen(), picture);
+        QVERIFY(shown >= 0);
+        changes += shown != last;
+        last = shown;
+    }
+    QVERIFY2(changes > 15 && changes < 30, qPrintable(QString::number(changes)));
 }
 
 QTEST_MAIN(TestLivePicture)

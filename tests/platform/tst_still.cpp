@@ -26,6 +26,7 @@ class TestStill : public QObject
 private slots:
     void init() { m_folder = std::make_unique<QTemporaryDir>(); }
     void savesTheNewestFrameInFullSize();
+    void keepsTheColourOfEachRow();
     void passesOverDamagedFrames();
     void waitsForTheFirstFrame();
     void leavesNothingOnAFullDisk();
@@ -44,12 +45,14 @@ void TestStill::savesTheNewestFrameInFullSize()
     const struct {
         const char *format;
         QSize size;
-    } table[] = {{"YUY2 1920x1080 30", {1920, 1080}},
-                 {"JPEG 1280x720 30", {1280, 720}},
-                 {"I420 322x242 30", {322, 242}}};
+    } table[] = {{"YUY2 1920x1080 30", {1920, 1080}}, {"JPEG 1280x720 30", {1280, 720}},
+                 {"I420 322x242 30", {322, 242}},     {"YUY2 323x241 30 interlaced", {323, 241}},
+                 {"NV12 321x243 30", {321, 243}},     {"RGB 321x243 30", {321, 243}}};
     for (const auto &row : table) {
         TestDevices devices;
+        const bool isJpeg = row.format[0] == 'J';
         devices.camera("cam").formats(row.format).content("counter").name(row.format);
+        devices.camera("cam").set("padding", isJpeg ? "0" : "24");
         devices.write();
         CameraWindow camera(QSize(320, 240));
         QVERIFY(camera.lists({row.format}));
@@ -71,6 +74,24 @@ void TestStill::savesTheNewestFrameInFullSize()
         QVERIFY(reader.waitForFinished());
         QCOMPARE(reader.readAllStandardError(), QByteArray());
         QCOMPARE(reader.exitCode(), 0);
+    }
+}
+
+// Cameras send JPEG with as many rows of colour as of brightness.
+void TestStill::keepsTheColourOfEachRow()
+{
+    TestDevices devices;
+    devices.camera("cam").formats("JPEG 640x480 30").content("rows");
+    devices.write();
+    CameraWindow camera;
+    QVERIFY(camera.start());
+    QVERIFY(camera.capture.SaveBitmap(path("photo.png")));
+    const QImage photo(path("photo.png"));
+    for (int y = 0; y < photo.height(); ++y) {
+        const QColor colour = photo.pixelColor(320, y);
+        const QColor drawn(y % 2 ? 0x2020c0 : 0xc02020);
+        QVERIFY2(qAbs(colour.red() - drawn.red()) < 40 && qAbs(colour.blue() - drawn.blue()) < 40,
+                 qPrintable(QString("%1: %2").arg(y).arg(colour.name())));
     }
 }
 

@@ -52,6 +52,8 @@ public:
     GstBuffer *make(const Moment &moment, const DeviceSettings &device) override
     {
         GstBuffer *frame = whole(moment);
+        if (const int padding = std::stoi(device.value("padding", "0")))
+            frame = padded(frame, padding);
         const int every = std::stoi(device.value("damaged", "0"));
         if (!every || moment.frame % every)
             return frame;
@@ -80,6 +82,33 @@ private:
             return encoded;
         m_kept[variant] = encoded;
         return gst_buffer_copy(encoded);
+    }
+    // With rows that take more bytes than they need. Transfer full of both.
+    GstBuffer *padded(GstBuffer *tight, int padding)
+    {
+        GstVideoInfo from;
+        GstCaps *caps = gst_pad_get_current_caps(GST_BASE_SINK_PAD(m_out));
+        gst_video_info_from_caps(&from, caps);
+        gst_caps_unref(caps);
+        GstVideoInfo to = from;
+        GstVideoAlignment alignment;
+        gst_video_alignment_reset(&alignment);
+        alignment.padding_right = guint(padding);
+        alignment.padding_bottom = 2;
+        gst_video_info_align(&to, &alignment);
+        GstBuffer *wide = gst_buffer_new_allocate(nullptr, to.size, nullptr);
+        gst_buffer_add_video_meta_full(wide, GST_VIDEO_FRAME_FLAG_NONE, GST_VIDEO_INFO_FORMAT(&to),
+                                       guint(to.width), guint(to.height), GST_VIDEO_INFO_N_PLANES(&to),
+                                       to.offset, to.stride);
+        GstVideoFrame source;
+        GstVideoFrame target;
+        gst_video_frame_map(&source, &from, tight, GST_MAP_READ);
+        gst_video_frame_map(&target, &to, wide, GST_MAP_WRITE);
+        gst_video_frame_copy(&target, &source);
+        gst_video_frame_unmap(&target);
+        gst_video_frame_unmap(&source);
+        gst_buffer_unref(tight);
+        return wide;
     }
     GstBuffer *encode()
     {
@@ -122,8 +151,9 @@ std::unique_ptr<Producer> Producer::ofCamera(const DeviceSettings &device, const
     const std::string description =
         "appsrc name=in format=time caps=\"video/x-raw,format=BGRx,width=" + std::to_string(width) +
         ",height=" + std::to_string(height) + ",framerate=" + std::to_string(rate) + "/" +
-        std::to_string(denominator) + "\" ! " + encoderFor(format) + " ! " + caps +
-        " ! appsink name=out sync=false";
+        std::to_string(denominator) +
+        (gst_structure_has_field(format, "interlace-mode") ? ",interlace-mode=interleaved" : "") + "\" ! " +
+        encoderFor(format) + " ! " + caps + " ! appsink name=out sync=false";
     g_free(caps);
     GstElement *pipeline = gst_parse_launch(description.c_str(), nullptr);
     if (!pipeline)

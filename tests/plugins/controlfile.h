@@ -3,8 +3,10 @@
 //   name      as listed; the section's name if left out
 //   provider  a or b
 //   prop.*    what the device tells of itself
-//   formats   of a camera, as "YUY2 1920x1080 30;JPEG 640x480 30"
-//   content   of a camera: page, flash, counter, quarters, or a colour as RRGGBB
+//   formats   of a camera, as "YUY2 1920x1080 30;JPEG 640x480 30"; "interlaced" may stand behind a raw one
+//   content   of a camera: page, flash, counter, quarters, rows (red and blue ones in turn), or a colour as
+//             RRGGBB
+//   padding   of a raw camera's rows: so many bytes more than they need
 //   damaged   of a JPEG camera: every so manieth frame is
 //   sound     of a microphone: silence, tone or beep
 //   clock     of a microphone: by how many millionths of its rate it is fast

@@ -54,6 +54,13 @@ void drawQuarters(Picture *picture)
     picture->fill(x / 2 - unit, y / 2, 2 * unit, unit, white);
 }
 
+void drawRows(Picture *picture)
+{
+    picture->fill(0, 0, picture->width, picture->height, 0xc02020);
+    for (int y = 1; y < picture->height; y += 2)
+        picture->fill(0, y, picture->width, 1, 0x2020c0);
+}
+
 // A lens never draws a hard edge: each pixel is mixed with the ones beside it, two bits of a colour being
 // lost.
 void soften(Picture *picture)
@@ -122,6 +129,8 @@ void drawPicture(const std::string &content, const Moment &moment, Picture *pict
         drawCounter(picture, moment);
     else if (content == "quarters")
         drawQuarters(picture);
+    else if (content == "rows")
+        drawRows(picture);
     else if (content == "page")
         drawPage(picture, pictureVariant(content, moment));
     else if (content == "flash")

@@ -262,6 +262,8 @@ GstCaps *deviceCaps(const std::string &section, const DeviceSettings &device)
                 : gst_caps_new_simple("video/x-raw", "format", G_TYPE_STRING, coding.c_str(), nullptr);
         gst_caps_set_simple(one, "width", G_TYPE_INT, width, "height", G_TYPE_INT, height, "framerate",
                             GST_TYPE_FRACTION, rate, 1, nullptr);
+        if (format.find("interlaced") != std::string::npos)
+            gst_caps_set_simple(one, "interlace-mode", G_TYPE_STRING, "interleaved", nullptr);
         gst_caps_append(caps, one);
     }
     return caps;

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/capturedframe.h"
+#include "platform/pictureplanes.h"
+
+// Reads the planes of a camera's frames: of a JPEG only as far as it is wanted. For one thread at a time.
+class FramePlanes
+{
+public:
+    // What the zoom's part of the frame is made of, for a picture of `size`: a JPEG is decoded at the least
+    // scale that has the pixels for it. Of the JPEG asked for last, what is there already is used again.
+    // Nothing for a damaged frame, and for raw formats without planes or of unusual colours. Good until the
+    // next call.
+    std::optional<PicturePlanes> read(const FramePtr &frame, const QRect &part, const QSize &size);
+
+    // Lets go of the frame asked for last.
+    void release();
+
+private:
+    std::optional<PicturePlanes> readRaw(const FramePtr &frame, const QRect &part);
+    bool decode(const FramePtr &frame, int denominator);
+
+    FramePtr m_frame;
+    std::unique_ptr<MappedFrame> m_mapped;  // of a raw frame
+    std::optional<PicturePlanes> m_decoded; // of a JPEG
+    int m_denominator = 0;                  // at which it was decoded, or found damaged; 0 for not at all
+    PlaneMemory m_memory;
+};
