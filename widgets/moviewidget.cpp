@@ -43,6 +43,7 @@ bool MovieWidget::Create(const QString &path)
     if (!m_created)
         setUpPlayer();
     forgetWish();
+    m_isStarting = false;
     load(Phonon::MediaSource(QUrl::fromLocalFile(path)));
     m_created = true;
     return true;
@@ -71,12 +72,19 @@ void MovieWidget::Play()
     m_firstPicture->stop();
     m_isPlayWanted = true;
     if (!isPlaying())
-        play();
+        start();
+}
+
+void MovieWidget::start()
+{
+    m_isStarting = true;
+    play();
 }
 
 void MovieWidget::Stop()
 {
     forgetWish();
+    m_isStarting = false;
     stop();
 }
 
@@ -94,7 +102,8 @@ bool MovieWidget::isComplete()
 void MovieWidget::disp()
 {
     forgetWish();
-    Phonon::VideoPlayer::pause();
+    if (!m_isStarting) // else as soon as it plays
+        Phonon::VideoPlayer::pause();
 }
 
 void MovieWidget::forgetWish()
@@ -103,11 +112,14 @@ void MovieWidget::forgetWish()
     m_isPlayWanted = false;
 }
 
-// A player that does not yet know its movie may forget what it was told.
+// Told to pause while it is still starting, the player now and then comes to a standstill that only stopping
+// ends; and what it is told before it knows its movie it may forget.
 void MovieWidget::followWish()
 {
+    if (isPlaying())
+        m_isStarting = false;
     if (m_isPlayWanted && isPaused())
-        play();
+        start();
     else if (!m_isPlayWanted && isPlaying() && !m_firstPicture->isActive())
         Phonon::VideoPlayer::pause();
 }
@@ -119,7 +131,7 @@ void MovieWidget::showEvent(QShowEvent *event)
         return;
     forgetWish();
     m_firstPicture->start();
-    play();
+    start();
 }
 void MovieWidget::prepare()
 {

@@ -36,13 +36,14 @@ public slots:
     void Stop();
     void Reset(); // from the beginning
     bool isComplete();
-    void disp(); // holds the picture that is shown
+    void disp(); // holds the picture that is shown; while the player is starting, its first
 
 protected:
     void showEvent(QShowEvent *event) override;
 
 private:
     void setUpPlayer();
+    void start();
     void followWish();
     void forgetWish();
 
@@ -50,4 +51,5 @@ private:
     QTimer *m_firstPicture; // runs from showing the movie until it is held
     bool m_created = false;
     bool m_isPlayWanted = false;
+    bool m_isStarting = false; // told to play, and does not yet
 };
