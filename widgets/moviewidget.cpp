@@ -102,7 +102,9 @@ bool MovieWidget::isComplete()
 void MovieWidget::disp()
 {
     forgetWish();
-    if (!m_isStarting) // else as soon as it plays
+    if (m_isStarting)
+        play(); // it is held as soon as it plays
+    else
         Phonon::VideoPlayer::pause();
 }
 
@@ -113,7 +115,7 @@ void MovieWidget::forgetWish()
 }
 
 // Told to pause while it is still starting, the player now and then comes to a standstill that only stopping
-// ends; and what it is told before it knows its movie it may forget.
+// ends. And after movies that it could not play, it may forget that it was told to play.
 void MovieWidget::followWish()
 {
     if (isPlaying())
@@ -133,6 +135,7 @@ void MovieWidget::showEvent(QShowEvent *event)
     m_firstPicture->start();
     start();
 }
+
 void MovieWidget::prepare()
 {
     backgroundPool()->start(preloadPlayer);
