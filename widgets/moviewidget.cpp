@@ -18,10 +18,14 @@ namespace
 {
 // Time enough for the first picture to be on screen.
 constexpr int firstPictureMilliseconds = 100;
+// Movies seldom take as long to begin.
+constexpr int standstillMilliseconds = 1000;
+constexpr int mostRestarts = 3;
 } // namespace
 
 MovieWidget::MovieWidget(QWidget *parent)
-    : Phonon::VideoPlayer(parent), m_caption(new QLabel(tr("Movie"), this)), m_firstPicture(new QTimer(this))
+    : Phonon::VideoPlayer(parent), m_caption(new QLabel(tr("Movie"), this)), m_firstPicture(new QTimer(this)),
+      m_standstill(new QTimer(this))
 {
     QPalette colours = palette();
     colours.setColor(QPalette::Window, Qt::black);
@@ -36,6 +40,8 @@ MovieWidget::MovieWidget(QWidget *parent)
     m_firstPicture->setSingleShot(true);
     m_firstPicture->setInterval(firstPictureMilliseconds);
     connect(m_firstPicture, &QTimer::timeout, this, &MovieWidget::disp);
+    m_standstill->setSingleShot(true);
+    connect(m_standstill, &QTimer::timeout, this, &MovieWidget::restart);
 }
 
 bool MovieWidget::Create(const QString &path)
@@ -43,7 +49,7 @@ bool MovieWidget::Create(const QString &path)
     if (!m_created)
         setUpPlayer();
     forgetWish();
-    m_isStarting = false;
+    endStart();
     load(Phonon::MediaSource(QUrl::fromLocalFile(path)));
     m_created = true;
     return true;
@@ -78,13 +84,31 @@ void MovieWidget::Play()
 void MovieWidget::start()
 {
     m_isStarting = true;
+    m_restarts = 0;
+    m_standstill->start(standstillMilliseconds);
     play();
+}
+
+// Now and then the player comes to a standstill while it is starting, or forgets that it was told to, as
+// after movies that it could not play. Only stopping ends that. What it cannot play stays where it is.
+void MovieWidget::restart()
+{
+    if (++m_restarts < mostRestarts)
+        m_standstill->start(standstillMilliseconds << m_restarts); // it may only have been slow
+    stop();
+    play();
+}
+
+void MovieWidget::endStart()
+{
+    m_standstill->stop();
+    m_isStarting = false;
 }
 
 void MovieWidget::Stop()
 {
     forgetWish();
-    m_isStarting = false;
+    endStart();
     stop();
 }
 
@@ -102,8 +126,9 @@ bool MovieWidget::isComplete()
 void MovieWidget::disp()
 {
     forgetWish();
+    // To pause while it is starting is what brings the player to a standstill: it is held once it plays.
     if (m_isStarting)
-        play(); // it is held as soon as it plays
+        play();
     else
         Phonon::VideoPlayer::pause();
 }
@@ -114,13 +139,11 @@ void MovieWidget::forgetWish()
     m_isPlayWanted = false;
 }
 
-// Told to pause while it is still starting, the player now and then comes to a standstill that only stopping
-// ends. And after movies that it could not play, it may forget that it was told to play.
 void MovieWidget::followWish()
 {
     if (isPlaying())
-        m_isStarting = false;
-    if (m_isPlayWanted && isPaused())
+        endStart();
+    if (m_isPlayWanted && !m_isStarting && isPaused())
         start();
     else if (!m_isPlayWanted && isPlaying() && !m_firstPicture->isActive())
         Phonon::VideoPlayer::pause();

@@ -44,12 +44,16 @@ protected:
 private:
     void setUpPlayer();
     void start();
+    void restart();
+    void endStart();
     void followWish();
     void forgetWish();
 
     QLabel *m_caption;
     QTimer *m_firstPicture; // runs from showing the movie until it is held
+    QTimer *m_standstill;   // runs while it is starting, until it is given up
     bool m_created = false;
     bool m_isPlayWanted = false;
     bool m_isStarting = false; // told to play, and does not yet
+    int m_restarts = 0;        // of this start
 };
