@@ -89,8 +89,8 @@ void MovieWidget::start()
     play();
 }
 
-// Now and then the player comes to a standstill while it is starting, or forgets that it was told to, as
-// after movies that it could not play. Only stopping ends that. What it cannot play stays where it is.
+// Now and then the player comes to a standstill while it is starting, which only stopping ends, or forgets
+// that it was told to, as after movies that it could not play. What it cannot play stays where it is.
 void MovieWidget::restart()
 {
     if (++m_restarts < mostRestarts)
@@ -126,7 +126,8 @@ bool MovieWidget::isComplete()
 void MovieWidget::disp()
 {
     forgetWish();
-    // To pause while it is starting is what brings the player to a standstill: it is held once it plays.
+    // Pausing while it is starting is what brings the player to a standstill: it is held once it plays. It
+    // may have forgotten the start.
     if (m_isStarting)
         play();
     else
