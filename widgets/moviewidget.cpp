@@ -15,16 +15,14 @@ namespace
 {
 // Time enough for the first picture to be on screen.
 constexpr int firstPictureMilliseconds = 100;
-
-// A movie loads in less. One that comes right after one that cannot be played is stopped now and then by the
-// end of that, and is loaded again; how often is for those that can never be played.
-constexpr int loadingMilliseconds = 700;
-constexpr int mostLoads = 3;
+// Movies seldom take as long to begin.
+constexpr int standstillMilliseconds = 1000;
+constexpr int mostRestarts = 3;
 } // namespace
 
 MovieWidget::MovieWidget(QWidget *parent)
     : Phonon::VideoPlayer(parent), m_caption(new QLabel(tr("Movie"), this)), m_firstPicture(new QTimer(this)),
-      m_loading(new QTimer(this))
+      m_standstill(new QTimer(this))
 {
     QPalette colours = palette();
     colours.setColor(QPalette::Window, Qt::black);
@@ -39,9 +37,8 @@ MovieWidget::MovieWidget(QWidget *parent)
     m_firstPicture->setSingleShot(true);
     m_firstPicture->setInterval(firstPictureMilliseconds);
     connect(m_firstPicture, &QTimer::timeout, this, &MovieWidget::disp);
-    m_loading->setSingleShot(true);
-    m_loading->setInterval(loadingMilliseconds);
-    connect(m_loading, &QTimer::timeout, this, &MovieWidget::loadAgain);
+    m_standstill->setSingleShot(true);
+    connect(m_standstill, &QTimer::timeout, this, &MovieWidget::restart);
 }
 
 bool MovieWidget::Create(const QString &path)
@@ -49,29 +46,10 @@ bool MovieWidget::Create(const QString &path)
     if (!m_created)
         setUpPlayer();
     forgetWish();
+    endStart();
+    load(Phonon::MediaSource(QUrl::fromLocalFile(path)));
     m_created = true;
-    m_path = path;
-    m_loads = 0;
-    loadMovie();
     return true;
-}
-
-void MovieWidget::loadMovie()
-{
-    ++m_loads;
-    load(Phonon::MediaSource(QUrl::fromLocalFile(m_path)));
-    m_loading->start();
-}
-
-void MovieWidget::loadAgain()
-{
-    if (totalTime() > 0 || isPlaying() || m_loads >= mostLoads)
-        return;
-    loadMovie();
-    if (m_isPlayWanted)
-        play();
-    else if (isVisible())
-        showFirstPicture();
 }
 
 // Not before there is a movie: the first word with the player loads all of its machinery, which would take a
@@ -97,12 +75,37 @@ void MovieWidget::Play()
     m_firstPicture->stop();
     m_isPlayWanted = true;
     if (!isPlaying())
-        play();
+        start();
+}
+
+void MovieWidget::start()
+{
+    m_isStarting = true;
+    m_restarts = 0;
+    m_standstill->start(standstillMilliseconds);
+    play();
+}
+
+// Now and then the player comes to a standstill while it is starting, which only stopping ends, or forgets
+// that it was told to, as after movies that it could not play. What it cannot play stays where it is.
+void MovieWidget::restart()
+{
+    if (++m_restarts < mostRestarts)
+        m_standstill->start(standstillMilliseconds << m_restarts); // it may only have been slow
+    stop();
+    play();
+}
+
+void MovieWidget::endStart()
+{
+    m_standstill->stop();
+    m_isStarting = false;
 }
 
 void MovieWidget::Stop()
 {
     forgetWish();
+    endStart();
     stop();
 }
 
@@ -120,7 +123,12 @@ bool MovieWidget::isComplete()
 void MovieWidget::disp()
 {
     forgetWish();
-    Phonon::VideoPlayer::pause();
+    // Pausing while it is starting is what brings the player to a standstill: it is held once it plays. It
+    // may have forgotten the start.
+    if (m_isStarting)
+        play();
+    else
+        Phonon::VideoPlayer::pause();
 }
 
 void MovieWidget::forgetWish()
@@ -129,11 +137,12 @@ void MovieWidget::forgetWish()
     m_isPlayWanted = false;
 }
 
-// A player that does not yet know its movie may forget what it was told.
 void MovieWidget::followWish()
 {
-    if (m_isPlayWanted && isPaused())
-        play();
+    if (isPlaying())
+        endStart();
+    if (m_isPlayWanted && !m_isStarting && isPaused())
+        start();
     else if (!m_isPlayWanted && isPlaying() && !m_firstPicture->isActive())
         Phonon::VideoPlayer::pause();
 }
@@ -143,12 +152,7 @@ void MovieWidget::showEvent(QShowEvent *event)
     Phonon::VideoPlayer::showEvent(event);
     if (event->spontaneous()) // the window comes back from its icon: what plays goes on
         return;
-    showFirstPicture();
-}
-
-void MovieWidget::showFirstPicture()
-{
     forgetWish();
     m_firstPicture->start();
-    play();
+    start();
 }

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QString>
-
 #include <phonon/VideoPlayer>
 
 class QLabel;
@@ -34,24 +32,24 @@ public slots:
     void Stop();
     void Reset(); // from the beginning
     bool isComplete();
-    void disp(); // holds the picture that is shown
+    void disp(); // holds the picture that is shown; while the player is starting, its first
 
 protected:
     void showEvent(QShowEvent *event) override;
 
 private:
     void setUpPlayer();
-    void loadMovie();
-    void loadAgain();
-    void showFirstPicture();
+    void start();
+    void restart();
+    void endStart();
     void followWish();
     void forgetWish();
 
     QLabel *m_caption;
     QTimer *m_firstPicture; // runs from showing the movie until it is held
-    QTimer *m_loading;      // until it is looked whether the player has loaded the movie
-    int m_loads = 0;        // of this movie
-    QString m_path;
+    QTimer *m_standstill;   // runs while it is starting, until it is given up
     bool m_created = false;
     bool m_isPlayWanted = false;
+    bool m_isStarting = false; // told to play, and does not yet
+    int m_restarts = 0;        // of this start
 };

@@ -157,11 +157,13 @@ private slots:
         MovieWidget movie;
         movie.Create(whiteMovie());
         for (const int pressAfter : {0, 50, 120, 300}) {
+            const QSignalSpy finished(&movie, &MovieWidget::finished);
             movie.show();
             QTest::qWait(pressAfter);
             movie.Play();
             QVERIFY(movie.isPlayWanted());
-            QTRY_VERIFY2(movie.currentTime() > 500, qPrintable(QString::number(pressAfter)));
+            QTRY_VERIFY2(movie.currentTime() > 500 || !finished.isEmpty(),
+                         qPrintable(QString::number(pressAfter)));
             movie.Stop();
             movie.hide();
             movie.Create(whiteMovie());
