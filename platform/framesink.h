@@ -1,12 +1,12 @@
 #pragma once
 
 #include "platform/capturedframe.h"
-#include "platform/zoom.h"
 
-// Takes every frame of a running camera, in order, in the thread that grabs them; it must not block.
+// Takes the movie picture of every frame of a running camera, in order, in the thread that grabs them; it
+// must not block.
 class FrameSink
 {
 public:
     virtual ~FrameSink() = default;
-    virtual void take(const FramePtr &frame, const Zoom &zoom) = 0;
+    virtual void take(const FramePtr &frame) = 0;
 };

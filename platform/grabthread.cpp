@@ -175,7 +175,7 @@ void GrabThread::record(const FramePtr &frame)
         return;
     // The zoom is in the picture by then.
     if (const FramePtr picture = m_moviePictures.make(frame, &m_planes, zoom))
-        sink->take(picture, Zoom());
+        sink->take(picture);
 }
 
 void GrabThread::tellLive()

@@ -70,7 +70,7 @@ void LiveVideoData::startMovie(const QString &path)
     const FramePtr first = newest ? newest : atPress;
     const auto start = [movie, first, zoom = m_zoom, frames = m_grabThread->frames()] {
         const FramePtr picture = wholePicture(first, *frames, zoom);
-        return picture && movie->start(picture, Zoom());
+        return picture && movie->start(picture);
     };
     const auto isStarted = doAside(start, startWait);
     if (!self || m_startingMovie != movie) {

@@ -56,9 +56,9 @@ MovieRecorder::MovieRecorder(const MovieSettings &settings)
 
 MovieRecorder::~MovieRecorder() = default;
 
-bool MovieRecorder::start(const FramePtr &first, const Zoom &zoom)
+bool MovieRecorder::start(const FramePtr &first)
 {
-    keepFirst(first, zoom);
+    keepFirst(first);
     m_movie = buildMoviePipeline(m_settings);
     if (!m_movie.isComplete())
         return false;
@@ -148,21 +148,21 @@ void MovieRecorder::fail(MovieEnd why, const QString &line)
     qCWarning(movieLog).noquote().nospace() << m_settings.path << ": " << line;
 }
 
-void MovieRecorder::take(const FramePtr &frame, const Zoom &zoom)
+void MovieRecorder::take(const FramePtr &frame)
 {
     if (!gst_video_info_is_equal(&frame->info, &m_settings.picture))
         return;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         if (m_state == State::Starting) {
-            keep(frame, zoom);
+            keep(frame);
             m_lastInTime = std::chrono::steady_clock::now();
         }
         if (m_state != State::Recording)
             return;
     }
     if (!isBehind())
-        push({shown(*frame, zoom), frame->clockTime});
+        push(pictureOf(*frame));
     lookForLife();
 }
 
@@ -179,24 +179,26 @@ void MovieRecorder::lookForLife()
         fail(MovieEnd::DiskFull, QStringLiteral("The disk takes no more of the movie."));
 }
 
-// A copy of it: a driver whose few buffers are all held gives nothing more.
-void MovieRecorder::keep(const FramePtr &frame, const Zoom &zoom)
+void MovieRecorder::keep(const FramePtr &frame)
 {
     if (m_keptBytes >= mostWaitingBytes || m_kept.size() >= size_t(m_settings.framesPerSecond))
         return;
-    BufferHandle pixels = shown(*frame, zoom);
-    if (zoom.isNone())
-        pixels.reset(gst_buffer_copy_deep(pixels.get()));
-    m_keptBytes += gst_buffer_get_size(pixels.get());
-    m_kept.push_back({std::move(pixels), frame->clockTime});
+    m_keptBytes += gst_buffer_get_size(frame->picture.get());
+    m_kept.push_back(pictureOf(*frame));
 }
 
-void MovieRecorder::keepFirst(const FramePtr &first, const Zoom &zoom)
+void MovieRecorder::keepFirst(const FramePtr &first)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (m_kept.empty() || first->clockTime < m_kept.front().clockTime)
-        m_kept.push_front({shown(*first, zoom), first->clockTime});
+        m_kept.push_front(pictureOf(*first));
     m_startTime = m_nextTime = m_kept.front().clockTime;
+}
+
+// With time stamps of its own, and the frame's pixels.
+MovieRecorder::Picture MovieRecorder::pictureOf(const CapturedFrame &frame)
+{
+    return {BufferHandle(gst_buffer_copy(frame.picture.get())), frame.clockTime};
 }
 
 bool MovieRecorder::isBehind() const
@@ -217,19 +219,6 @@ void MovieRecorder::push(Picture picture)
     GST_BUFFER_DURATION(pixels) = GST_CLOCK_TIME_NONE;
     gst_app_src_push_buffer(GST_APP_SRC(m_movie.pictures), picture.pixels.release());
     paceIndex(m_movie);
-}
-
-// The part of the frame that the zoom shows, at the frame's size. Without zoom it shares the frame's pixels.
-BufferHandle MovieRecorder::shown(const CapturedFrame &frame, const Zoom &zoom)
-{
-    if (zoom.isNone())
-        return BufferHandle(gst_buffer_copy(frame.picture.get()));
-    const QSize size(GST_VIDEO_INFO_WIDTH(&frame.info), GST_VIDEO_INFO_HEIGHT(&frame.info));
-    BufferHandle buffer(gst_buffer_new_allocate(nullptr, GST_VIDEO_INFO_SIZE(&frame.info), nullptr));
-    if (!buffer ||
-        !m_zoomer.convert(frame.info, frame.picture.get(), zoom.shownPart(size), frame.info, buffer.get()))
-        return {};
-    return buffer;
 }
 
 MovieEnd MovieRecorder::fileFault() const

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "platform/captureevents.h"
-#include "platform/frameconverter.h"
 #include "platform/framesink.h"
 #include "platform/moviepipeline.h"
 #include "platform/moviesound.h"
@@ -27,11 +26,11 @@ public:
     // Starts recording; the movie begins with this frame, which is on the screen, or with the first that was
     // given if that is older. False when the file cannot be made or an element is missing. Takes as long as
     // the disk does to open the file. Any thread, once.
-    bool start(const FramePtr &first, const Zoom &zoom);
+    bool start(const FramePtr &first);
 
-    // Adds a frame of the kind told at the start, showing what the zoom shows. While the start, or then the
+    // Adds a picture of the kind told at the start. While the start, or then the
     // encoder, is behind by a second or by 128 MB frames are left out rather than kept waiting.
-    void take(const FramePtr &frame, const Zoom &zoom) override;
+    void take(const FramePtr &frame) override;
 
     // The following wait for nothing, but for waitForFile().
 
@@ -66,8 +65,9 @@ private:
         GstClockTime clockTime = 0;
     };
 
-    void keep(const FramePtr &frame, const Zoom &zoom);
-    void keepFirst(const FramePtr &first, const Zoom &zoom);
+    static Picture pictureOf(const CapturedFrame &frame);
+    void keep(const FramePtr &frame);
+    void keepFirst(const FramePtr &first);
     bool startPipeline();
     bool beginRecording();
     static GstBusSyncReply onMessage(GstBus *bus, GstMessage *message, gpointer self);
@@ -75,7 +75,6 @@ private:
     void fail(MovieEnd why, const QString &line);
     bool isBehind() const;
     void push(Picture picture);
-    BufferHandle shown(const CapturedFrame &frame, const Zoom &zoom);
     void tellShortRoom() const;
     void watch();
     void lookForLife();
@@ -90,7 +89,6 @@ private:
     std::chrono::steady_clock::time_point m_startedAt;
     GstClockTime m_startTime = 0; // capture time of the first frame, on GStreamer's system clock
     GstClockTime m_nextTime = 0;  // the next frame is not older: the first may come twice
-    FrameConverter m_zoomer{GST_VIDEO_RESAMPLER_METHOD_LINEAR};
 
     std::chrono::steady_clock::time_point m_lastInTime = std::chrono::steady_clock::now(); // of a frame
     std::atomic<std::chrono::steady_clock::time_point> m_lastLook{
