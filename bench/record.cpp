@@ -41,7 +41,9 @@ int missingFrames(const QString &path)
     int frames = 0;
     int missing = 0;
     double previous = 0;
-    while (const SampleHandle sample{gst_app_sink_pull_sample(GST_APP_SINK(sink.get()))}) {
+    // A broken file gives no end.
+    constexpr GstClockTime limit = 5 * GST_SECOND;
+    while (const SampleHandle sample{gst_app_sink_try_pull_sample(GST_APP_SINK(sink.get()), limit)}) {
         const double time = double(GST_BUFFER_PTS(gst_sample_get_buffer(sample.get()))) / GST_SECOND;
         if (++frames > 1)
             missing += qMax(0, qRound((time - previous) * framesPerSecond) - 1);
@@ -73,7 +75,7 @@ QStringList peer(const QString &path)
         "video/x-raw,format=YUY2,width=1920,height=1080,framerate=30/1 ! queue ! videoconvert ! "
         "video/x-raw,format=I420 ! x264enc pass=qual quantizer=23 bitrate=9331 key-int-max=60 "
         "speed-preset=superfast tune=zerolatency ! h264parse ! queue ! mux. "
-        "orvanetestmicrophone device=\"microphone mic\" ! audioconvert ! audioresample ! "
+        "orvanetestmicrophone provide-clock=false device=\"microphone mic\" ! audioconvert ! audioresample ! "
         "audio/x-raw,format=F32LE,rate=48000,channels=2 ! avenc_aac bitrate=128000 ! aacparse ! "
         "queue ! mux. qtmux name=mux reserved-max-duration=660000000000 "
         "reserved-moov-update-period=500000000 reserved-bytes-per-sec=1440 ! "
