@@ -57,8 +57,8 @@ void CPictorelDlg::chkdevice()
 
 void CPictorelDlg::changeNodevicemode()
 {
-    if (m_isReturning &&
-        m_mode != DisplayMode::Live) { // it was not there for whoever went on to another screen
+    // It was not there yet for whoever has gone on to another screen.
+    if (m_isReturning && m_mode != DisplayMode::Live) {
         m_isReturning = false;
         m_liveView->Release();
         m_liveView->lookForCamera();

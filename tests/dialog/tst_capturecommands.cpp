@@ -25,6 +25,7 @@ class TestCaptureCommands : public QObject
 
 private slots:
     void cleanup() { freeMiB = 100000; }
+    void everyButtonHasItsBitmaps();
     void seriesByHandAndByTime();
     void fullDiskRefuses();
     void lossInEveryScreen();
@@ -36,6 +37,19 @@ private:
     }
     static int photos() { return MainWindow::captures("photo*").size(); }
 };
+
+// Without them it would shrink to nothing.
+void TestCaptureCommands::everyButtonHasItsBitmaps()
+{
+    const MainWindow main;
+    const auto buttons = main.window->findChildren<CStretchBitmapButton *>();
+    QCOMPARE(buttons.size(), int(buttonCount));
+    for (const auto *button : buttons) {
+        for (const char *ending : {"_up.bmp", "_dw.bmp", "_ds.bmp"})
+            QVERIFY2(!QImage(":res/" + button->objectName() + ending).isNull(),
+                     qPrintable(button->objectName()));
+    }
+}
 
 void TestCaptureCommands::seriesByHandAndByTime()
 {
