@@ -58,12 +58,11 @@ void LiveVideoWidget::forgetPicture()
     m_capture->facts.change([](Facts &now) { now.photo.picture = QImage(); });
 }
 
-bool LiveVideoWidget::hasRoom()
+void LiveVideoWidget::lookForRoom()
 {
     const Waiting waiting(this);
     const bool hasRoom = WebcamUtil::chkdiskFreeSpace();
     m_capture->facts.change([hasRoom](Facts &now) { now.hasRoom = hasRoom; });
-    return hasRoom;
 }
 
 void LiveVideoWidget::ContinuesShot(int max)

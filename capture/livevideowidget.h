@@ -81,8 +81,8 @@ public:
     // Saves a photo in the working folder, and answers when the file is whole. Its bare file name; empty when
     // it could not be saved, and why in facts(). A camera that is still opening is waited for.
     QString SaveBmp();
-    // Measures whether the disk has room for a capture.
-    bool hasRoom();
+    // Measures whether the disk has room for a capture: Facts::hasRoom.
+    void lookForRoom();
 
     // Starts a movie in the working folder, with its preview picture. False, after a warning, when the camera
     // or the microphone is not usable; nothing is left of the movie then.

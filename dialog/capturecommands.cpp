@@ -175,9 +175,16 @@ void CPictorelDlg::finishSeries()
         SetPictureListMode(m_seriesList);
 }
 
+// As measured now.
+bool CPictorelDlg::hasRoom()
+{
+    m_liveView->lookForRoom();
+    return facts().hasRoom;
+}
+
 bool CPictorelDlg::refuseOnFullDisk()
 {
-    if (m_liveView->hasRoom())
+    if (hasRoom())
         return false;
     WebcamUtil::ShowDiskWorningMessage(this);
     m_isErrorMode = true;

@@ -114,7 +114,7 @@ void CPictorelDlg::followCamera()
         m_returnTimer->setInterval(firstReturn);
     if (now.camera.state == CameraState::Live && m_isReturning) {
         m_isReturning = false;
-        m_isErrorMode = !m_liveView->hasRoom(); // of which enough was said
+        m_isErrorMode = !hasRoom(); // of which enough was said
         if (m_mode == DisplayMode::Live)
             showLive();
     } else if (now.canReopen && m_mode == DisplayMode::Live && !m_returnTimer->isActive()) {

@@ -37,7 +37,7 @@ void CPictorelDlg::TransitionMode(DisplayMode mode, Variant variant)
 
 void CPictorelDlg::SetLiveMode()
 {
-    if (!m_liveView->hasRoom() && !m_isErrorMode) {
+    if (!hasRoom() && !m_isErrorMode) {
         stop_window();
         WebcamUtil::ShowDiskWorningMessage(this);
         m_isErrorMode = true;

@@ -100,10 +100,9 @@ void CPictorelDlg::fitToScreen()
     move(m_screenCorner);
     m_timerView->move(m_layout.screen.width() - m_timerView->width(), m_timerView->y());
     refreshScreen();
-    if (m_mode == DisplayMode::Series && m_variant == Variant::Grid)
-        placeTiles();
-    else if (m_mode == DisplayMode::List) // its thumbnails have another size
-        OnList();
+    placeTiles();
+    if (m_screen.strip != Place::Hidden)
+        m_listView->fitThumbnails();
 }
 
 // The order of making is the order of stacking: the timer lies over the views.

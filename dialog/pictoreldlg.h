@@ -147,6 +147,7 @@ private:
 
     // Commands.
     bool selectVideoDevice();
+    bool hasRoom();
     bool refuseOnFullDisk();
     void playShutterSound();
     void showLive();
@@ -190,7 +191,7 @@ private:
     bool m_isStartable = false;
     DisplayMode m_mode = DisplayMode::Live;
     Variant m_variant = Variant::Usual;
-    bool m_isErrorMode = false; // no camera, or no room on the disk
+    bool m_isErrorMode = false; // it was told that there is no camera, or no room on the disk
     bool m_isReturning = false; // the camera that was lost is being tried again
     QTimer *m_returnTimer = nullptr;
     bool m_isMovieShown = false; // lists and pastes are of movies, not of photos

@@ -86,14 +86,15 @@ void CPictorelDlg::SetPictureListMode(const QStringList &names)
         addTile(names[i], places[i], i + 1, names.size() > 1);
 }
 
-// Anew, for another size of the window.
+// Anew, for another size of the window. A tile has kept no more of its photo than it has shown.
 void CPictorelDlg::placeTiles()
 {
-    QStringList names;
-    for (const PictureWidget *tile : qAsConst(m_thumbnails))
-        names << tile->fileName();
-    hiddenPictList();
-    SetPictureListMode(names);
+    const QVector<QRect> places = gridTiles(viewRect(), m_thumbnails.size());
+    for (int i = 0; i < m_thumbnails.size(); ++i) {
+        PictureWidget *tile = m_thumbnails[i];
+        tile->setGeometry(tile->isZoomed() ? viewRect() : places[i]);
+        tile->Loadbmp(QString(), m_listView->folder());
+    }
 }
 
 void CPictorelDlg::addTile(const QString &name, const QRect &place, int number, bool zoomable)

@@ -51,7 +51,7 @@ struct Situation {
     DisplayMode mode = DisplayMode::Live;
     Variant variant = Variant::Usual;
     Facts facts;
-    bool isErrorMode = false;     // no camera, or no room on the disk
+    bool isErrorMode = false;     // it was told that there is no camera, or no room on the disk
     bool isReturning = false;     // a lost camera is being tried again, and there is nothing to see of it
     bool hasPhotoPreview = false; // the setting
     bool isSeriesRunning = false;

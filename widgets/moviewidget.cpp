@@ -49,6 +49,8 @@ bool MovieWidget::Create(const QString &path)
     endStart();
     load(Phonon::MediaSource(QUrl::fromLocalFile(path)));
     m_created = true;
+    if (isVisible())
+        showFirstPicture();
     return true;
 }
 
@@ -102,11 +104,19 @@ void MovieWidget::endStart()
     m_isStarting = false;
 }
 
+// The player waits at the movie's beginning. Stopping it altogether would hold up the window while the player
+// waits for its threads, one of which sleeps for a twentieth of a second at a time.
 void MovieWidget::Stop()
 {
+    const bool hasBegun = !m_isStarting && (isPlaying() || isPaused());
     forgetWish();
     endStart();
-    stop();
+    if (!hasBegun) {
+        stop();
+        return;
+    }
+    Phonon::VideoPlayer::pause();
+    seek(0);
 }
 
 void MovieWidget::Reset()
@@ -150,8 +160,13 @@ void MovieWidget::followWish()
 void MovieWidget::showEvent(QShowEvent *event)
 {
     Phonon::VideoPlayer::showEvent(event);
-    if (event->spontaneous()) // the window comes back from its icon: what plays goes on
-        return;
+    const bool isFromIcon = event->spontaneous(); // what plays goes on
+    if (m_created && !isFromIcon)
+        showFirstPicture();
+}
+
+void MovieWidget::showFirstPicture()
+{
     forgetWish();
     m_firstPicture->start();
     start();

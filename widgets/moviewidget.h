@@ -5,8 +5,8 @@
 class QLabel;
 class QTimer;
 
-// Plays one recorded movie. When it is shown it starts, and waits a moment later with its first picture,
-// unless it was told to play before. Positions and the end are those of the player that it is.
+// Plays one recorded movie. When it is loaded and shown it starts, and waits a moment later with its first
+// picture, unless it was told to play before. Positions and the end are those of the player that it is.
 class MovieWidget : public Phonon::VideoPlayer
 {
     Q_OBJECT
@@ -39,6 +39,7 @@ protected:
 
 private:
     void setUpPlayer();
+    void showFirstPicture();
     void start();
     void restart();
     void endStart();

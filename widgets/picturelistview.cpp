@@ -97,11 +97,27 @@ QListWidgetItem *PictureListView::createItem(const QString &name)
     auto *item = new QListWidgetItem(this);
     item->setBackground(Qt::black);
     item->setForeground(Qt::white);
-    item->setSizeHint(QSize(height(), iconSize().width()));
+    item->setSizeHint(itemSize());
     item->setIcon(m_placeholder);
     item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled);
     item->setText(m_movieMode ? movieOfPreview(name) : name);
     return item;
+}
+
+QSize PictureListView::itemSize() const
+{
+    return {height(), iconSize().width()};
+}
+
+void PictureListView::fitThumbnails()
+{
+    forgetRequests();
+    setPictSize({});
+    ensureIconSize();
+    for (int row = 0; row < count(); ++row) {
+        item(row)->setSizeHint(itemSize());
+        requestThumbnail(m_nameList[row], item(row));
+    }
 }
 
 void PictureListView::requestThumbnail(const QString &name, QListWidgetItem *item)
@@ -118,10 +134,15 @@ void PictureListView::showThumbnail(int id, const QImage &thumbnail)
         model()->setData(index, QIcon(QPixmap::fromImage(thumbnail)), Qt::DecorationRole);
 }
 
-void PictureListView::Reset()
+void PictureListView::forgetRequests()
 {
     m_loader->cancel();
     m_awaited.clear();
+}
+
+void PictureListView::Reset()
+{
+    forgetRequests();
     clear();
     m_folder.clear();
     m_selectionList.clear();

@@ -28,6 +28,9 @@ public:
     // The size of thumbnails; an empty one lets the height of the list decide when the first is added.
     void setPictSize(const QSize &size);
 
+    // Makes the thumbnails anew, for another height of the list. What is chosen stays chosen.
+    void fitThumbnails();
+
     // A name that is there already is not added again.
     void AddPicture(const QString &name);
     void AddPicture(const QStringList &names);
@@ -66,7 +69,9 @@ private slots:
 private:
     void ensureIconSize();
     QListWidgetItem *createItem(const QString &name);
+    QSize itemSize() const;
     void requestThumbnail(const QString &name, QListWidgetItem *item);
+    void forgetRequests();
     void showThumbnail(int id, const QImage &thumbnail);
     QList<QListWidgetItem *> selectedInListOrder() const;
     void followSelection(const QList<QListWidgetItem *> &selected);

@@ -75,6 +75,20 @@ void PictureWidget::placeAtBottomRight(QWidget *button)
                         m_zoom->height());
 }
 
+bool PictureWidget::isZoomed() const
+{
+    return m_back && !m_back->isHidden();
+}
+
+void PictureWidget::resizeEvent(QResizeEvent *)
+{
+    if (!m_zoom)
+        return;
+    m_zoom->setIconFromObjectNameBitmap();
+    m_back->setIconFromObjectNameBitmap();
+    placeAtBottomRight(isZoomed() ? m_back : m_zoom);
+}
+
 void PictureWidget::ListMode()
 {
     m_caption->show();

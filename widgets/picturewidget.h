@@ -41,6 +41,7 @@ public:
     void Release();
 
     QString fileName() const { return m_fileName; }
+    bool isZoomed() const;
 
 public slots:
     void OnZoom();
@@ -54,6 +55,7 @@ signals:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void take(const QImage &picture);

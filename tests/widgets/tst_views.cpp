@@ -149,6 +149,12 @@ private slots:
         movie.disp();
         QTRY_VERIFY(movie.isPaused());
         QVERIFY(!movie.isComplete());
+        movie.Play();
+        QTRY_VERIFY(movie.currentTime() > 200);
+        movie.Stop();
+        QTRY_VERIFY(!movie.isPlaying() && movie.currentTime() == 0);
+        movie.Play();
+        QVERIFY(finished.wait(10000));
     }
 
     // Before the player knows the movie, while it shows the first picture, and later: the last word counts.
