@@ -40,6 +40,7 @@ struct Facts {
         MovieState state = MovieState::None;
         Cause why = Cause::None; // of one that ended by itself
         QString path;            // of the latest; empty before the first
+        bool hasPreview = false; // the latest; no list shows it without
         bool isBroken = false;   // the file of one that had ended lacks its end, and nobody was told so far
     };
     struct Photo {

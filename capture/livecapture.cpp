@@ -60,12 +60,16 @@ void LiveCapture::movieHasEnded(MovieEnd why)
     });
 }
 
-void LiveCapture::movieFileIsFinished(bool areAllWhole)
+void LiveCapture::movieFileIsBroken()
 {
-    facts.change([areAllWhole](Facts &now) {
+    facts.change([](Facts &now) { now.movie.isBroken = true; });
+}
+
+void LiveCapture::movieFilesAreFinished()
+{
+    facts.change([](Facts &now) {
         if (now.movie.state == MovieState::Finishing)
             now.movie.state = MovieState::None;
-        now.movie.isBroken = now.movie.isBroken || !areAllWhole;
     });
 }
 

@@ -14,7 +14,8 @@ public:
     void cameraIsLive() override;
     void cameraIsLost(CameraFault why) override;
     void movieHasEnded(MovieEnd why) override;
-    void movieFileIsFinished(bool areAllWhole) override;
+    void movieFileIsBroken() override;
+    void movieFilesAreFinished() override;
     void photoIsTaken(const QImage &picture) override;
     void devicesChanged() override;
 

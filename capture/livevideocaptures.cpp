@@ -62,7 +62,8 @@ void LiveVideoWidget::lookForRoom()
 {
     const Waiting waiting(this);
     const bool hasRoom = WebcamUtil::chkdiskFreeSpace();
-    m_capture->facts.change([hasRoom](Facts &now) { now.hasRoom = hasRoom; });
+    if (hasRoom != facts().now().hasRoom)
+        m_capture->facts.change([hasRoom](Facts &now) { now.hasRoom = hasRoom; });
 }
 
 void LiveVideoWidget::ContinuesShot(int max)
@@ -104,19 +105,18 @@ Cause LiveVideoWidget::startMovie(QString *warning)
 {
     const Waiting waiting(this);
     const QString path = WebcamUtil::CreateMoviefilename();
-    m_capture->facts.change([&path](Facts &now) {
-        now.movie = {MovieState::None, Cause::None, path, now.movie.isBroken};
-    });
     m_capture->data.Record(path);
     *warning = invalidDevicesText();
+    if (warning->isEmpty() && m_capture->data.lacksPicture())
+        *warning = invalidVideoText();
     const Cause refusal = refusalOfMovie(*warning);
     if (refusal != Cause::None) {
         m_capture->data.RecordStop();
         WebcamUtil::deletetmpfile(path);
         return refusal;
     }
-    m_capture->facts.change([](Facts &now) {
-        now.movie.state = MovieState::Recording;
+    m_capture->facts.change([&path](Facts &now) {
+        now.movie = {MovieState::Recording, Cause::None, path, false, now.movie.isBroken};
         now.sound = SoundState::There;
     });
     // A movie of the same second is replaced, and so is its preview.
@@ -131,14 +131,15 @@ Cause LiveVideoWidget::refusalOfMovie(const QString &warning) const
         return Cause::Camera;
     if (!warning.isEmpty())
         return Cause::Refused;
-    // With both devices at hand only the file can have been refused.
+    // With both devices at hand and a picture only the file can have been refused.
     return m_capture->data.IsRecording() ? Cause::None : Cause::Disk;
 }
 
 // Without it no list shows the movie.
 void LiveVideoWidget::savePreview()
 {
-    m_hasPreview = m_capture->data.SaveBitmap(WebcamUtil::previewName(moviePath()));
+    const bool isSaved = m_capture->data.SaveBitmap(WebcamUtil::previewName(moviePath()));
+    m_capture->facts.change([isSaved](Facts &now) { now.movie.hasPreview = isSaved; });
 }
 
 QString LiveVideoWidget::invalidAudioText()
@@ -146,15 +147,19 @@ QString LiveVideoWidget::invalidAudioText()
     return tr("The audio device is invalid. Please confirm whether the device is correctly connected.");
 }
 
-// The blank at the end of two of the texts belongs to them, for their translations.
+// The blank at the end of this text and of the next belongs to them, for their translations.
+QString LiveVideoWidget::invalidVideoText()
+{
+    return tr("The video device is invalid. Please confirm whether the device is correctly connected. ");
+}
+
 QString LiveVideoWidget::invalidDevicesText()
 {
     QString warning;
     const bool isAudioValid = m_capture->data.IsValidAudioDevice();
     if (!m_capture->data.IsValidVideoDevice())
         warning = isAudioValid
-                      ? tr("The video device is invalid. Please confirm whether the device is correctly "
-                           "connected. ")
+                      ? invalidVideoText()
                       : tr("The video device and the audio device are invalid. Please confirm whether the "
                            "device is correctly connected. ");
     else if (!isAudioValid)
@@ -169,7 +174,7 @@ void LiveVideoWidget::RecordStop()
     if (isBusy())
         return;
     const Waiting waiting(this);
-    if (!m_hasPreview)
+    if (!facts().now().movie.hasPreview)
         savePreview();
     m_capture->data.RecordStop();
     noteEndOfMovie();

@@ -15,6 +15,7 @@
 
 #include <chrono>
 #include <thread>
+#include <utility>
 
 namespace
 {
@@ -264,9 +265,13 @@ void LiveVideoWidget::Zoomout()
 
 void LiveVideoWidget::slotdisconnectDevice()
 {
-    if (isBusy())
-        m_isLossToTell = true;
-    else
+    m_isLossToTell = true;
+    tellHeldLoss();
+}
+
+void LiveVideoWidget::tellHeldLoss()
+{
+    if (!isBusy() && std::exchange(m_isLossToTell, false))
         emit disconnectDevice();
 }
 

@@ -41,9 +41,6 @@ public:
 
     // What is so now; facts().changed() tells of every change.
     const CaptureFacts &facts() const;
-    // Whether one of the operations that wait is under way.
-    bool isBusy() const { return m_busy > 0; }
-
     // Opens the camera, unless it is open. Says so when cameras cannot be used at all on this machine; a
     // missing camera only shows in isVideoValid(). The camera that was open before comes first.
     void Create();
@@ -104,6 +101,7 @@ public:
     bool isAudioValid() const;
     // What is said of a microphone that is not.
     static QString invalidAudioText();
+    static QString invalidVideoText();
 
     bool eventFilter(QObject *watched, QEvent *event) override;
     QPaintEngine *paintEngine() const override;
@@ -141,6 +139,7 @@ private:
     void setUpOverlay();
     void setUpCaption();
     void setUpOpeningNote();
+    void tellHeldLoss();
     void endSeries();
     Cause startMovie(QString *warning);
     Cause refusalOfMovie(const QString &warning) const;
@@ -153,10 +152,12 @@ private:
 
     class Waiting;
 
+    // Whether one of the operations that wait is under way.
+    bool isBusy() const { return m_busy > 0; }
+
     const std::unique_ptr<LiveCapture> m_capture;
     int m_busy = 0;
     bool m_isLossToTell = false; // held back while something waits
-    bool m_hasPreview = false;   // the movie
     QLabel *m_liveCaption = nullptr;
     QLabel *m_openingNote = nullptr; // of a camera that takes its time
     QTimer *m_openingTimer = nullptr;

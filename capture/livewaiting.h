@@ -6,7 +6,6 @@
 #include <QTimer>
 
 #include <chrono>
-#include <utility>
 
 // Stands for as long as an operation waits.
 class LiveVideoWidget::Waiting
@@ -22,11 +21,11 @@ public:
     ~Waiting()
     {
         --m_view->m_busy;
-        // Whoever left alone what changed during the wait looks now.
-        if (!m_view->isBusy())
-            setHeldUp(m_view, false);
-        if (!m_view->isBusy() && std::exchange(m_view->m_isLossToTell, false))
-            QMetaObject::invokeMethod(m_view, &LiveVideoWidget::disconnectDevice, Qt::QueuedConnection);
+        if (m_view->isBusy())
+            return;
+        setHeldUp(m_view, false);
+        // Whoever called goes on first, and may wait for the next thing then.
+        QMetaObject::invokeMethod(m_view, &LiveVideoWidget::tellHeldLoss, Qt::QueuedConnection);
     }
     Waiting(const Waiting &) = delete;
     Waiting &operator=(const Waiting &) = delete;
@@ -37,7 +36,8 @@ private:
 
     static void setHeldUp(LiveVideoWidget *view, bool isHeldUp)
     {
-        view->m_capture->facts.change([isHeldUp](Facts &now) { now.isHeldUp = isHeldUp; });
+        if (view->facts().now().isHeldUp != isHeldUp)
+            view->m_capture->facts.change([isHeldUp](Facts &now) { now.isHeldUp = isHeldUp; });
     }
 
     LiveVideoWidget *m_view;

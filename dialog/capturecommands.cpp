@@ -4,6 +4,7 @@
 
 #include "capture/livevideowidget.h"
 #include "capture/timerwidget.h"
+#include "util/files/alivewait.h"
 #include "util/webcamutil.h"
 #include "widgets/moviewidget.h"
 #include "widgets/picturelistview.h"
@@ -144,7 +145,7 @@ void CPictorelDlg::startSeries()
 void CPictorelDlg::OnShot()
 {
     // The timer may tick while a shot is still being written, on a slow disk, or a message is read.
-    if (m_liveView->isBusy() || !m_isSeriesRunning)
+    if (isWaitingAlive() || !m_isSeriesRunning)
         return;
     stop_window();
     playShutterSound();

@@ -24,9 +24,6 @@ using namespace std::chrono_literals;
 constexpr auto movieLimit = 1min;
 constexpr auto movieLimitAtLogOut = 5s;
 
-// How soon leaving is looked at again while a photo or a movie is still being waited for.
-constexpr auto retryPeriod = 50ms;
-
 Q_LOGGING_CATEGORY(closingLog, "orvane.closing")
 
 } // namespace
@@ -35,23 +32,34 @@ void CPictorelDlg::OnClose()
 {
     stop_window();
     if (isWaitingAlive()) { // pressed, or closed by the window manager, in the middle of something
-        QTimer::singleShot(retryPeriod, this, &CPictorelDlg::OnClose);
+        m_closeTimer->start();
         return;
     }
-    if (m_isLeaving)
+    if (m_isAsking || m_isLeaving)
         return;
-    if (WebcamUtil::isSaveFile()) {
-        SaveConfirmDlg question(this);
-        const int answer = question.exec();
-        if (m_isLeaving || answer == QDialog::Rejected)
-            return;
-        if (answer != QDialog::Accepted)
-            WebcamUtil::deleteData();
-        else if (!saveCaptures(movieLimit))
-            WebcamUtil::WarningMessage(tr("Save failed."), this);
-    }
+    m_isAsking = true;
+    int answer = QDialog::Accepted;
+    const bool hasCaptures = WebcamUtil::isSaveFile();
+    if (hasCaptures)
+        answer = SaveConfirmDlg(this).exec();
+    m_isAsking = false;
+    if (m_isLeaving || answer == QDialog::Rejected)
+        return;
     m_isLeaving = true;
+    if (answer != QDialog::Accepted)
+        WebcamUtil::deleteData();
+    else if (hasCaptures)
+        saveAsAsked();
     close();
+}
+
+void CPictorelDlg::saveAsAsked()
+{
+    const bool wasRecording = facts().isMovieRunning();
+    if (!saveCaptures(movieLimit))
+        WebcamUtil::WarningMessage(tr("Save failed."), this);
+    if (wasRecording && facts().sound == SoundState::LostInMovie)
+        WebcamUtil::WarningMessage(LiveVideoWidget::invalidAudioText(), this);
 }
 
 // A movie that is still being finished waits for its end, which a copy of it now would lack. One that takes
@@ -60,11 +68,13 @@ bool CPictorelDlg::saveCaptures(std::chrono::milliseconds limit)
 {
     m_isSaving = true;
     QGuiApplication::setOverrideCursor(QCursor(Qt::WaitCursor));
-    if (facts().isMovieRunning() && !m_liveView->isBusy())
+    m_timerView->Stop(); // what a series took now would be left out
+    if (facts().isMovieRunning())
         m_liveView->RecordStop();
     waitAlive([this] { return !m_liveView->isFinishingMovie(); }, limit, Input::KeptThroughout);
     const QStringList unfinished = m_liveView->unfinishedMovies();
-    const bool isSaved = WebcamUtil::saveData(m_saveDirectory, unfinished) && unfinished.isEmpty();
+    const bool isSaved =
+        WebcamUtil::saveData(m_saveDirectory, unfinished) && unfinished.isEmpty() && !facts().movie.isBroken;
     QGuiApplication::restoreOverrideCursor();
     m_isSaving = false;
     return isSaved;
@@ -73,7 +83,7 @@ bool CPictorelDlg::saveCaptures(std::chrono::milliseconds limit)
 void CPictorelDlg::saveAndLeave()
 {
     m_isLeaving = true;
-    saveQuietly();
+    saveNow();
     // What is just being taken or saved is waited for, and comes along.
     if (m_isSaving || isWaitingAlive()) {
         QTimer::singleShot(retryPeriod, this, &CPictorelDlg::saveAndLeave);
@@ -85,10 +95,19 @@ void CPictorelDlg::saveAndLeave()
 
 void CPictorelDlg::saveQuietly()
 {
+    saveNow();
+    if (m_isSaving || isWaitingAlive())
+        QTimer::singleShot(retryPeriod, this, &CPictorelDlg::saveQuietly);
+    else if (!m_isLeaving && m_liveView) // what the other screens show is not there any more
+        QTimer::singleShot(0, this, &CPictorelDlg::OnLive);
+}
+
+// Does nothing while something is being saved, or when there is nothing to save.
+void CPictorelDlg::saveNow()
+{
     if (m_isSaving || !m_liveView || !WebcamUtil::isSaveFile())
         return;
     stop_window();
-    m_timerView->Stop();
     if (!saveCaptures(movieLimitAtLogOut))
         qCWarning(closingLog, "Not everything that was taken could be saved; the rest is in %s.",
                   qUtf8Printable(WebcamUtil::getTemporaryPath()));

@@ -5,6 +5,7 @@
 #include "capture/livevideowidget.h"
 #include "capture/selectdevicedlg.h"
 #include "capture/timerwidget.h"
+#include "util/files/alivewait.h"
 #include "util/webcamutil.h"
 #include "widgets/moviewidget.h"
 
@@ -57,6 +58,13 @@ void CPictorelDlg::chkdevice()
 
 void CPictorelDlg::changeNodevicemode()
 {
+    if (m_isLeaving)
+        return;
+    // A message in the middle of a wait would keep it from ending.
+    if (isWaitingAlive()) {
+        QTimer::singleShot(retryPeriod, this, &CPictorelDlg::changeNodevicemode);
+        return;
+    }
     // It was not there yet for whoever has gone on to another screen.
     if (m_isReturning && m_mode != DisplayMode::Live) {
         m_isReturning = false;
@@ -93,8 +101,13 @@ void CPictorelDlg::followFacts()
         return;
     showTakenPicture();
     refreshScreen();
-    if (m_liveView->isBusy())
+    if (m_isLeaving)
         return;
+    // What is told or done now must not come in the middle of a wait.
+    if (isWaitingAlive()) {
+        m_followTimer->start();
+        return;
+    }
     loadRecordedMovie();
     if (facts().movie.isBroken) {
         m_liveView->forgetBrokenMovie();
@@ -114,7 +127,7 @@ void CPictorelDlg::followCamera()
         m_returnTimer->setInterval(firstReturn);
     if (now.camera.state == CameraState::Live && m_isReturning) {
         m_isReturning = false;
-        m_isErrorMode = !hasRoom(); // of which enough was said
+        m_isErrorMode = false;
         if (m_mode == DisplayMode::Live)
             showLive();
     } else if (now.canReopen && m_mode == DisplayMode::Live && !m_returnTimer->isActive()) {
@@ -124,8 +137,12 @@ void CPictorelDlg::followCamera()
 
 void CPictorelDlg::reopenCamera()
 {
-    if (!m_liveView)
+    if (!m_liveView || m_isLeaving)
         return;
+    if (isWaitingAlive()) {
+        m_returnTimer->start();
+        return;
+    }
     m_liveView->lookForCamera();
     if (m_mode != DisplayMode::Live || m_liveView->isCreate() || !facts().canReopen)
         return;

@@ -2,6 +2,7 @@
 
 #include "util/files/alivewait.h"
 #include "util/files/capturenames.h"
+#include "util/files/filelog.h"
 #include "util/files/filemove.h"
 #include "util/files/freespace.h"
 #include "util/files/wholefile.h"
@@ -13,6 +14,7 @@
 
 #include <atomic>
 #include <chrono>
+#include <unistd.h>
 
 namespace
 {
@@ -83,8 +85,10 @@ bool FolderCopy::Work::run() const
 
 bool FolderCopy::Work::isReadable() const
 {
-    const QFileInfo folder(source);
-    return folder.isDir() && folder.isReadable() && folder.isExecutable();
+    if (access(QFile::encodeName(source + "/."), R_OK | X_OK) == 0)
+        return true;
+    noteFileFault("load", source);
+    return false;
 }
 
 // What belongs together.
@@ -108,8 +112,12 @@ bool FolderCopy::Work::copyAll() const
     bool isComplete = true;
     for (const QStringList &unit : units()) {
         const QStringList names = missing(unit);
-        if (isStopped.load() || !hasRoomFor(names))
+        if (isStopped.load())
             return false;
+        if (!hasRoomFor(names)) {
+            noteFullDisk("load", target);
+            return false;
+        }
         isComplete = copyTogether(names) && isComplete;
     }
     return isComplete;

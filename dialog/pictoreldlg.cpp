@@ -124,7 +124,12 @@ void CPictorelDlg::SetChildInstance()
     m_waitDialog->setLoadingTexts(tr("File is loading. Please wait..."), tr("File loaded successfully."),
                                   tr("Load failed."));
     m_returnTimer = new QTimer(this);
-    m_returnTimer->setSingleShot(true);
+    m_followTimer = new QTimer(this);
+    m_closeTimer = new QTimer(this);
+    for (QTimer *timer : {m_returnTimer, m_followTimer, m_closeTimer}) {
+        timer->setSingleShot(true);
+        timer->setInterval(retryPeriod);
+    }
     m_settingDialog->installEventFilter(this);
     m_waitDialog->installEventFilter(this);
 }
@@ -168,8 +173,9 @@ void CPictorelDlg::SetLocalConnect()
     connect(m_listView, &PictureListView::selectedPhoto, this, &CPictorelDlg::PictureSelected);
     connect(this, &CPictorelDlg::loadcomp, m_waitDialog, &CWaiteMsgDlg::comp);
     connect(m_waitDialog, &CWaiteMsgDlg::OnShow, this, &CPictorelDlg::dirLoad);
-    // Later: a command in the middle of which they change goes on first.
     connect(m_returnTimer, &QTimer::timeout, this, &CPictorelDlg::reopenCamera);
+    connect(m_followTimer, &QTimer::timeout, this, &CPictorelDlg::followFacts);
+    connect(m_closeTimer, &QTimer::timeout, this, &CPictorelDlg::OnClose);
     followScreen();
 }
 

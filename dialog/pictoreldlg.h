@@ -166,8 +166,13 @@ private:
     // Where listed files are: the list's folder, which is empty for the working folder.
     QString listedFolder() const;
     void finishLoad(bool isComplete);
+    void saveAsAsked();
     bool saveCaptures(std::chrono::milliseconds movieLimit);
+    void saveNow();
     void closeViews();
+
+    // How soon is looked again whether what keeps something from being done has ended.
+    static constexpr std::chrono::milliseconds retryPeriod{50};
 
     // Views and dialogs; children of this window, as the buttons are.
     LiveVideoWidget *m_liveView = nullptr; // null once the window was closed
@@ -194,12 +199,15 @@ private:
     bool m_isErrorMode = false; // it was told that there is no camera, or no room on the disk
     bool m_isReturning = false; // the camera that was lost is being tried again
     QTimer *m_returnTimer = nullptr;
-    bool m_isMovieShown = false; // lists and pastes are of movies, not of photos
-    bool m_offersPhotos = false; // the list does, which shows movies
-    bool m_showsChoice = false;  // the list has
+    QTimer *m_followTimer = nullptr; // runs while facts have changed that wait for something to end
+    QTimer *m_closeTimer = nullptr;  // likewise, when leaving was asked for
+    bool m_isMovieShown = false;     // lists and pastes are of movies, not of photos
+    bool m_offersPhotos = false;     // the list does, which shows movies
+    bool m_showsChoice = false;      // the list has
     bool m_isMovieLoaded = false;
     bool m_isMovieAwaited = false; // the recorded one, until its file is whole
     bool m_isSeriesRunning = false;
+    bool m_isAsking = false;  // whether to save
     bool m_isLeaving = false; // it is decided
     bool m_isSaving = false;
     int m_shotsTaken = 0;

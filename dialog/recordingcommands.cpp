@@ -4,6 +4,7 @@
 
 #include "capture/livevideowidget.h"
 #include "capture/timerwidget.h"
+#include "util/files/alivewait.h"
 #include "util/files/timetext.h"
 #include "util/webcamutil.h"
 #include "widgets/moviewidget.h"
@@ -25,7 +26,7 @@ void CPictorelDlg::OnRecord()
 
 void CPictorelDlg::OnMovieStop()
 {
-    if (!facts().isMovieRunning() || m_liveView->isBusy())
+    if (!facts().isMovieRunning() || isWaitingAlive())
         return;
     const Cause end = facts().movie.why;
     if (m_liveView->isCreate())
@@ -63,6 +64,8 @@ void CPictorelDlg::tellOfMovie(Cause end)
 {
     if (end == Cause::Disk)
         WebcamUtil::ShowDiskWorningMessage(this);
+    else if (!facts().movie.hasPreview)
+        WebcamUtil::WarningMessage(tr("Save failed."), this);
     if (facts().sound == SoundState::LostInMovie)
         WebcamUtil::WarningMessage(LiveVideoWidget::invalidAudioText(), this);
 }

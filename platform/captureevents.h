@@ -48,8 +48,11 @@ public:
     // A movie that ran has ended; its file may still be being finished. Asked is what RecordStop() and
     // Release() give.
     virtual void movieHasEnded(MovieEnd) {}
-    // The files of all movies that have ended are finished now; whether none of them lacks its end.
-    virtual void movieFileIsFinished(bool /*areAllWhole*/) {}
+    // The file of a movie that has ended will lack its end. Told once a movie; the disk may still be waited
+    // for.
+    virtual void movieFileIsBroken() {}
+    // The files of all movies that have ended are finished now.
+    virtual void movieFilesAreFinished() {}
     // The picture that SaveBitmap() is saving, in full size, Format_RGB32; its file does not stand yet.
     virtual void photoIsTaken(const QImage &) {}
     // A camera or microphone came or went.

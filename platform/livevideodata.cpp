@@ -126,7 +126,8 @@ void LiveVideoData::Create()
     const QStringList missing = missingParts();
     supported = missing.isEmpty();
     if (!supported) {
-        QTextStream(stderr) << missing.join(QLatin1Char('\n')) << '\n';
+        for (const QString &part : missing)
+            qCCritical(cameraLog).noquote() << part;
         return;
     }
     hasVideoDevice = chooseCamera(listed);

@@ -15,6 +15,7 @@
 
 #include <memory>
 #include <mutex>
+#include <set>
 #include <vector>
 
 class MovieRecorder;
@@ -100,6 +101,8 @@ public:
     void Record(const QString &path);
     // Whether a movie runs.
     bool IsRecording() const;
+    // Whether the last Record() had camera and microphone, and no whole picture came.
+    bool lacksPicture() const { return m_lacksPicture; }
     // Ends the movie. Waits for its file up to half a second; where the disk is slower it is finished in the
     // background. Without a movie nothing happens.
     void RecordStop();
@@ -163,6 +166,7 @@ private:
     void finishMovies();
     bool awaitMicrophone();
     void lookAtMovieFiles();
+    void tellBrokenFiles();
 
     // Photos: livevideostill.cpp
     PhotoFault savePhoto(const QString &path);
@@ -189,10 +193,11 @@ private:
     std::shared_ptr<MovieRecorder> m_movie;
     std::shared_ptr<MovieRecorder> m_startingMovie; // while Record() waits for it
     std::vector<std::shared_ptr<MovieRecorder>> m_unfinished;
-    bool m_hasBrokenFile = false; // one of those that were unfinished
-    QTimer m_fileWatch;           // runs while there are unfinished ones
+    std::set<std::shared_ptr<MovieRecorder>> m_toldBroken; // of the unfinished ones
+    QTimer m_fileWatch;                                    // runs while there are unfinished ones
     std::shared_ptr<GstDevice> m_movieMicrophone;
     std::shared_ptr<GstDevice> m_deafMicrophone; // that the last movie could not open; null when it could
+    bool m_lacksPicture = false;
     bool m_isRecordCalled = false;
     bool m_hadSoundHole = false;
 

@@ -23,6 +23,8 @@ constexpr auto lastFileWait = 30s;
 constexpr auto longestSoundGap = 2s;
 constexpr auto wholeFrameWait = 1s;
 
+enum class Start { Runs, NoPicture, Failed };
+
 // Of that frame, or of the next whole one; null when none comes.
 FramePtr wholePicture(FramePtr frame, const NewestFrame &frames, const Zoom &zoom)
 {
@@ -51,6 +53,7 @@ void LiveVideoData::Record(const QString &path)
 void LiveVideoData::startMovie(const QString &path)
 {
     const QPointer<LiveVideoData> self(this);
+    m_lacksPicture = false;
     const std::vector<CaptureDevice> microphones = awaitMicrophones();
     const CaptureDevice *microphone = defaultMicrophone(microphones);
     const FramePtr atPress = self && microphone ? awaitFrame() : FramePtr();
@@ -70,20 +73,23 @@ void LiveVideoData::startMovie(const QString &path)
     const FramePtr first = newest ? newest : atPress;
     const auto start = [movie, first, zoom = m_zoom, frames = m_grabThread->frames()] {
         const FramePtr picture = wholePicture(first, *frames, zoom);
-        return picture && movie->start(picture);
+        return !picture ? Start::NoPicture : movie->start(picture) ? Start::Runs : Start::Failed;
     };
-    const auto isStarted = doAside(start, startWait);
+    const auto outcome = doAside(start, startWait);
     if (!self || m_startingMovie != movie) {
         movie->discard(); // ended before it had begun
         return;
     }
     m_startingMovie.reset();
-    if (isStarted.value_or(false)) {
+    if (outcome == Start::Runs) {
         m_movie = movie;
         m_movieMicrophone = microphone->device;
         return;
     }
-    if (!isStarted)
+    m_lacksPicture = outcome == Start::NoPicture;
+    if (m_lacksPicture)
+        qCWarning(movieLog).noquote() << "No movie is begun: no whole picture has come for a second.";
+    if (!outcome)
         qCWarning(movieLog).noquote().nospace()
             << path << ": The movie is given up, since the disk has not opened its file within five seconds.";
     m_grabThread->setSink(nullptr);
@@ -153,18 +159,26 @@ void LiveVideoData::tellMovieEnd(const std::shared_ptr<MovieRecorder> &movie, Mo
 void LiveVideoData::lookAtMovieFiles()
 {
     const bool hadUnfinished = !m_unfinished.empty();
-    for (const auto &movie : m_unfinished) {
-        if (movie->isFinished() && movie->fileFault() != MovieEnd::None)
-            m_hasBrokenFile = true;
-    }
+    tellBrokenFiles();
     m_unfinished.erase(std::remove_if(m_unfinished.begin(), m_unfinished.end(),
                                       [](const auto &movie) { return movie->isFinished(); }),
                        m_unfinished.end());
     if (!hadUnfinished || !m_unfinished.empty())
         return;
     m_fileWatch.stop();
+    m_toldBroken.clear();
     if (m_listener)
-        m_listener->movieFileIsFinished(!std::exchange(m_hasBrokenFile, false));
+        m_listener->movieFilesAreFinished();
+}
+
+// At once: a disk that hangs may let none of them end.
+void LiveVideoData::tellBrokenFiles()
+{
+    for (const auto &movie : m_unfinished) {
+        const bool isNews = movie->fileFault() != MovieEnd::None && m_toldBroken.insert(movie).second;
+        if (isNews && m_listener)
+            m_listener->movieFileIsBroken();
+    }
 }
 
 bool LiveVideoData::isFinishingMovie()

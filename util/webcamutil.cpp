@@ -268,7 +268,12 @@ void WebcamUtil::ShowDiskWorningMessage(QWidget *parent)
 bool WebcamUtil::chkdiskFreeSpace()
 {
     const QString folder = existingTemporaryPath();
-    return askDisk("chkdiskFreeSpace", folder, false, [folder] { return enoughFreeSpaceAt(folder); });
+    return askDisk("chkdiskFreeSpace", folder, false, [folder] {
+        const bool isEnough = enoughFreeSpaceAt(folder);
+        if (!isEnough)
+            noteFullDisk("chkdiskFreeSpace", folder);
+        return isEnough;
+    });
 }
 
 bool WebcamUtil::hasWriteAccess(const QString &path)

@@ -45,7 +45,7 @@ struct Told : CaptureListener {
     void cameraIsLive() override { ++live; }
     void cameraIsLost(CameraFault why) override { lost = why; }
     void movieHasEnded(MovieEnd why) override { ended = why; }
-    void movieFileIsFinished(bool) override { ++files; }
+    void movieFilesAreFinished() override { ++files; }
     void photoIsTaken(const QImage &picture) override { photo = picture; }
     void devicesChanged() override { ++changes; }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "util/files/alivewait.h"
+#include "util/files/filelog.h"
 
 #include <QString>
 
@@ -11,9 +12,6 @@
 constexpr std::chrono::seconds diskLimit(2);
 
 bool isGuiThread();
-
-// Says on stderr that the disk did not answer.
-void noteSilentDisk(const char *operation, const QString &path);
 
 // What the work finds out on the disk. Any thread; on the GUI thread it is done aside, as doAside() does it,
 // so it must own all that it uses. When it has not ended by the limit then, silent is the answer, and a line

@@ -1,5 +1,6 @@
 #include "util/files/filemove.h"
 
+#include "util/files/filelog.h"
 #include "util/files/wholefile.h"
 
 #include <QFile>
@@ -124,8 +125,17 @@ bool isOnFileSystemOf(const QString &folder, const QString &file)
            one.st_dev == other.st_dev;
 }
 
-bool isOnDisk(int file)
+// Piece by piece, with a sign after each: a slow stick takes minutes for a movie.
+bool isOnDisk(int file, const std::function<void()> &giveSign)
 {
+    constexpr off_t pieceBytes = off_t{8} << 20;
+    struct stat status = {};
+    const off_t size = fstat(file, &status) == 0 ? status.st_size : 0;
+    for (off_t piece = 0; piece < size; piece += pieceBytes) {
+        sync_file_range(file, piece, pieceBytes,
+                        SYNC_FILE_RANGE_WAIT_BEFORE | SYNC_FILE_RANGE_WRITE | SYNC_FILE_RANGE_WAIT_AFTER);
+        giveSign();
+    }
     // Some file systems keep nothing that could be waited for.
     return fdatasync(file) == 0 || errno == EINVAL;
 }
@@ -137,7 +147,11 @@ bool copyFileWhole(const QString &source, const QString &target, const std::func
     Copying copying;
     copying.isToStop = isToStop;
     const auto file = copied(source, target, copying);
-    return file && file->publish();
+    if (file && file->publish())
+        return true;
+    if (!isToStop())
+        noteFileFault("copy", target);
+    return false;
 }
 
 FilePlacement::FilePlacement(const QString &source, const QString &target, std::function<void()> giveSign)
@@ -154,12 +168,17 @@ bool FilePlacement::finish()
     if (!m_copy) {
         if (giveSecondName())
             return true;
-        if (errno == EEXIST)
+        if (errno == EEXIST) {
+            noteFileFault("save", m_target);
             return false;
+        }
         // Not every file system gives a file two names.
         m_copy = lastingCopy(m_source, m_target, m_giveSign);
     }
-    return m_copy && isOnDisk(m_copy->descriptor()) && m_copy->publish();
+    if (m_copy && isOnDisk(m_copy->descriptor(), m_giveSign) && m_copy->publish())
+        return true;
+    noteFileFault("save", m_target);
+    return false;
 }
 
 bool FilePlacement::giveSecondName() const
@@ -170,7 +189,7 @@ bool FilePlacement::giveSecondName() const
         return false;
     const Descriptor file = openPlainFile(m_source, &status);
     // What may not be read can be moved all the same.
-    const bool isSafe = file >= 0 ? isOnDisk(file) : errno == EACCES;
+    const bool isSafe = file >= 0 ? isOnDisk(file, m_giveSign) : errno == EACCES;
     return isSafe && link(source, QFile::encodeName(m_target)) == 0;
 }
 

@@ -1,10 +1,12 @@
 #include "util/files/folders.h"
 
+#include "util/files/filelog.h"
 #include "util/files/stamps.h"
 
 #include <QDir>
 #include <QFile>
 
+#include <cerrno>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -25,8 +27,15 @@ QString makeWorkingFolder()
     if (temporary.isEmpty())
         return QString();
     const QString path = QDir(temporary + folderName + "_" + QString::number(geteuid())).absolutePath();
-    mkdir(QFile::encodeName(path), S_IRWXU); // may exist already
-    return isOwnFolder(path) ? path : QString();
+    if (mkdir(QFile::encodeName(path), S_IRWXU) != 0 && errno != EEXIST) {
+        noteFileFault("make folder", path);
+        return QString();
+    }
+    if (isOwnFolder(path))
+        return path;
+    errno = EPERM;
+    noteFileFault("make folder", path);
+    return QString();
 }
 
 void removeWorkingFolder(const QString &path)
@@ -39,7 +48,10 @@ void removeWorkingFolder(const QString &path)
 static QString madeFolder(const QDir &folder)
 {
     const QString path = folder.absolutePath();
-    return folder.exists() || folder.mkpath(path) ? path : QString();
+    if (folder.exists() || folder.mkpath(path))
+        return path;
+    noteFileFault("make folder", path);
+    return QString();
 }
 
 QString makeSaveFolder(const QString &base)

@@ -1,6 +1,7 @@
 #include "util/files/saving.h"
 
 #include "util/files/capturenames.h"
+#include "util/files/filelog.h"
 #include "util/files/filemove.h"
 #include "util/files/wholefile.h"
 
@@ -9,6 +10,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <cstdio>
 #include <deque>
 #include <vector>
 
@@ -65,12 +67,19 @@ private:
                 return false;
             ++m_placed;
         }
-        return syncFolder(m_save);
+        if (syncFolder(m_save))
+            return true;
+        noteFileFault("save", m_save);
+        return false;
     }
     static bool removeAll(const QStringList &paths)
     {
-        return std::all_of(paths.begin(), paths.end(),
-                           [](const QString &path) { return QFile::remove(path); });
+        return std::all_of(paths.begin(), paths.end(), [](const QString &path) {
+            const bool isRemoved = ::remove(QFile::encodeName(path)) == 0;
+            if (!isRemoved)
+                noteFileFault("remove", path);
+            return isRemoved;
+        });
     }
 
     const QString m_save;
