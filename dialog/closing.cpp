@@ -117,7 +117,7 @@ void CPictorelDlg::closeEvent(QCloseEvent *event)
 {
     if (event->spontaneous() || isWaitingAlive()) {
         event->ignore();
-        OnClose();
+        m_closeTimer->start(); // a window that is being asked to close cannot close
         return;
     }
     m_timerView->Stop(); // no shot is taken any more

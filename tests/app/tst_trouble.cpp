@@ -1,4 +1,5 @@
 #include "tests/app/program.h"
+#include "tests/app/sessionmanager.h"
 #include "tests/support/smalldisk.h"
 #include "tests/support/testdevices.h"
 
@@ -26,6 +27,7 @@ private slots:
     void aSlowCameraIsWaitedFor();
     void aCameraComesBack();
     void leavingOtherwiseAsksOrSaves();
+    void theSessionEnds();
     void theScreenChanges();
 
 private:
@@ -228,6 +230,35 @@ void TestTrouble::leavingOtherwiseAsksOrSaves()
     QVERIFY(program.waitForEnd());
     QCOMPARE(Program::captures(), QStringList());
     QCOMPARE(saved().entryList(QDir::Files).size(), 3);
+}
+
+// A log-out is called off once; what was taken is saved all the same, and the lesson goes on.
+void TestTrouble::theSessionEnds()
+{
+    SessionManager manager;
+    QVERIFY(!manager.address().isEmpty());
+    QProcessEnvironment session = QProcessEnvironment::systemEnvironment();
+    session.insert("SESSION_MANAGER", manager.address());
+    Program program;
+    program.process().setProcessEnvironment(session);
+    QVERIFY(program.start());
+    QTRY_VERIFY(manager.hasClient());
+    for (int taken = 1; taken <= 2; ++taken) {
+        Program::click(Program::liveRow(1));
+        QTRY_VERIFY(Program::showsPreview());
+        Program::click(Program::acceptButton());
+        QTRY_COMPARE(Program::buttonsShown(), 3);
+        manager.requestSave();
+        QTRY_VERIFY(manager.hasSaved());
+        QCOMPARE(Program::captures(), QStringList());
+        QCOMPARE(saved().entryList(QDir::Files).size(), taken);
+        if (taken == 1) {
+            manager.cancelLogOut();
+            QTRY_COMPARE(Program::rowLooks(Program::screen()), QString("EEEEE"));
+        }
+    }
+    manager.endSession();
+    QVERIFY(program.waitForEnd());
 }
 
 void TestTrouble::theScreenChanges()

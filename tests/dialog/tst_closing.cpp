@@ -1,9 +1,11 @@
+#include "capture/livevideowidget.h"
 #include "capture/timerwidget.h"
 #include "tests/dialog/mainwindow.h"
 #include "tests/support/smalldisk.h"
 
 #include <QProcess>
 
+#include <atomic>
 #include <functional>
 #include <thread>
 
@@ -30,7 +32,9 @@ private slots:
     void vanishingSaveFolderLosesNothing();
     void pressDuringTheSaveIsDropped();
     void movieIsSavedWithItsEnd();
+    void brokenMovieIsToldOnce();
     void closingUnderAMessageIsSafe();
+    void nothingIsAskedAtALogOut();
 };
 
 // A stick is pulled out when the first file stands on it and its name is about to be made safe.
@@ -101,19 +105,73 @@ void TestClosing::movieIsSavedWithItsEnd()
     QVERIFY2(length > 2.8, qPrintable(QString::number(length)));
 }
 
+// While it is being finished the disk fails, or hangs for longer than anybody waits.
+void TestClosing::brokenMovieIsToldOnce()
+{
+    for (const bool hangs : {false, true}) {
+        MainWindow main;
+        std::atomic<bool> isToAnswer{!hangs};
+        main.press("Movie");
+        QTRY_COMPARE(main.view<TimerWidget>()->text(), QString("00:02"));
+        duringSync = [&] {
+            while (!isToAnswer)
+                std::this_thread::yield();
+            return false;
+        };
+        Answers answers({"OK", "OK"});
+        main.press("MovieStop");
+        QTRY_COMPARE_WITH_TIMEOUT(answers.told().size(), 1, 15000);
+        QVERIFY2(answers.told().first().startsWith("The disk"), qPrintable(answers.told().first()));
+        QVERIFY(main.button("Live")->isEnabled());
+        isToAnswer = true;
+        main.press("Live");
+        QTRY_VERIFY(!main.view<LiveVideoWidget>()->isFinishingMovie());
+        QCOMPARE(answers.told().size(), 1);
+    }
+}
+
 void TestClosing::closingUnderAMessageIsSafe()
 {
     MainWindow main;
     main.devices.pull("mic");
     LiveVideoData probe;
     QTRY_VERIFY(!probe.IsValidAudioDevice());
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, [&] {
+        if (QApplication::activeModalWidget())
+            main.window->close();
+    });
+    look.start(10);
     // The message's own answer comes when the window is closed already.
     Answers answers({"OK"});
-    QTimer::singleShot(0, main.window.get(), [&] {
-        QVERIFY(QTest::qWaitFor([] { return QApplication::activeModalWidget(); }));
-        main.window->close();
-    });
     main.press("Movie"); // its warning belongs to the live view, which closing takes away
+    QVERIFY(!main.window->isVisible());
+}
+
+// Last, since it ends the application. Not even when the camera goes while the lesson is being saved: nobody
+// is there, and the rest must be saved.
+void TestClosing::nothingIsAskedAtALogOut()
+{
+    const SmallDisk disk(40);
+    if (!disk.isMounted())
+        QSKIP("a small file system takes root to mount");
+    MainWindow main("SaveDirectory=" + disk.path("") + "\n");
+    for (const char *button : {"Photo", "Apply", "Live"})
+        main.press(button);
+    std::atomic<bool> isLost{false};
+    QObject::connect(main.view<LiveVideoWidget>(), &LiveVideoWidget::disconnectDevice,
+                     [&] { isLost = true; });
+    main.devices.pull("cam");
+    duringSync = [&] {
+        while (!isLost)
+            std::this_thread::yield();
+        return true;
+    };
+    Answers answers({"OK"});
+    main.window->saveAndLeave();
+    QVERIFY(isLost);
+    QCOMPARE(answers.told(), QStringList());
+    QCOMPARE(MainWindow::captures(), QStringList());
     QVERIFY(!main.window->isVisible());
 }
 
