@@ -130,6 +130,7 @@ void CPictorelDlg::refreshScreen()
 void CPictorelDlg::showScreen(const Screen &screen, bool movesFocus)
 {
     m_screen = screen;
+    m_layout.isUpright = facts().quarterTurns % 2 == 1;
     showViews(screen);
     showButtons(screen);
     if (movesFocus)

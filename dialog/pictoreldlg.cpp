@@ -43,7 +43,7 @@ CPictorelDlg::CPictorelDlg(QWidget *parent, Qt::WindowFlags flags)
     GetSetting();
     setWindowFrame();
     openCamera();
-    m_liveView->setGeometry(viewRect());
+    m_liveView->setGeometry(m_layout.rectOf(Place::Live));
     // A camera may be lost as soon as it runs: a warning of the first screen leaves time for it. Changed
     // facts are followed later: a command in the middle of which they change goes on first.
     connect(&m_liveView->facts(), &CaptureFacts::changed, this, &CPictorelDlg::followFacts,

@@ -193,9 +193,9 @@ const ScreenRow screens[] = {
      setLivemodeButtonEnabled},
 
     // A value that is no mode is the live screen too.
-    {isRecording, {Place::Whole, hasCamera}, {}, {}, {}, isRecording, recordingButtons},
+    {isRecording, {Place::Live, hasCamera}, {}, {}, {}, isRecording, recordingButtons},
 
-    {always, {Place::Whole, hasCamera}, {}, {}, {}, nullptr, setLivemodeButtonEnabled},
+    {always, {Place::Live, hasCamera}, {}, {}, {}, nullptr, setLivemodeButtonEnabled},
 };
 
 Place placeOf(const View &view, const Situation &now)
