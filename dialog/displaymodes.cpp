@@ -4,6 +4,7 @@
 
 #include "capture/livevideowidget.h"
 #include "capture/timerwidget.h"
+#include "util/desktop/screenawake.h"
 #include "util/webcamutil.h"
 #include "widgets/moviewidget.h"
 #include "widgets/picturelistview.h"
@@ -149,6 +150,7 @@ void CPictorelDlg::showViews(const Screen &screen)
         view->setVisible(place != Place::Hidden);
     }
     m_timerView->setVisible(screen.hasTimer);
+    m_screenAwake->keep(screen.isWatched);
 }
 
 void CPictorelDlg::showButtons(const Screen &screen)

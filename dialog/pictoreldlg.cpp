@@ -4,6 +4,7 @@
 #include "capture/timerwidget.h"
 #include "dialog/waitemsgdlg.h"
 #include "settings/setting.h"
+#include "util/desktop/screenawake.h"
 #include "util/webcamutil.h"
 #include "widgets/moviewidget.h"
 #include "widgets/picturelistview.h"
@@ -124,6 +125,7 @@ void CPictorelDlg::SetChildInstance()
     m_waitDialog->hide();
     m_waitDialog->setLoadingTexts(tr("File is loading. Please wait..."), tr("File loaded successfully."),
                                   tr("Load failed."));
+    m_screenAwake = new ScreenAwake(tr("Live"), this);
     m_returnTimer = new QTimer(this);
     m_returnTimer->setSingleShot(true);
     m_settingDialog->installEventFilter(this);

@@ -287,6 +287,8 @@ Screen screenFor(const Situation &situation, const Screen &before)
     screen.picture = placeOf(row->picture, situation);
     screen.strip = placeOf(row->strip, situation);
     screen.hasTimer = row->hasTimer && row->hasTimer(situation);
+    screen.isWatched =
+        screen.live != Place::Hidden || screen.movie != Place::Hidden || isRecording(situation);
     if (row->buttons)
         placeButtons(&screen, row->buttons(situation));
     else
