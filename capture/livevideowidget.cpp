@@ -100,6 +100,7 @@ void LiveVideoWidget::setUpCaption()
     m_liveCaption->setAutoFillBackground(true);
     m_liveCaption->setPalette(blackWithGreenText(m_liveCaption->palette()));
     m_liveCaption->setFont(captionFont());
+    m_liveCaption->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_liveCaption->adjustSize();
     m_liveCaption->hide();
 }

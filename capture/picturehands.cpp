@@ -15,13 +15,15 @@ PictureHands::PictureHands(LiveVideoData *camera, QWidget *surface)
     addKey(Qt::Key_Plus, &PictureHands::zoomIn);
     addKey(Qt::Key_Minus, &PictureHands::zoomOut);
     addKey(Qt::Key_0, &PictureHands::showWhole);
-    addKey(Qt::Key_R, &PictureHands::turn);
+    // Held down, it would spin.
+    addKey(Qt::Key_R, &PictureHands::turn)->setAutoRepeat(false);
 }
 
-void PictureHands::addKey(const QKeySequence &key, void (PictureHands::*action)())
+QShortcut *PictureHands::addKey(const QKeySequence &key, void (PictureHands::*action)())
 {
     auto *shortcut = new QShortcut(key, m_surface);
     connect(shortcut, &QShortcut::activated, this, action);
+    return shortcut;
 }
 
 void PictureHands::zoomIn()
@@ -61,7 +63,6 @@ bool PictureHands::eventFilter(QObject *watched, QEvent *event)
         move(*static_cast<QMouseEvent *>(event));
         break;
     case QEvent::MouseButtonRelease:
-    case QEvent::Hide:
         letGo();
         break;
     case QEvent::Wheel:

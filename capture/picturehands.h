@@ -6,6 +6,7 @@
 class LiveVideoData;
 class QKeySequence;
 class QMouseEvent;
+class QShortcut;
 class QWheelEvent;
 class QWidget;
 
@@ -20,7 +21,7 @@ public:
     // while it can be seen. The camera is not owned.
     PictureHands(LiveVideoData *camera, QWidget *surface);
 
-    // Lets go of what is being dragged. So too when the surface is hidden.
+    // Lets go of what is being dragged or pinched.
     void letGo();
 
 signals:
@@ -30,7 +31,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void addKey(const QKeySequence &key, void (PictureHands::*action)());
+    QShortcut *addKey(const QKeySequence &key, void (PictureHands::*action)());
     void zoomIn();
     void zoomOut();
     void showWhole();

@@ -31,9 +31,6 @@ bool TouchDriver::eventFilter(QObject *watched, QEvent *event)
     case QEvent::TouchCancel:
         cancel();
         return true;
-    case QEvent::Hide:
-        cancel();
-        return false;
     default:
         return QObject::eventFilter(watched, event);
     }

@@ -17,8 +17,7 @@ public:
     // Listens to the widget's touches from now on. The widget owns it.
     explicit TouchDriver(QWidget *widget);
 
-    // Lets go of whatever is being pressed, as if nothing lay on the screen until it is touched anew. So too
-    // when the widget is hidden.
+    // Lets go of whatever is being pressed, as if nothing lay on the screen until it is touched anew.
     void cancel();
 
 protected:

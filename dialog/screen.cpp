@@ -155,7 +155,7 @@ const ScreenRow screens[] = {
     {[](const Situation &now) { return is(DisplayMode::Photo, now); },
      {},
      {},
-     {Place::Whole},
+     {Place::Live}, // the photo is as the live picture was
      {},
      nullptr,
      setPhotoModeButtonEnabled},

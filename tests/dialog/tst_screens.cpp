@@ -108,14 +108,14 @@ void TestScreens::rowsOfButtons_data()
     add("movie not whole",
         in(DisplayMode::Movie, [](auto &s) { s.facts.movie.state = MovieState::Finishing; }),
         "Live+ MoviePlay List+ Close+", "", "Live");
-    add("photo", in(DisplayMode::Photo), "Live+ PutPhoto+ List+ Close+", "picture1", "Live");
+    add("photo", in(DisplayMode::Photo), "Live+ PutPhoto+ List+ Close+", "picture8", "Live");
     add("accepted",
         in(DisplayMode::Photo,
            [](auto &s) {
                s.hasPhotoPreview = true;
                s.variant = Variant::Accepted;
            }),
-        "Live+ PutPhoto+ List+ Close+", "picture1", "Live");
+        "Live+ PutPhoto+ List+ Close+", "picture8", "Live");
     add("list", in(DisplayMode::List), "Live+ Show Load+ SwitchMovie+ Close+", "strip7", "Live");
     add("chosen",
         in(DisplayMode::List, [](auto &s) { s.hasThumbnails = s.hasChoice = s.showsChoice = true; }),
