@@ -1,6 +1,6 @@
 #pragma once
 
-struct _XDisplay;
+struct _XDisplay; // NOLINT(bugprone-reserved-identifier): Xlib has named it so
 
 // Another client of the X server, which has the screen saver come after a second in which nobody does
 // anything, and sees whether it has.
