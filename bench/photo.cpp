@@ -49,7 +49,7 @@ void compare(const QSize &size)
     Comparison bytes({"  its file", "MB", 1.1});
     for (int round = 0; round < rounds; ++round) {
         QFile::remove(ours);
-        StillPicture still({frame, std::make_shared<NewestFrame>(), Zoom(), ours}, false);
+        StillPicture still({frame, std::make_shared<NewestFrame>(), Framing(), ours}, false);
         const double ourTime = secondsOf([&] { still.save(); });
         bool isSaved = still.result() == PhotoFault::None;
         const QImage picture = QImage(ours).convertToFormat(QImage::Format_RGB888);

@@ -2,10 +2,14 @@
 
 #include "capture/livecapture.h"
 #include "capture/livevideowidget.h"
+#include "capture/picturehands.h"
+#include "capture/touchdriver.h"
 
 #include <QGraphicsSceneMouseEvent>
 #include <QMouseEvent>
 #include <QPixmap>
+
+#include <utility>
 
 namespace
 {
@@ -19,6 +23,15 @@ constexpr double leastRatio = 0.2;
 constexpr double mostRatio = 10;
 
 } // namespace
+
+std::optional<int> contactDistance()
+{
+    CDriverExtraInfo info{};
+    CDriverProxy::get()->getExtraInfo(info);
+    if (info.gestureState != twoContacts)
+        return {};
+    return int(info.shadowSize * CDriverProxy::get()->getShadowRatio());
+}
 
 ZoomStep zoomStep(int lastDistance, int distance, bool *isDecision)
 {
@@ -68,10 +81,8 @@ void LiveVideoWidget::mousePressEvent(QMouseEvent *event)
 void LiveVideoWidget::mouseMoveEvent(QMouseEvent *event)
 {
     if (m_capture->data.isVeltrixCam && m_isZoomDrag) {
-        CDriverExtraInfo info{};
-        CDriverProxy::get()->getExtraInfo(info);
-        if (info.gestureState == twoContacts)
-            followGesture(int(info.shadowSize * CDriverProxy::get()->getShadowRatio()));
+        if (const std::optional<int> distance = contactDistance())
+            followGesture(*distance);
     }
     QWidget::mouseMoveEvent(event);
 }
@@ -80,8 +91,7 @@ void LiveVideoWidget::followGesture(int distance)
 {
     if (m_lastShadowDistance == 0) {
         m_lastShadowDistance = distance;
-        m_savedCursor = cursor();
-        setCursor(QCursor(QPixmap(QStringLiteral(":res/zoom_cursor.png"))));
+        showZoomCursor();
         return;
     }
     bool isDecision = false;
@@ -96,10 +106,33 @@ void LiveVideoWidget::followGesture(int distance)
 
 void LiveVideoWidget::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (m_capture->data.isVeltrixCam) {
-        m_lastShadowDistance = 0;
-        setCursor(m_savedCursor);
-        m_isZoomDrag = false;
-    }
+    if (m_capture->data.isVeltrixCam)
+        endGesture();
     QWidget::mouseReleaseEvent(event);
+}
+
+// Another press in the middle of a gesture begins it anew, but with the cursor of before it at its end.
+void LiveVideoWidget::showZoomCursor()
+{
+    if (m_hasZoomCursor)
+        return;
+    m_hasZoomCursor = true;
+    m_savedCursor = cursor();
+    setCursor(QCursor(QPixmap(QStringLiteral(":res/zoom_cursor.png"))));
+}
+
+void LiveVideoWidget::endGesture()
+{
+    m_lastShadowDistance = 0;
+    m_isZoomDrag = false;
+    if (std::exchange(m_hasZoomCursor, false))
+        setCursor(m_savedCursor);
+}
+
+// Whatever is being pressed or dragged on the picture ends.
+void LiveVideoWidget::letGo()
+{
+    m_touchDriver->cancel();
+    m_hands->letGo();
+    endGesture();
 }

@@ -1,5 +1,10 @@
 #pragma once
 
+#include <optional>
+
+// How far apart, in pixels, the two contacts on the board are; nothing while there are not two.
+std::optional<int> contactDistance();
+
 // What a change of the distance between two contacts on the board means for the zoom.
 enum class ZoomStep { None, In, Out };
 

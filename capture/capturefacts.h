@@ -54,6 +54,7 @@ struct Facts {
     Movie movie;
     Photo photo;
     SoundState sound = SoundState::There;
+    int quarterTurns = 0;   // clockwise, of the live picture
     bool hasRoom = true;    // on the disk, for one more capture, as last looked at
     bool canReopen = false; // no camera is open, but one is there that could be
     // A photo or a movie has been waited for long enough for somebody to press something meanwhile.

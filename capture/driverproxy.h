@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMap>
 #include <QPoint>
 
 #include <cstdint>
@@ -22,8 +23,9 @@ public:
     virtual void notifyFingerUp(const QPoint &position, int finger) = 0;
 };
 
-// Where the board's touch driver would be asked. There is none for this system yet: no gesture is ever told,
-// and no listener is called.
+// Where the board's touch driver is asked. Any touch screen does for a board: a TouchDriver says here where
+// its fingers are, and two of them are a gesture, whose shadow reaches from one to the other. GUI thread
+// only.
 class CDriverProxy
 {
 public:
@@ -34,14 +36,22 @@ public:
     // or be replaced by null.
     void initialize(IDriverEventListener *listener);
 
-    // Fills the record with zeros.
+    // Fills the record with what is so now.
     void getExtraInfo(CDriverExtraInfo &info) const;
 
     // Pixels for each unit of the shadow's size: 1.
     double getShadowRatio() const;
 
+    // What the touch screen tells, which goes on to the listener. Of an unknown finger only its coming down
+    // counts.
+    void fingerDown(const QPoint &position, int finger);
+    void fingerMove(const QPoint &position, int finger);
+    void fingerUp(const QPoint &position, int finger);
+    void allFingersUp();
+
 private:
     CDriverProxy() = default;
 
     IDriverEventListener *m_listener = nullptr;
+    QMap<int, QPoint> m_fingers; // that are down
 };

@@ -2,6 +2,8 @@
 
 #include "capture/livecapture.h"
 #include "capture/livewaiting.h"
+#include "capture/picturehands.h"
+#include "capture/touchdriver.h"
 #include "platform/playerplugins.h"
 #include "util/desktop/fonts.h"
 #include "util/webcamutil.h"
@@ -68,6 +70,7 @@ LiveVideoWidget::LiveVideoWidget(QWidget *parent, Qt::WindowFlags flags)
 
 LiveVideoWidget::~LiveVideoWidget()
 {
+    letGo();
     CDriverProxy::get()->initialize(nullptr);
 }
 
@@ -85,6 +88,10 @@ void LiveVideoWidget::setUpOverlay()
 {
     m_overlay = new QWidget(this);
     m_overlay->installEventFilter(this);
+    // Sees the mouse before the view does, which keeps it.
+    m_hands = new PictureHands(&m_capture->data, m_overlay);
+    connect(m_hands, &PictureHands::turned, this, &LiveVideoWidget::noteTurn);
+    m_touchDriver = new TouchDriver(m_overlay);
     m_overlay->hide();
 }
 
@@ -94,6 +101,7 @@ void LiveVideoWidget::setUpCaption()
     m_liveCaption->setAutoFillBackground(true);
     m_liveCaption->setPalette(blackWithGreenText(m_liveCaption->palette()));
     m_liveCaption->setFont(captionFont());
+    m_liveCaption->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_liveCaption->adjustSize();
     m_liveCaption->hide();
 }
@@ -114,8 +122,15 @@ void LiveVideoWidget::setUpOpeningNote()
     connect(&m_capture->facts, &CaptureFacts::changed, this, &LiveVideoWidget::followFacts);
 }
 
+void LiveVideoWidget::noteTurn()
+{
+    m_capture->facts.change([this](Facts &now) { now.quarterTurns = m_capture->data.quarterTurns(); });
+}
+
 void LiveVideoWidget::followFacts()
 {
+    if (!facts().now().hasCamera())
+        letGo();
     if (facts().now().camera.state != CameraState::Opening) {
         m_openingTimer->stop();
         m_openingNote->hide();
@@ -200,6 +215,12 @@ void LiveVideoWidget::showEvent(QShowEvent *)
 {
     m_capture->data.Reset();
     update();
+}
+
+void LiveVideoWidget::hideEvent(QHideEvent *event)
+{
+    letGo();
+    QWidget::hideEvent(event);
 }
 
 void LiveVideoWidget::resizeEvent(QResizeEvent *event)

@@ -10,6 +10,8 @@
 #include <memory>
 
 class LiveCapture;
+class PictureHands;
+class TouchDriver;
 class QFrame;
 class QGraphicsSceneMouseEvent;
 class QLabel;
@@ -17,7 +19,8 @@ class QTimer;
 
 // The live picture of the camera with its "LIVE" caption: opens and closes the camera, takes photos into the
 // working folder, records movies, and zooms by a two-contact drag on the board where the camera is the
-// maker's own. What is so with all of them stands in facts().
+// maker's own. Any camera's picture is zoomed, moved and turned as PictureHands has it. What is so with all
+// of them stands in facts().
 //
 // setResolution(), isVeltrixCam() and the series of ContinuesShot() are there because the class's interface
 // has them: the program uses none.
@@ -132,6 +135,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
@@ -147,8 +151,12 @@ private:
     void noteEndOfMovie();
     QString invalidDevicesText();
     void followFacts();
+    void noteTurn();
     void moveAsInScene(const QGraphicsSceneMouseEvent &move);
     void followGesture(int distance);
+    void showZoomCursor();
+    void endGesture();
+    void letGo();
 
     class Waiting;
 
@@ -169,5 +177,8 @@ private:
     int m_lastShadowDistance = 0; // 0 while no gesture is under way
     bool m_isZoomDrag = false;
     QCursor m_savedCursor;
+    bool m_hasZoomCursor = false;
     QWidget *m_overlay = nullptr;
+    PictureHands *m_hands = nullptr;
+    TouchDriver *m_touchDriver = nullptr;
 };

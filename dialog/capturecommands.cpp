@@ -31,7 +31,7 @@ void CPictorelDlg::OnLive()
 
 void CPictorelDlg::showLive()
 {
-    m_liveView->setGeometry(viewRect());
+    m_liveView->setGeometry(m_layout.rectOf(Place::Live));
     m_liveView->Start();
     m_listView->Reset();
     m_timerView->Stop();

@@ -3,6 +3,7 @@
 #include "capture/livevideowidget.h"
 #include "capture/timerwidget.h"
 #include "dialog/saveconfirmdlg.h"
+#include "util/desktop/screenawake.h"
 #include "util/files/alivewait.h"
 #include "util/webcamutil.h"
 #include "widgets/moviewidget.h"
@@ -122,6 +123,7 @@ void CPictorelDlg::closeEvent(QCloseEvent *event)
     }
     m_timerView->Stop(); // no shot is taken any more
     m_returnTimer->stop();
+    m_screenAwake->keep(false);
     hide(); // a slow disk may still take a movie
     closeViews();
     QWidget::closeEvent(event);

@@ -4,6 +4,7 @@
 
 #include "capture/livevideowidget.h"
 #include "capture/timerwidget.h"
+#include "util/desktop/screenawake.h"
 #include "util/webcamutil.h"
 #include "widgets/moviewidget.h"
 #include "widgets/picturelistview.h"
@@ -130,6 +131,7 @@ void CPictorelDlg::refreshScreen()
 void CPictorelDlg::showScreen(const Screen &screen, bool movesFocus)
 {
     m_screen = screen;
+    m_layout.isUpright = facts().quarterTurns % 2 == 1;
     showViews(screen);
     showButtons(screen);
     if (movesFocus)
@@ -148,6 +150,7 @@ void CPictorelDlg::showViews(const Screen &screen)
         view->setVisible(place != Place::Hidden);
     }
     m_timerView->setVisible(screen.hasTimer);
+    m_screenAwake->keep(screen.isWatched);
 }
 
 void CPictorelDlg::showButtons(const Screen &screen)

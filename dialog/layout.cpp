@@ -37,6 +37,8 @@ QRect Layout::rectOf(Place place) const
     switch (place) {
     case Place::Whole:
         return whole();
+    case Place::Live:
+        return live();
     case Place::LeftHalf:
         return leftHalf();
     case Place::RightHalf:
@@ -82,17 +84,36 @@ QSize Layout::scaledNative(const QSize &box) const
     return (isPicture ? native : QSize(1, 1)).scaled(box, Qt::KeepAspectRatio);
 }
 
-QRect Layout::whole() const
+// Turned, the picture fits as the picture before turning fits into the turned box.
+QSize Layout::scaledLive(const QSize &box) const
 {
-    const QSize full = scaledNative(QSize(screen.width(), rowTop()));
-    return {QPoint(int((screen.width() - full.width()) * 0.5), 0), full};
+    return isUpright ? scaledNative(box.transposed()).transposed() : scaledNative(box);
 }
 
+QRect Layout::atTop(const QSize &picture) const
+{
+    return {QPoint(int((screen.width() - picture.width()) * 0.5), 0), picture};
+}
+
+QRect Layout::whole() const
+{
+    return atTop(scaledNative(QSize(screen.width(), rowTop())));
+}
+
+QRect Layout::live() const
+{
+    return atTop(scaledLive(QSize(screen.width(), rowTop())));
+}
+
+// An upright one would reach under the buttons above the row, and stand far from the photo's.
 QRect Layout::leftHalf() const
 {
-    const QSize half = scaledNative(QSize(int(screen.width() * 0.5), rowTop()));
+    const double halfWidth = screen.width() * 0.5;
+    const int height = isUpright ? rowTop() - rowButton.height() : rowTop();
+    const QSize half = scaledLive(QSize(int(halfWidth), height));
+    const double left = isUpright ? halfWidth - half.width() : 0;
     const double top = (screen.height() - 2 * rowButton.height() - half.height()) * 0.5;
-    return {QPoint(0, int(top)), half};
+    return {QPoint(int(left), int(top)), half};
 }
 
 QRect Layout::rightHalf() const
@@ -117,7 +138,7 @@ QRect Layout::strip() const
 QRect Layout::inSeries(double left) const
 {
     const double halfWidth = screen.width() * 0.5;
-    const QSize fitted = whole().size().scaled(int(halfWidth), stripTop(), Qt::KeepAspectRatio);
+    const QSize fitted = live().size().scaled(int(halfWidth), stripTop(), Qt::KeepAspectRatio);
     const double x = left + (halfWidth - fitted.width()) * 0.5;
     return {QPoint(int(x), int((stripTop() - fitted.height()) * 0.5)), fitted};
 }

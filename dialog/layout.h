@@ -7,13 +7,14 @@
 // Where a view stands in the main window.
 enum class Place {
     Hidden,
-    Whole,       // all that the row of buttons leaves, in the picture's proportions
+    Whole,       // all that the row of buttons leaves, in the camera's proportions
     LeftHalf,    // a photo's live picture beside it
     RightHalf,   // the photo
     SeriesLive,  // the same two above the strip
     SeriesPhoto, //
     ChosenPhoto, // above the list
-    Strip        // the thumbnails
+    Strip,       // the thumbnails
+    Live         // as Whole, in the proportions of the live picture, which may be turned
 };
 
 // Where a button stands.
@@ -34,8 +35,9 @@ struct Slot {
 struct Layout {
     QSize screen; // the window
     QSize rowButton;
-    QSize closeButton; // stands at the right end of the row
-    QSize native;      // the camera's picture; anything without pixels counts as a square
+    QSize closeButton;      // stands at the right end of the row
+    QSize native;           // the camera's picture; anything without pixels counts as a square
+    bool isUpright = false; // the live picture: turned by a quarter, or by three
 
     QRect rectOf(Place place) const;
     QRect rectOf(const Slot &slot) const;
@@ -44,7 +46,10 @@ private:
     int rowTop() const { return screen.height() - rowButton.height(); }
     int stripTop() const;
     QSize scaledNative(const QSize &box) const;
+    QSize scaledLive(const QSize &box) const;
+    QRect atTop(const QSize &picture) const;
     QRect whole() const;
+    QRect live() const;
     QRect leftHalf() const;
     QRect rightHalf() const;
     QRect inSeries(double left) const;

@@ -4,6 +4,7 @@
 #include "capture/timerwidget.h"
 #include "dialog/waitemsgdlg.h"
 #include "settings/setting.h"
+#include "util/desktop/screenawake.h"
 #include "util/webcamutil.h"
 #include "widgets/moviewidget.h"
 #include "widgets/picturelistview.h"
@@ -43,7 +44,7 @@ CPictorelDlg::CPictorelDlg(QWidget *parent, Qt::WindowFlags flags)
     GetSetting();
     setWindowFrame();
     openCamera();
-    m_liveView->setGeometry(viewRect());
+    m_liveView->setGeometry(m_layout.rectOf(Place::Live));
     // A camera may be lost as soon as it runs: a warning of the first screen leaves time for it. Changed
     // facts are followed later: a command in the middle of which they change goes on first.
     connect(&m_liveView->facts(), &CaptureFacts::changed, this, &CPictorelDlg::followFacts,
@@ -123,6 +124,7 @@ void CPictorelDlg::SetChildInstance()
     m_waitDialog->hide();
     m_waitDialog->setLoadingTexts(tr("File is loading. Please wait..."), tr("File loaded successfully."),
                                   tr("Load failed."));
+    m_screenAwake = new ScreenAwake(tr("Live"), this);
     m_returnTimer = new QTimer(this);
     m_followTimer = new QTimer(this);
     m_closeTimer = new QTimer(this);

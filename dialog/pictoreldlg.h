@@ -18,6 +18,7 @@ class LiveVideoWidget;
 class MovieWidget;
 class PictureListView;
 class PictureWidget;
+class ScreenAwake;
 class Setting;
 class QTimer;
 class TimerWidget;
@@ -182,6 +183,7 @@ private:
     PictureListView *m_listView = nullptr;
     CWaiteMsgDlg *m_waitDialog = nullptr;
     Setting *m_settingDialog = nullptr;
+    ScreenAwake *m_screenAwake = nullptr;
     QVector<PictureWidget *> m_thumbnails; // the grid
 
     QVector<CStretchBitmapButton *> m_buttons; // by their number

@@ -155,7 +155,7 @@ const ScreenRow screens[] = {
     {[](const Situation &now) { return is(DisplayMode::Photo, now); },
      {},
      {},
-     {Place::Whole},
+     {Place::Live}, // the photo is as the live picture was
      {},
      nullptr,
      setPhotoModeButtonEnabled},
@@ -193,9 +193,9 @@ const ScreenRow screens[] = {
      setLivemodeButtonEnabled},
 
     // A value that is no mode is the live screen too.
-    {isRecording, {Place::Whole, hasCamera}, {}, {}, {}, isRecording, recordingButtons},
+    {isRecording, {Place::Live, hasCamera}, {}, {}, {}, isRecording, recordingButtons},
 
-    {always, {Place::Whole, hasCamera}, {}, {}, {}, nullptr, setLivemodeButtonEnabled},
+    {always, {Place::Live, hasCamera}, {}, {}, {}, nullptr, setLivemodeButtonEnabled},
 };
 
 Place placeOf(const View &view, const Situation &now)
@@ -287,6 +287,8 @@ Screen screenFor(const Situation &situation, const Screen &before)
     screen.picture = placeOf(row->picture, situation);
     screen.strip = placeOf(row->strip, situation);
     screen.hasTimer = row->hasTimer && row->hasTimer(situation);
+    screen.isWatched =
+        screen.live != Place::Hidden || screen.movie != Place::Hidden || isRecording(situation);
     if (row->buttons)
         placeButtons(&screen, row->buttons(situation));
     else

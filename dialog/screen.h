@@ -82,6 +82,7 @@ struct Screen {
     Place picture = Place::Hidden;
     Place strip = Place::Hidden;
     bool hasTimer = false;
+    bool isWatched = false; // something moves on it, so that it must not go dark
     bool isStripFocused = false;
     std::optional<Button> focus; // the button that is most likely pressed next
     std::array<ButtonState, buttonCount> buttons;

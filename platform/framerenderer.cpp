@@ -18,13 +18,22 @@ bool isHeldElsewhere(const cv::Mat &buffer)
 
 } // namespace
 
-cv::Mat FrameRenderer::render(const FramePtr &frame, FramePlanes *planes, const Zoom &zoom, const QSize &box)
+cv::Mat FrameRenderer::render(const FramePtr &frame, FramePlanes *planes, const Framing &framing,
+                              const QSize &box)
 {
-    const QSize size = frame->size().scaled(box, Qt::KeepAspectRatio);
+    const QSize size = framing.shownSize(frame->size()).scaled(box, Qt::KeepAspectRatio);
     if (size.isEmpty())
         return {};
+    const QRect part = framing.shownPart(frame->size());
     cv::Mat pixels = freeBuffer(size);
-    return m_pixels.convert(frame, zoom.shownPart(frame->size()), planes, &pixels) ? pixels : cv::Mat();
+    if (framing.turn.isNone())
+        return m_pixels.convert(frame, part, planes, &pixels) ? pixels : cv::Mat();
+    const QSize before = framing.turn.turned(size);
+    createLarge(&m_upright, before.height(), before.width(), CV_8UC4);
+    if (!m_pixels.convert(frame, part, planes, &m_upright))
+        return {};
+    turnPixels(m_upright, framing.turn, &pixels);
+    return pixels;
 }
 
 cv::Mat FrameRenderer::freeBuffer(const QSize &size)

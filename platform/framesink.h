@@ -9,4 +9,6 @@ class FrameSink
 public:
     virtual ~FrameSink() = default;
     virtual void take(const FramePtr &frame) = 0;
+    // What these pictures are to be like; the same at all times.
+    virtual const GstVideoInfo &pictureInfo() const = 0;
 };

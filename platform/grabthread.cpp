@@ -42,10 +42,10 @@ GrabThread::GrabThread(CameraAccess camera, const CaptureMode &mode)
 
 GrabThread::~GrabThread() = default;
 
-void GrabThread::setView(const QSize &box, const Zoom &zoom)
+void GrabThread::setView(const QSize &box, const Framing &framing)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    m_view = {box, zoom};
+    m_view = {box, framing};
     m_isViewChanged = true;
 }
 
@@ -165,16 +165,16 @@ void GrabThread::deliver(const FramePtr &frame)
 void GrabThread::record(const FramePtr &frame)
 {
     std::shared_ptr<FrameSink> sink;
-    Zoom zoom;
+    Framing framing;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         sink = m_sink;
-        zoom = m_view.zoom;
+        framing = m_view.framing;
     }
     if (!sink)
         return;
-    // The zoom is in the picture by then.
-    if (const FramePtr picture = m_moviePictures.make(frame, &m_planes, zoom))
+    // Zoomed and turned by then.
+    if (const FramePtr picture = m_moviePictures.make(frame, &m_planes, framing, sink->pictureInfo()))
         sink->take(picture);
 }
 
@@ -196,7 +196,7 @@ void GrabThread::show(const FramePtr &frame, const View &view)
 {
     if (!frame || view.box.isEmpty())
         return;
-    const cv::Mat pixels = m_renderer.render(frame, &m_planes, view.zoom, view.box);
+    const cv::Mat pixels = m_renderer.render(frame, &m_planes, view.framing, view.box);
     if (pixels.empty())
         return;
     {

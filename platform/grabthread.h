@@ -37,11 +37,10 @@ public:
 
     // What the window shows: the box in device pixels into which the picture is fitted. An empty box, while
     // nothing is to be seen, saves the work.
-    void setView(const QSize &box, const Zoom &zoom);
+    void setView(const QSize &box, const Framing &framing);
     // Has this called once, on the thread of this object, when the first frame has come; null ends that.
     void setLiveHandler(std::function<void()> handler);
-    // Hands every further whole frame to the sink, as a movie's picture of what the zoom shows; null ends
-    // that.
+    // Hands every further whole frame to the sink, as a movie's picture of what is shown; null ends that.
     void setSink(std::shared_ptr<FrameSink> sink);
 
     // The latest picture for the window; null before the first. Shares its pixels.
@@ -73,7 +72,7 @@ protected:
 private:
     struct View {
         QSize box;
-        Zoom zoom;
+        Framing framing;
     };
 
     bool waitForAccess(std::unique_lock<std::timed_mutex> &access);

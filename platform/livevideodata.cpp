@@ -194,7 +194,7 @@ void LiveVideoData::Release()
     created = false;
     m_isStarted = false;
     m_wantedSize = QSize();
-    m_zoom = Zoom();
+    m_framing.zoom = Zoom();
     tellMovieEnd(movie, MovieEnd::Asked);
 }
 
@@ -222,41 +222,6 @@ void LiveVideoData::closeCameraAndWait()
     m_grabThread->requestInterruption();
     if (!m_grabThread->wait(cameraCloseWait))
         static_cast<void>(m_grabThread.release());
-}
-
-void LiveVideoData::Start()
-{
-    m_isStarted = true;
-    updateView();
-}
-
-void LiveVideoData::Stop()
-{
-    m_isStarted = false;
-    updateView();
-}
-
-void LiveVideoData::Reset()
-{
-    updateView();
-}
-
-void LiveVideoData::ZoomIn()
-{
-    m_zoom.in();
-    updateView();
-}
-
-void LiveVideoData::ZoomOut()
-{
-    m_zoom.out();
-    updateView();
-}
-
-void LiveVideoData::updateView()
-{
-    if (m_grabThread)
-        m_grabThread->setView(m_isStarted ? m_target.box() : QSize(), m_zoom);
 }
 
 void LiveVideoData::SetResolution(int width, int height)

@@ -5,9 +5,9 @@
 #include "platform/capturedevice.h"
 #include "platform/captureevents.h"
 #include "platform/capturemode.h"
+#include "platform/framing.h"
 #include "platform/grabthread.h"
 #include "platform/videotarget.h"
-#include "platform/zoom.h"
 
 #include <QObject>
 #include <QStringList>
@@ -72,9 +72,24 @@ public:
     // Makes the picture anew for the target as it is now.
     void Reset();
 
-    // One step of digital zoom around the centre, for the live picture, photos and movies.
+    // One step of digital zoom, for the live picture, photos and movies: around the middle of what is shown,
+    // or around a place on the target, which stays where it is as far as the picture's edges let it. Places
+    // and ways here are in the target's own pixels.
     void ZoomIn();
     void ZoomOut();
+    void zoomInAround(const QPoint &place);
+    void zoomOutAround(const QPoint &place);
+    // Shows the whole picture, as after Release().
+    void resetZoom();
+    bool isZoomed() const { return !m_framing.zoom.isNone(); }
+    // Takes hold of what is shown, and moves it that far from there, up to the picture's edges.
+    void holdPicture();
+    void dragPicture(const QPoint &way);
+    // Turns the live picture, photos and movies by a quarter clockwise; for all cameras from now on. A movie
+    // that runs keeps its size: the picture is fitted into it.
+    void turnPicture();
+    // By how many quarters it is turned, 0 to 3.
+    int quarterTurns() const { return m_framing.turn.quarters(); }
 
     // Switches the camera to this size; a size that it does not offer changes nothing. While a movie runs
     // the switch waits for its end.
@@ -152,11 +167,15 @@ private:
     void closeCamera();
     void closeCameraAndWait();
     void noteLive();
-    void updateView();
     void watch();
     void lose(CameraFailure failure);
     void applyResolution();
     FramePtr awaitFrame();
+
+    // What is shown: livevideoview.cpp
+    void updateView();
+    QPointF onShownPart(const QPointF &way) const;
+    QPointF fromMiddle(const QPoint &place) const;
 
     // Movies: livevideomovie.cpp
     void startMovie(const QString &path);
@@ -173,7 +192,8 @@ private:
 
     CaptureListener *m_listener = nullptr; // not owned
     VideoTarget m_target;
-    Zoom m_zoom;
+    Framing m_framing;
+    Zoom m_heldZoom; // where holdPicture() took hold
     QTimer m_watch;
 
     std::vector<CaptureDevice> m_lastList;

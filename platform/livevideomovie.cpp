@@ -26,13 +26,14 @@ constexpr auto wholeFrameWait = 1s;
 enum class Start { Runs, NoPicture, Failed };
 
 // Of that frame, or of the next whole one; null when none comes.
-FramePtr wholePicture(FramePtr frame, const NewestFrame &frames, const Zoom &zoom)
+FramePtr wholePicture(FramePtr frame, const NewestFrame &frames, const Framing &framing,
+                      const GstVideoInfo &info)
 {
     const auto limit = std::chrono::steady_clock::now() + wholeFrameWait;
     FramePlanes planes;
     MoviePictures pictures;
     FramePtr picture;
-    while (frame && !(picture = pictures.make(frame, &planes, zoom)))
+    while (frame && !(picture = pictures.make(frame, &planes, framing, info)))
         frame = frames.waitForOther(frame, limit);
     return picture;
 }
@@ -61,7 +62,7 @@ void LiveVideoData::startMovie(const QString &path)
         return;
     MovieSettings settings;
     settings.path = path;
-    settings.picture = MoviePictures::infoOf(atPress->size());
+    settings.picture = MoviePictures::infoOf(m_framing.shownSize(atPress->size()));
     if (m_mode.rateNumerator > 0)
         settings.framesPerSecond = qMax(1, qRound(m_mode.framesPerSecond()));
     settings.microphone = *microphone;
@@ -71,8 +72,8 @@ void LiveVideoData::startMovie(const QString &path)
     // The newest of now: what comes after it goes to the movie already.
     const FramePtr newest = m_grabThread->newest();
     const FramePtr first = newest ? newest : atPress;
-    const auto start = [movie, first, zoom = m_zoom, frames = m_grabThread->frames()] {
-        const FramePtr picture = wholePicture(first, *frames, zoom);
+    const auto start = [movie, first, framing = m_framing, frames = m_grabThread->frames()] {
+        const FramePtr picture = wholePicture(first, *frames, framing, movie->pictureInfo());
         return !picture ? Start::NoPicture : movie->start(picture) ? Start::Runs : Start::Failed;
     };
     const auto outcome = doAside(start, startWait);

@@ -38,8 +38,8 @@ PhotoFault LiveVideoData::savePhoto(const QString &path)
     const FramePtr frame = awaitFrame();
     if (!frame)
         return PhotoFault::NoPicture;
-    const auto still = std::make_shared<StillPicture>(StillOrder{frame, m_grabThread->frames(), m_zoom, path},
-                                                      m_listener != nullptr);
+    const auto still = std::make_shared<StillPicture>(
+        StillOrder{frame, m_grabThread->frames(), m_framing, path}, m_listener != nullptr);
     std::thread([still] { still->save(); }).detach();
     const auto isThrough = [&] {
         const bool hasResult = still->result().has_value();

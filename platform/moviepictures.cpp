@@ -3,51 +3,135 @@
 #include "platform/planecolours.h"
 #include "platform/planescaler.h"
 
+#include <QRegion>
+
+#include <cstring>
+
 namespace
 {
 
 const QSize largest(1920, 1080);
+constexpr int planeCount = 3;
+constexpr int mostCutOff = 4;
+constexpr uint8_t black[planeCount] = {16, 128, 128};
 
-// Scaled straight into the picture, where the colours are put right.
-void fill(const PicturePlanes &planes, GstVideoFrame *picture)
+int even(int pixels)
 {
-    for (int i = 0; i < 3; ++i) {
-        scalePlane(planes.data[i], planes.stride[i], planes.sizeOf(i), GST_VIDEO_FRAME_COMP_DATA(picture, i),
-                   GST_VIDEO_FRAME_COMP_STRIDE(picture, i),
-                   {GST_VIDEO_FRAME_COMP_WIDTH(picture, i), GST_VIDEO_FRAME_COMP_HEIGHT(picture, i)});
+    return qMax(2, pixels & ~1);
+}
+
+// Where a shown picture of that size stands in the movie's, on even pixels.
+QRect placeIn(const QSize &movie, const QSize &shown)
+{
+    const QSize fitted = shown.scaled(movie, Qt::KeepAspectRatio);
+    // The movie's own size is that of such a picture but for what was cut off to make it even.
+    const auto side = [](int whole, int part) { return whole - part < mostCutOff ? whole : even(part); };
+    const QSize size(side(movie.width(), fitted.width()), side(movie.height(), fitted.height()));
+    return {QPoint((movie.width() - size.width()) / 2 & ~1, (movie.height() - size.height()) / 2 & ~1), size};
+}
+
+// The same place on one of the planes, of which those of colour have half the size.
+QRect onPlane(const QRect &place, int plane)
+{
+    return plane == 0 ? place : QRect(place.topLeft() / 2, halved(place.size()));
+}
+
+uint8_t *pixelOf(GstVideoFrame *picture, int plane, const QPoint &at)
+{
+    return GST_VIDEO_FRAME_COMP_DATA(picture, plane) +
+           ptrdiff_t(at.y()) * GST_VIDEO_FRAME_COMP_STRIDE(picture, plane) + at.x();
+}
+
+void blackenAround(const QRect &place, GstVideoFrame *picture)
+{
+    const QRect whole(0, 0, GST_VIDEO_FRAME_WIDTH(picture), GST_VIDEO_FRAME_HEIGHT(picture));
+    for (const QRect &bar : QRegion(whole) - place) {
+        for (int plane = 0; plane < planeCount; ++plane) {
+            const QRect part = onPlane(bar, plane);
+            for (int y = part.top(); y <= part.bottom(); ++y)
+                memset(pixelOf(picture, plane, {part.left(), y}), black[plane], size_t(part.width()));
+        }
     }
-    changeColours(planes.colours, picture);
 }
 
 } // namespace
 
-GstVideoInfo MoviePictures::infoOf(const QSize &frame)
+GstVideoInfo MoviePictures::infoOf(const QSize &shown)
 {
-    const bool isTooLarge = frame.width() > largest.width() || frame.height() > largest.height();
-    const QSize size = isTooLarge ? frame.scaled(largest, Qt::KeepAspectRatio) : frame;
+    const QSize limit = shown.width() < shown.height() ? largest.transposed() : largest;
+    const bool isTooLarge = shown.width() > limit.width() || shown.height() > limit.height();
+    const QSize size = isTooLarge ? shown.scaled(limit, Qt::KeepAspectRatio) : shown;
     // The encoder takes even sizes only.
-    GstVideoInfo info =
-        pictureInfo(GST_VIDEO_FORMAT_I420, {qMax(2, size.width() & ~1), qMax(2, size.height() & ~1)});
+    GstVideoInfo info = pictureInfo(GST_VIDEO_FORMAT_I420, {even(size.width()), even(size.height())});
     gst_video_colorimetry_from_string(&info.colorimetry, GST_VIDEO_COLORIMETRY_BT709);
     return info;
 }
 
-FramePtr MoviePictures::make(const FramePtr &frame, FramePlanes *planes, const Zoom &zoom)
+FramePtr MoviePictures::make(const FramePtr &frame, FramePlanes *planes, const Framing &framing,
+                             const GstVideoInfo &info)
 {
     auto made = std::make_shared<CapturedFrame>();
-    made->info = infoOf(frame->size());
+    made->info = info;
     made->clockTime = frame->clockTime;
-    made->picture = BufferHandle(gst_buffer_new_allocate(nullptr, made->info.size, nullptr));
-    const QRect part = zoom.shownPart(frame->size());
-    if (const auto found = planes->read(frame, part, made->size())) {
-        MappedFrame picture(made->info, made->picture.get(), GST_MAP_READWRITE);
-        if (!picture.isValid())
-            return {};
-        fill(*found, picture.get());
-        return made;
-    }
-    if (frame->isJpeg() || frame->isDamaged ||
-        !m_general.convert(frame->info, frame->picture.get(), part, made->info, made->picture.get()))
+    made->picture = BufferHandle(gst_buffer_new_allocate(nullptr, info.size, nullptr));
+    MappedFrame picture(info, made->picture.get(), GST_MAP_READWRITE);
+    const QRect place = placeIn(made->size(), framing.shownSize(frame->size()));
+    if (!picture.isValid() || !draw(frame, planes, framing, place, picture.get()))
         return {};
+    blackenAround(place, picture.get());
     return made;
+}
+
+bool MoviePictures::draw(const FramePtr &frame, FramePlanes *planes, const Framing &framing,
+                         const QRect &place, GstVideoFrame *picture)
+{
+    const QRect part = framing.shownPart(frame->size());
+    const std::optional<PicturePlanes> found = planes->read(frame, part, framing.turn.turned(place.size()));
+    if (found) {
+        put(*found, framing.turn, place, picture);
+        changeColours(found->colours, picture);
+        return true;
+    }
+    return !frame->isJpeg() && !frame->isDamaged && drawGenerally(*frame, framing, place, picture);
+}
+
+// In two steps, as the converter cannot turn.
+bool MoviePictures::drawGenerally(const CapturedFrame &frame, const Framing &framing, const QRect &place,
+                                  GstVideoFrame *picture)
+{
+    GstVideoInfo info = pictureInfo(GST_VIDEO_FORMAT_I420, framing.turn.turned(place.size()));
+    info.colorimetry = picture->info.colorimetry;
+    const BufferHandle upright(gst_buffer_new_allocate(nullptr, info.size, nullptr));
+    if (!m_general.convert(frame.info, frame.picture.get(), framing.shownPart(frame.size()), info,
+                           upright.get()))
+        return false;
+    MappedFrame mapped(info, upright.get(), GST_MAP_READ);
+    if (!mapped.isValid())
+        return false;
+    const QRect whole(QPoint(0, 0), framing.turn.turned(place.size()));
+    if (const auto planes = planesOf(mapped.get(), whole, &m_upright))
+        put(*planes, framing.turn, place, picture);
+    return true;
+}
+
+// Scaled straight into the picture, or first scaled and then turned into it.
+void MoviePictures::put(const PicturePlanes &planes, const Turn &turn, const QRect &place,
+                        GstVideoFrame *picture)
+{
+    const QSize upright = turn.turned(place.size());
+    if (!turn.isNone())
+        m_upright.create(upright, halved(upright));
+    const PicturePlanes before = m_upright.planes(upright, halved(upright), planes.colours);
+    for (int i = 0; i < planeCount; ++i) {
+        const QRect target = onPlane(place, i);
+        uint8_t *pixels = pixelOf(picture, i, target.topLeft());
+        const int stride = GST_VIDEO_FRAME_COMP_STRIDE(picture, i);
+        if (turn.isNone()) {
+            scalePlane(planes.data[i], planes.stride[i], planes.sizeOf(i), pixels, stride, target.size());
+            continue;
+        }
+        scalePlane(planes.data[i], planes.stride[i], planes.sizeOf(i), m_upright.row(i, 0), before.stride[i],
+                   before.sizeOf(i));
+        turnPlane(before.data[i], before.stride[i], before.sizeOf(i), turn, pixels, stride);
+    }
 }

@@ -2,20 +2,29 @@
 
 #include "platform/frameconverter.h"
 #include "platform/frameplanes.h"
-#include "platform/zoom.h"
+#include "platform/framing.h"
 
 // Makes of a camera's frames the pictures of a movie: I420 of BT.709 in its limited range, which every player
 // reads, and no larger than full HD. For one thread at a time.
 class MoviePictures
 {
 public:
-    // What the pictures of a camera with frames of that size will be.
-    static GstVideoInfo infoOf(const QSize &frame);
+    // What the pictures of a movie are like that begins with shown pictures of that size.
+    static GstVideoInfo infoOf(const QSize &shown);
 
-    // What the zoom shows of the frame, read through `planes`. Null when the frame is damaged or cannot be
-    // read.
-    FramePtr make(const FramePtr &frame, FramePlanes *planes, const Zoom &zoom);
+    // What is shown of the frame, read through `planes`, as a picture of that kind. One that has been turned
+    // since the movie began is fitted into it, between black bars. Null when the frame is damaged or cannot
+    // be read.
+    FramePtr make(const FramePtr &frame, FramePlanes *planes, const Framing &framing,
+                  const GstVideoInfo &info);
 
 private:
+    bool draw(const FramePtr &frame, FramePlanes *planes, const Framing &framing, const QRect &place,
+              GstVideoFrame *picture);
+    bool drawGenerally(const CapturedFrame &frame, const Framing &framing, const QRect &place,
+                       GstVideoFrame *picture);
+    void put(const PicturePlanes &planes, const Turn &turn, const QRect &place, GstVideoFrame *picture);
+
     FrameConverter m_general{GST_VIDEO_RESAMPLER_METHOD_LINEAR};
+    PlaneMemory m_upright; // before it is turned
 };

@@ -28,9 +28,10 @@ public:
     // the disk does to open the file. Any thread, once.
     bool start(const FramePtr &first);
 
-    // Adds a picture of the kind told at the start. While the start, or then the
-    // encoder, is behind by a second or by 128 MB frames are left out rather than kept waiting.
+    // Adds a picture of the kind told at the start. While the start, or then the encoder, is behind by a
+    // second or by 128 MB frames are left out rather than kept waiting.
     void take(const FramePtr &frame) override;
+    const GstVideoInfo &pictureInfo() const override { return m_settings.picture; }
 
     // The following wait for nothing, but for waitForFile().
 

@@ -9,6 +9,7 @@
 #include "util/files/photofile.h"
 
 #include <QFile>
+#include <QTransform>
 
 #include <cerrno>
 #include <chrono>
@@ -97,6 +98,11 @@ RgbPicture rgbPicture(const FramePtr &frame, const Zoom &zoom)
     return picture;
 }
 
+QImage turned(const QImage &image, const Turn &turn)
+{
+    return turn.isNone() ? image : image.transformed(QTransform().rotate(turn.degrees()));
+}
+
 // Of the first whole frame from the one of the order on. Of a camera that gives none in that time the last is
 // better than nothing.
 QImage wholePicture(const StillOrder &order)
@@ -104,13 +110,13 @@ QImage wholePicture(const StillOrder &order)
     const auto limit = std::chrono::steady_clock::now() + wholeFrameWait;
     QImage last;
     for (FramePtr frame = order.frame; frame; frame = order.frames->waitForOther(frame, limit)) {
-        RgbPicture picture = rgbPicture(frame, order.zoom);
+        RgbPicture picture = rgbPicture(frame, order.framing.zoom);
         if (picture.isWhole)
-            return picture.image;
+            return turned(picture.image, order.framing.turn);
         if (!picture.image.isNull())
             last = picture.image;
     }
-    return last;
+    return turned(last, order.framing.turn);
 }
 
 } // namespace

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/captureevents.h"
+#include "platform/framing.h"
 #include "platform/newestframe.h"
-#include "platform/zoom.h"
 
 #include <QImage>
 #include <QString>
@@ -15,12 +15,13 @@
 struct StillOrder {
     FramePtr frame;                            // taken when it is whole
     std::shared_ptr<const NewestFrame> frames; // else the next whole one of these, within a second
-    Zoom zoom;
+    Framing framing;
     QString path; // of the PNG file; nothing is ever replaced
 };
 
 // A still picture on its way from the camera's frame to its PNG file, of the camera's full size. With zoom it
-// is the shown part, scaled smoothly to that size. One thread makes it, another one asks how far it is.
+// is the shown part, scaled smoothly to that size; turned as it is shown. One thread makes it, another one
+// asks how far it is.
 class StillPicture
 {
 public:

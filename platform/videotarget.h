@@ -22,6 +22,8 @@ public:
     // The picture to paint from now on, centred, on black; a null one leaves the widget black.
     void setPicture(const QImage &picture);
 
+    // Where on the widget the picture is painted, in the widget's own pixels; empty without one.
+    QRect pictureArea() const;
     // The box for a picture in device pixels; empty while the widget cannot be seen.
     QSize box() const;
 
@@ -32,7 +34,6 @@ signals:
     void boxChanged();
 
 private:
-    QRect pictureArea() const;
     void paint();
 
     QPointer<QWidget> m_widget;

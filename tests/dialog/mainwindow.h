@@ -61,16 +61,17 @@ class MainWindow
 {
 public:
     // settings: lines of the settings file.
-    explicit MainWindow(const QString &settings = QString(), const QString &formats = "YUY2 640x480 30")
+    explicit MainWindow(const QString &settings = QString(), const QString &formats = "YUY2 640x480 30",
+                        const QString &camera = "Board Cam", const QString &content = "page")
     {
         QDir(WebcamUtil::getTemporaryPath()).removeRecursively();
         WebcamUtil::setTemporaryPath();
         writeFile(QDir::homePath() + "/.hollin_orvane.ini", "[General]\n" + settings.toUtf8());
-        devices.camera("cam").name("Board Cam").formats(formats).content("page");
+        devices.camera("cam").name(camera).formats(formats).content(content);
         devices.microphone("mic").sound("silence");
         devices.write();
         LiveVideoData probe;
-        if (!QTest::qWaitFor([&] { return probe.GetVideoDeviceList().size() == 1; }, 3000) ||
+        if (!QTest::qWaitFor([&] { return probe.GetVideoDeviceList() == QStringList(camera); }, 3000) ||
             !QTest::qWaitFor([&] { return probe.IsValidAudioDevice(); }, 3000))
             qFatal("the test devices are not listed");
         window = std::make_unique<CPictorelDlg>();

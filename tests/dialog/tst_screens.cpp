@@ -81,14 +81,14 @@ void TestScreens::rowsOfButtons_data()
     };
     const char *const live = "Live+ Photo+ PhotoMulti+ Movie+ List+ Settings+ Close+";
     const char *const noCamera = "Live Photo PhotoMulti Movie List+ Settings Close+";
-    add("live", in(DisplayMode::Live), live, "live1", "Photo");
-    add("no such mode", in(DisplayMode(7)), live, "live1", "Photo");
+    add("live", in(DisplayMode::Live), live, "live8", "Photo");
+    add("no such mode", in(DisplayMode(7)), live, "live8", "Photo");
     add("opening", in(DisplayMode::Live, [](auto &s) { s.facts.camera.state = CameraState::Opening; }), live,
-        "live1", "Photo");
+        "live8", "Photo");
     for (const CameraState state : {CameraState::None, CameraState::Lost})
         add("no camera", in(DisplayMode::Live, [state](auto &s) { s.facts.camera.state = state; }), noCamera,
             "", "List");
-    add("full disk", in(DisplayMode::Live, [](auto &s) { s.isErrorMode = true; }), noCamera, "live1", "List");
+    add("full disk", in(DisplayMode::Live, [](auto &s) { s.isErrorMode = true; }), noCamera, "live8", "List");
     add("a lost camera is tried",
         in(DisplayMode::Live,
            [](auto &s) {
@@ -97,9 +97,9 @@ void TestScreens::rowsOfButtons_data()
            }),
         noCamera, "", "List");
     add("recording", in(DisplayMode::Live, [](auto &s) { s.facts.movie.state = MovieState::Recording; }),
-        "Live Photo PhotoMulti MovieStop+ List Settings Close", "live1 timer", "MovieStop");
+        "Live Photo PhotoMulti MovieStop+ List Settings Close", "live8 timer", "MovieStop");
     add("waiting long", in(DisplayMode::Live, [](auto &s) { s.facts.isHeldUp = true; }),
-        "Live Photo PhotoMulti Movie List Settings Close", "live1", "");
+        "Live Photo PhotoMulti Movie List Settings Close", "live8", "");
     add("movie", in(DisplayMode::Movie), "Live+ MoviePlay+ List+ Close+", "", "MoviePlay");
     add("movie loaded", in(DisplayMode::Movie, [](auto &s) { s.isMovieLoaded = true; }),
         "Live+ MoviePlay+ List+ Close+", "movie1 timer", "MoviePlay");
@@ -108,14 +108,14 @@ void TestScreens::rowsOfButtons_data()
     add("movie not whole",
         in(DisplayMode::Movie, [](auto &s) { s.facts.movie.state = MovieState::Finishing; }),
         "Live+ MoviePlay List+ Close+", "", "Live");
-    add("photo", in(DisplayMode::Photo), "Live+ PutPhoto+ List+ Close+", "picture1", "Live");
+    add("photo", in(DisplayMode::Photo), "Live+ PutPhoto+ List+ Close+", "picture8", "Live");
     add("accepted",
         in(DisplayMode::Photo,
            [](auto &s) {
                s.hasPhotoPreview = true;
                s.variant = Variant::Accepted;
            }),
-        "Live+ PutPhoto+ List+ Close+", "picture1", "Live");
+        "Live+ PutPhoto+ List+ Close+", "picture8", "Live");
     add("list", in(DisplayMode::List), "Live+ Show Load+ SwitchMovie+ Close+", "strip7", "Live");
     add("chosen",
         in(DisplayMode::List, [](auto &s) { s.hasThumbnails = s.hasChoice = s.showsChoice = true; }),
@@ -251,6 +251,17 @@ void TestScreens::placesOnThreeScreens()
     QCOMPARE(small.rectOf(Place::SeriesLive), QRect(0, 136, 512, 288));
     QCOMPARE(small.rectOf(Place::SeriesPhoto), QRect(512, 136, 512, 288));
     QCOMPARE(small.rectOf(Place::ChosenPhoto), QRect(125, 0, 775, 436).translated(-1, 0));
+
+    // The live picture turned by a quarter; photos and movies keep their places.
+    Layout upright = small;
+    upright.isUpright = true;
+    QCOMPARE(small.rectOf(Place::Live), small.rectOf(Place::Whole));
+    QCOMPARE(upright.rectOf(Place::Whole), small.rectOf(Place::Whole));
+    QCOMPARE(upright.rectOf(Place::Live), QRect(315, 0, 393, 700));
+    QCOMPARE(upright.rectOf(Place::LeftHalf), QRect(157, 0, 355, 632));
+    QCOMPARE(upright.rectOf(Place::RightHalf), QRect(512, 0, 355, 632));
+    QCOMPARE(upright.rectOf(Place::SeriesLive), QRect(99, 0, 314, 560));
+    QCOMPARE(upright.rectOf(Place::ChosenPhoto), small.rectOf(Place::ChosenPhoto));
 
     const Layout wide{{2560, 1080}, {240, 96}, {240, 48}, {640, 480}};
     QCOMPARE(wide.rectOf(Place::Whole), QRect(624, 0, 1312, 984));

@@ -38,6 +38,7 @@ private slots:
     void knowsAMicrophoneThatDoesNotOpen();
     void givesUpADiskThatHangs();
     void showsWhatZoomShows();
+    void isTurnedAsThePictureIs();
     void playsAfterTheProgramWasKilled();
     void endsOnAFullDisk();
     void isFinishedWhenTheCameraIsClosed();
@@ -368,6 +369,41 @@ void TestMovie::showsWhatZoomShows()
     for (int i = 0; i < 6; ++i)
         camera.capture.ZoomOut();
     QTRY_VERIFY(!isWhite(camera.screen()) && camera.screen().pixelColor(3, 3).red() > 150);
+}
+
+void TestMovie::isTurnedAsThePictureIs()
+{
+    TestDevices devices;
+    devices.camera("cam").content("quarters");
+    devices.microphone("mic");
+    devices.write();
+    CameraWindow camera;
+    QVERIFY(camera.start());
+    // The quarters from the darkest to the brightest: blue, red, green, yellow.
+    const auto quarters = [](const QImage &picture, const QRect &place) {
+        QString letters;
+        for (const QPoint &corner :
+             {place.topLeft(), place.topRight(), place.bottomLeft(), place.bottomRight()}) {
+            const QPoint inside = (4 * corner + place.center()) / 5;
+            const int grey = qGray(picture.pixel(inside));
+            letters += grey < 25 ? '-' : grey < 62 ? 'b' : grey < 95 ? 'r' : grey < 150 ? 'g' : 'y';
+        }
+        return letters;
+    };
+    camera.capture.turnPicture();
+    camera.capture.Record(path());
+    QVERIFY(camera.capture.IsRecording());
+    QTest::qWait(300);
+    camera.capture.turnPicture();
+    QTest::qWait(300);
+    camera.capture.RecordStop();
+    const MovieContents movie = readMovie(path());
+    QCOMPARE(movie.first.size(), QSize(480, 640));
+    QCOMPARE(quarters(movie.first, movie.first.rect()), QString("bryg"));
+    // What is turned meanwhile is fitted into the movie.
+    QCOMPARE(movie.last.size(), QSize(480, 640));
+    QCOMPARE(quarters(movie.last, QRect(0, 140, 480, 360)), QString("ybgr"));
+    QCOMPARE(quarters(movie.last, movie.last.rect()), QString("----"));
 }
 
 void TestMovie::playsAfterTheProgramWasKilled()

@@ -1,3 +1,4 @@
+#include "platform/framerenderer.h"
 #include "platform/moviepictures.h"
 #include "platform/screenpixels.h"
 
@@ -11,6 +12,7 @@ class TestScreenPixels : public QObject
 
 private slots:
     void showsWhatGStreamerShows();
+    void turnsWithoutMirroring();
 };
 
 // Soft patches of colour: how the colours between two pixels are found is each converter's own business.
@@ -52,7 +54,8 @@ static int mostDifference(const FramePtr &frame, const QRect &part, const QSize 
 static int mostDifferenceInMovie(const FramePtr &frame)
 {
     FramePlanes planes;
-    const FramePtr made = MoviePictures().make(frame, &planes, Zoom());
+    const FramePtr made =
+        MoviePictures().make(frame, &planes, Framing(), MoviePictures::infoOf(frame->size()));
     const BufferHandle expected(gst_buffer_new_allocate(nullptr, made->info.size, nullptr));
     FrameConverter(GST_VIDEO_RESAMPLER_METHOD_LINEAR)
         .convert(frame->info, frame->picture.get(), QRect(QPoint(0, 0), frame->size()), made->info,
@@ -99,6 +102,66 @@ void TestScreenPixels::showsWhatGStreamerShows()
                 }
             }
         }
+    }
+}
+
+static FramePtr patchesFrame(const char *format, const QSize &size)
+{
+    auto frame = std::make_shared<CapturedFrame>();
+    frame->info = pictureInfo(gst_video_format_from_string(format), size);
+    frame->picture = patches(frame->info);
+    return frame;
+}
+
+static QImage shown(const FramePtr &frame, const Framing &framing, const QSize &box)
+{
+    FramePlanes planes;
+    const cv::Mat pixels = FrameRenderer().render(frame, &planes, framing, box);
+    return QImage(pixels.data, pixels.cols, pixels.rows, int(pixels.step), QImage::Format_RGB32).copy();
+}
+
+// The brightness of a movie's picture, or one of its two planes of colour.
+static QImage inMovie(const FramePtr &frame, const Framing &framing, const QSize &size, int plane)
+{
+    FramePlanes planes;
+    const FramePtr made = MoviePictures().make(frame, &planes, framing, MoviePictures::infoOf(size));
+    MappedFrame picture(made->info, made->picture.get(), GST_MAP_READ);
+    return QImage(static_cast<uchar *>(GST_VIDEO_FRAME_COMP_DATA(picture.get(), plane)),
+                  GST_VIDEO_FRAME_COMP_WIDTH(picture.get(), plane),
+                  GST_VIDEO_FRAME_COMP_HEIGHT(picture.get(), plane),
+                  GST_VIDEO_FRAME_COMP_STRIDE(picture.get(), plane), QImage::Format_Grayscale8)
+        .copy();
+}
+
+void TestScreenPixels::turnsWithoutMirroring()
+{
+    const QSize size(320, 240);
+    const QSize box(200, 150);
+    for (const char *format : {"I420", "YUY2", "NV12", "RGB"}) {
+        const FramePtr frame = patchesFrame(format, size);
+        Framing framing;
+        framing.zoom.in({0.5, -0.5});
+        const Framing upright = framing;
+        for (int quarter = 1; quarter <= 4; ++quarter) {
+            framing.turn.turnOn();
+            const QTransform turn = QTransform().rotate(90 * quarter);
+            const QSize turned = framing.turn.turned(size);
+            QCOMPARE(shown(frame, framing, framing.turn.turned(box)),
+                     shown(frame, upright, box).transformed(turn));
+            for (int plane = 0; plane < 3; ++plane)
+                QCOMPARE(inMovie(frame, framing, turned, plane),
+                         inMovie(frame, upright, size, plane).transformed(turn));
+        }
+        QVERIFY(framing.turn.isNone());
+
+        // A movie that began upright keeps its size.
+        framing.turn.turnOn();
+        const QImage fitted = inMovie(frame, framing, size, 0);
+        const QRect place(70, 0, 180, 240);
+        QCOMPARE(fitted.size(), size);
+        for (int x : {0, place.left() - 1, place.right() + 1, size.width() - 1})
+            QCOMPARE(qGray(fitted.pixel(x, 120)), 16);
+        QCOMPARE(fitted.copy(place), inMovie(frame, framing, place.size(), 0));
     }
 }
 
