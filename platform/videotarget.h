@@ -32,7 +32,9 @@ signals:
     void boxChanged();
 
 private:
-    QRect pictureArea() const;
+    QRect pictureArea() const; // in device pixels, as the next
+    QRect widgetArea() const;
+    QRect onWidget(const QRect &pixels) const;
     void paint();
 
     QPointer<QWidget> m_widget;
