@@ -2,7 +2,7 @@
 
 #include "util/files/capturenames.h"
 #include "util/webcamutil.h"
-#include "widgets/focusframe.h"
+#include "util/desktop/focusframe.h"
 #include "widgets/picturefile.h"
 #include "widgets/pictureloader.h"
 #include "widgets/thumbnaildelegate.h"
@@ -50,6 +50,7 @@ PictureListView::PictureListView(QWidget *parent) : QListWidget(parent), m_loade
     setPalette(colours);
     setBackgroundRole(QPalette::Base);
     setFlow(QListView::TopToBottom);
+    setTextElideMode(Qt::ElideLeft); // the names of a day differ in their ends
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setSelectionMode(QAbstractItemView::MultiSelection);
     setItemDelegate(new ThumbnailDelegate(this));

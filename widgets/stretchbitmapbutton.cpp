@@ -2,7 +2,7 @@
 
 #include "res/drawing/button.h"
 #include "widgets/buttoncaption.h"
-#include "widgets/focusframe.h"
+#include "util/desktop/focusframe.h"
 
 #include <QFocusEvent>
 #include <QGridLayout>

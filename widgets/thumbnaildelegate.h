@@ -2,8 +2,8 @@
 
 #include <QStyledItemDelegate>
 
-// Paints the strip's items: what is chosen lies on a bright plate, and while the strip is used by keyboard
-// its current item has the focus frame.
+// Paints the strip's items: what is chosen has a frame, and while the strip is used by keyboard its current
+// item has the focus frame.
 class ThumbnailDelegate : public QStyledItemDelegate
 {
 public:

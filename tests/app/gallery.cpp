@@ -107,8 +107,10 @@ void Gallery::review()
     press(Program::row(3), "EdEE");
     shoot("list");
     Program::press("space");
+    const QString language = QSettings("Quenmark", "Veltrix Software").value("locale").toString();
+    const QString next = QLocale(language).textDirection() == Qt::RightToLeft ? "Left" : "Right";
     for (int more = 1; more < photosInGrid; ++more) {
-        Program::press("Right");
+        Program::press(next);
         Program::press("space");
     }
     waitForRow("EEEE");

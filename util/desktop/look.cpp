@@ -1,6 +1,7 @@
 #include "util/desktop/look.h"
 
 #include "res/drawing/plate.h"
+#include "util/desktop/focusframe.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -18,6 +19,8 @@ const char *const plainStyle = "fusion";
 constexpr int touchHeight = 40;
 constexpr int indicatorSide = 20;
 constexpr int scrollBarWidth = 22;
+constexpr qreal edgeWidth = 2;
+constexpr qreal cornerRadius = 3;
 constexpr qreal plateScale = 0.6; // of the large buttons' edges
 
 class ButtonLook : public QProxyStyle
@@ -57,6 +60,37 @@ public:
         }
     }
 
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *answer) const override
+    {
+        // Words alone, as in all other dialogs.
+        return hint == SH_DialogButtonBox_ButtonsHaveIcons
+                   ? 0
+                   : QProxyStyle::styleHint(hint, option, widget, answer);
+    }
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget) const override
+    {
+        if (element == PE_FrameFocusRect) {
+            paintSlimFocusFrame(*painter, option->rect);
+            return;
+        }
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        if (element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton)
+            drawEdge(*option, *painter, element == PE_IndicatorRadioButton);
+        else if (element == PE_PanelLineEdit && (option->state & State_HasFocus))
+            paintSlimFocusFrame(*painter, option->rect);
+    }
+
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
+                            const QWidget *widget) const override
+    {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        if (control == CC_ComboBox && (option->state & State_HasFocus))
+            paintSlimFocusFrame(*painter, option->rect);
+    }
+
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                      const QWidget *widget) const override
     {
@@ -67,6 +101,20 @@ public:
     }
 
 private:
+    // What can be ticked stands out from the dialog as the plates do.
+    static void drawEdge(const QStyleOption &option, QPainter &painter, bool isRound)
+    {
+        const PlateState state = option.state & State_Enabled ? PlateState::Up : PlateState::Disabled;
+        painter.save();
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(plateColours(state).edge, edgeWidth));
+        const QRectF edge = QRectF(option.rect).adjusted(1, 1, -1, -1);
+        const qreal radius = isRound ? edge.width() / 2 : cornerRadius;
+        painter.drawRoundedRect(edge, radius, radius);
+        painter.restore();
+    }
+
     static void drawBevel(const QStyleOption &option, QPainter &painter)
     {
         PlateState state = PlateState::Up;
