@@ -130,6 +130,9 @@ void CPictorelDlg::refreshScreen()
 void CPictorelDlg::showScreen(const Screen &screen, bool movesFocus)
 {
     m_screen = screen;
+    // Else it would go from button to button as they are hidden, and a screen reader would name them all.
+    if (QWidget *before = movesFocus ? focusWidget() : nullptr)
+        before->clearFocus();
     showViews(screen);
     showButtons(screen);
     if (movesFocus)

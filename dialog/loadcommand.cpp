@@ -4,23 +4,17 @@
 
 #include "dialog/foldercopy.h"
 #include "dialog/waitemsgdlg.h"
+#include "util/desktop/folderchooser.h"
 #include "util/webcamutil.h"
-
-#include <QFileDialog>
 
 void CPictorelDlg::OnDirLoad()
 {
-    QFileDialog chooser(this, tr("Load Directory"), m_loadFolder.isEmpty() ? m_saveDirectory : m_loadFolder);
-    chooser.setFileMode(QFileDialog::Directory);
-    chooser.setOptions(QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks |
-                       QFileDialog::DontUseNativeDialog | QFileDialog::ReadOnly);
-    chooser.setWindowFlags(Qt::Dialog | Qt::WindowSystemMenuHint | Qt::WindowStaysOnTopHint);
-    chooser.setModal(true); // before it is shown: exec() comes too late for that
-    chooser.show();
-    chooser.raise();
-    if (chooser.exec() != QDialog::Accepted)
+    const QString chosen =
+        chooseFolder(this, tr("Load Directory"), m_loadFolder.isEmpty() ? m_saveDirectory : m_loadFolder,
+                     QFileDialog::ReadOnly);
+    if (chosen.isEmpty())
         return;
-    m_loadFolder = chooser.selectedFiles().value(0);
+    m_loadFolder = chosen;
     m_waitDialog->show();
 }
 

@@ -2,11 +2,11 @@
 #include "settings/setting.h"
 
 #include "ui_setting.h"
+#include "util/desktop/folderchooser.h"
 #include "util/files/diskanswer.h"
 #include "util/webcamutil.h"
 
 #include <QDir>
-#include <QFileDialog>
 #include <QShowEvent>
 
 Setting::Setting(QWidget *parent) : QDialog(parent), m_ui(std::make_unique<Ui_Setting>())
@@ -96,9 +96,8 @@ void Setting::OnOk()
 void Setting::setSaveDirectory()
 {
     const QString shown = m_ui->txbSaveDirectory->text();
-    const QString chosen = QFileDialog::getExistingDirectory(
-        this, tr("SaveDirectory"), shown.isEmpty() ? m_defaultDirectory : shown,
-        QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
+    const QString chosen =
+        chooseFolder(this, tr("SaveDirectory"), shown.isEmpty() ? m_defaultDirectory : shown);
     if (!chosen.isEmpty())
         m_ui->txbSaveDirectory->setText(chosen);
 }

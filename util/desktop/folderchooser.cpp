@@ -1,0 +1,20 @@
+#include "util/desktop/folderchooser.h"
+
+#include "util/desktop/centring.h"
+
+QString chooseFolder(QWidget *parent, const QString &title, const QString &folder,
+                     QFileDialog::Options further)
+{
+    QFileDialog chooser(parent, title, folder);
+    chooser.setFileMode(QFileDialog::Directory);
+    chooser.setOptions(QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks |
+                       QFileDialog::DontUseNativeDialog | further);
+    chooser.setWindowFlags(Qt::Dialog | Qt::WindowSystemMenuHint | Qt::WindowStaysOnTopHint);
+    chooser.setModal(true); // before it is shown: exec() comes too late for that
+    fitOnScreen(&chooser);
+    chooser.show();
+    chooser.raise();
+    if (chooser.exec() != QDialog::Accepted)
+        return {};
+    return chooser.selectedFiles().value(0);
+}
