@@ -2,6 +2,8 @@
 #include "app/terminationsignals.h"
 #include "app/translate.h"
 #include "dialog/pictoreldlg.h"
+#include "util/desktop/look.h"
+#include "util/desktop/screenscale.h"
 
 #include <QDir>
 #include <QSessionManager>
@@ -15,6 +17,8 @@ int main(int argc, char **argv)
     // picture.
     qputenv("QT_XCB_GL_INTEGRATION", "none");
 
+    followScreenScale();
+
     QtSingleApplication application("Orvane", argc, argv);
     constexpr int wakeUpTimeoutMs = 5000;
     if (application.sendMessage("Wake up!", wakeUpTimeoutMs))
@@ -24,6 +28,7 @@ int main(int argc, char **argv)
     const QDir directory(QDir::currentPath());
     QCoreApplication::addLibraryPath(directory.absolutePath() + "/plugins/");
     translate();
+    applyLook();
 
     CPictorelDlg dialog;
     if (!dialog.isStartable())

@@ -32,6 +32,6 @@ void translate()
     QCoreApplication::installTranslator(translator);
 
     // After the installation, which resets the direction.
-    if (locale == "ar" || locale == "he")
+    if (QLocale(locale).textDirection() == Qt::RightToLeft)
         QApplication::setLayoutDirection(Qt::RightToLeft);
 }

@@ -5,6 +5,7 @@
 #include "capture/picturehands.h"
 #include "capture/touchdriver.h"
 #include "platform/playerplugins.h"
+#include "util/desktop/accessiblerole.h"
 #include "util/desktop/fonts.h"
 #include "util/webcamutil.h"
 
@@ -57,6 +58,8 @@ LiveVideoWidget::LiveVideoWidget(QWidget *parent, Qt::WindowFlags flags)
     setAttribute(Qt::WA_PaintOnScreen, false);
     setPalette(blackWithGreenText(palette()));
 
+    setAccessibleRole(this, QAccessible::Graphic);
+    setAccessibleName(tr("Live picture"));
     m_pictureFrame = new QFrame(this);
     m_shotTimer = new QTimer(this);
     connect(m_shotTimer, &QTimer::timeout, this, &LiveVideoWidget::execShot);

@@ -14,7 +14,7 @@ static constexpr int tickMilliseconds = 1000;
 const int TimerWidget::recordingLimit = longestRecordingSeconds;
 
 TimerWidget::TimerWidget(QWidget *parent, Qt::WindowFlags flags)
-    : QLabel(parent, flags), m_ticker(new QTimer(this))
+    : SpokenLabel(parent, flags), m_ticker(new QTimer(this))
 {
     QPalette colours = palette();
     colours.setColor(QPalette::Window, Qt::black);
@@ -121,12 +121,15 @@ void TimerWidget::countDown()
     if (isHidden())
         show();
     setText(QString::number(m_remaining) + tr(" second to capture"));
+    announce(text());
     --m_remaining;
 }
 
 void TimerWidget::showRecordingTime()
 {
     setText(minutesAndSeconds(m_elapsed));
+    if (m_elapsed == 0)
+        announce(tr("Recording"));
     if (m_elapsed >= recordingLimit)
         emit movieTimeOver();
     ++m_elapsed;

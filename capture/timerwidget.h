@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QLabel>
+#include "util/desktop/spokenlabel.h"
 
 class QTimer;
 
@@ -14,8 +14,8 @@ enum class TimerMode {
 
 // A one-line caption that ticks once a second: the countdown of the self-timer, the time of a movie being
 // recorded, or the beat for the time of a movie being played. It shows text only; its signals tell the owner
-// what to do.
-class TimerWidget : public QLabel
+// what to do. Each second of a countdown is read aloud, and that a recording begins.
+class TimerWidget : public SpokenLabel
 {
     Q_OBJECT
 

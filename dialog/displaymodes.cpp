@@ -132,6 +132,9 @@ void CPictorelDlg::showScreen(const Screen &screen, bool movesFocus)
 {
     m_screen = screen;
     m_layout.isUpright = facts().quarterTurns % 2 == 1;
+    // Else it would go from button to button as they are hidden, and a screen reader would name them all.
+    if (QWidget *before = movesFocus ? focusWidget() : nullptr)
+        before->clearFocus();
     showViews(screen);
     showButtons(screen);
     if (movesFocus)

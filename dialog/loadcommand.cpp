@@ -4,33 +4,17 @@
 
 #include "dialog/foldercopy.h"
 #include "dialog/waitemsgdlg.h"
-#include "util/files/diskanswer.h"
+#include "util/desktop/folderchooser.h"
 #include "util/webcamutil.h"
-
-#include <QDir>
-#include <QFileDialog>
-
-// Where choosing begins: a folder whose disk does not answer would hold the chooser up.
-static QString firstFolder(const QString &wanted)
-{
-    return askDisk("OnDirLoad", wanted, QDir::homePath(),
-                   [wanted] { return QDir(wanted).exists() ? wanted : QDir::homePath(); });
-}
 
 void CPictorelDlg::OnDirLoad()
 {
-    QFileDialog chooser(this, tr("Load Directory"),
-                        firstFolder(m_loadFolder.isEmpty() ? m_saveDirectory : m_loadFolder));
-    chooser.setFileMode(QFileDialog::Directory);
-    chooser.setOptions(QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks |
-                       QFileDialog::DontUseNativeDialog | QFileDialog::ReadOnly);
-    chooser.setWindowFlags(Qt::Dialog | Qt::WindowSystemMenuHint | Qt::WindowStaysOnTopHint);
-    chooser.setModal(true); // before it is shown: exec() comes too late for that
-    chooser.show();
-    chooser.raise();
-    if (chooser.exec() != QDialog::Accepted)
+    const QString chosen =
+        chooseFolder(this, tr("Load Directory"), m_loadFolder.isEmpty() ? m_saveDirectory : m_loadFolder,
+                     QFileDialog::ReadOnly);
+    if (chosen.isEmpty())
         return;
-    m_loadFolder = chooser.selectedFiles().value(0);
+    m_loadFolder = chosen;
     m_waitDialog->show();
 }
 

@@ -71,7 +71,9 @@ void CPictorelDlg::OnVXS()
 
 void CPictorelDlg::PutVXSPhoto()
 {
-    const QString size = QString("%1x%2").arg(viewRect().width()).arg(viewRect().height());
+    // The whiteboard software counts the screen's own pixels.
+    const QSize shown = viewRect().size() * devicePixelRatioF();
+    const QString size = QString("%1x%2").arg(shown.width()).arg(shown.height());
     QStringList lines = {photoRequest, size, listedFolder()};
     if (m_mode == DisplayMode::Photo) {
         appendName(lines, facts().photo.name);

@@ -118,6 +118,7 @@ void CPictorelDlg::SetChildInstance()
     m_timerView = new TimerWidget(this);
     m_timerView->SetMode(TimerMode::Recording);
     m_listView = new PictureListView(this);
+    m_listView->setAccessibleName(tr("List"));
     m_listView->hide();
     m_settingDialog = new Setting(this);
     m_waitDialog = new CWaiteMsgDlg(this);

@@ -102,7 +102,7 @@ void CPictorelDlg::addTile(const QString &name, const QRect &place, int number, 
     auto *tile = new PictureWidget(this);
     tile->setGeometry(place);
     tile->Loadbmp(name, m_listView->folder());
-    tile->setLabelText(QString::number(number));
+    tile->setNumber(number);
     if (zoomable) {
         tile->ListMode();
         connect(tile, &PictureWidget::onZoom, this, &CPictorelDlg::OnZoom);

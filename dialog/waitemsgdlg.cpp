@@ -1,9 +1,9 @@
 #include "dialog/waitemsgdlg.h"
 
 #include "util/desktop/fonts.h"
+#include "util/desktop/spokenlabel.h"
 
 #include <QIcon>
-#include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QShowEvent>
@@ -18,7 +18,7 @@ constexpr int startDelayMilliseconds = 100;
 
 CWaiteMsgDlg::CWaiteMsgDlg(QWidget *parent)
     : QDialog(parent), m_ok(new QPushButton(tr("OK"))),
-      m_text(new QLabel(tr("Pasting is processed. Please wait... \n"))), m_work(new QProgressBar),
+      m_text(new SpokenLabel), m_work(new QProgressBar),
       m_starter(new QTimer(this))
 {
     setAutoFillBackground(true);
@@ -27,6 +27,7 @@ CWaiteMsgDlg::CWaiteMsgDlg(QWidget *parent)
     setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowStaysOnTopHint);
     setModal(true);
 
+    m_text->setText(tr("Pasting is processed. Please wait... \n"));
     m_ok->setFont(dialogFont());
     m_text->setFont(dialogFont());
     connect(m_ok, &QPushButton::clicked, this, &QWidget::close);
@@ -92,7 +93,7 @@ void CWaiteMsgDlg::comp(bool ok)
 void CWaiteMsgDlg::showText(const QString &text, const QString &description)
 {
     m_text->setText(text);
-    m_text->setAccessibleDescription(description);
+    m_text->announce(description);
     m_text->adjustSize();
     adjustSize();
 }

@@ -2,10 +2,10 @@
 
 #include <QDialog>
 
-class QLabel;
 class QProgressBar;
 class QPushButton;
 class QTimer;
+class SpokenLabel;
 
 // Tells the user to wait while something long is done, and then how it ended. Showing it starts the work:
 // OnShow() comes once, a moment after each showing, when the dialog is surely on screen. Until comp() it
@@ -45,7 +45,7 @@ private:
     QString m_complete;
     QString m_failed;
     QPushButton *m_ok;
-    QLabel *m_text;
+    SpokenLabel *m_text;
     QProgressBar *m_work; // shown until the end
     QTimer *m_starter;
 };

@@ -24,10 +24,10 @@ void VideoTarget::setWidget(QWidget *widget)
 
 void VideoTarget::setPicture(const QImage &picture)
 {
-    const QRect before = pictureArea();
+    const QRect before = pixelArea();
     m_picture = picture;
     if (m_widget)
-        m_widget->update(before | pictureArea());
+        m_widget->update(onWidget(before | pixelArea()));
 }
 
 QSize VideoTarget::box() const
@@ -56,19 +56,39 @@ bool VideoTarget::eventFilter(QObject *watched, QEvent *event)
     return QObject::eventFilter(watched, event);
 }
 
-QRect VideoTarget::pictureArea() const
+QRect VideoTarget::widgetArea() const
+{
+    return {QPoint(0, 0), m_widget->size() * m_widget->devicePixelRatioF()};
+}
+
+QRect VideoTarget::pixelArea() const
 {
     if (!m_widget || m_picture.isNull())
         return {};
-    const QSize size = m_picture.size().scaled(m_widget->size(), Qt::KeepAspectRatio);
-    return {QPoint((m_widget->width() - size.width()) / 2, (m_widget->height() - size.height()) / 2), size};
+    const QSize room = widgetArea().size();
+    const QSize size = m_picture.size().scaled(room, Qt::KeepAspectRatio);
+    return {QPoint((room.width() - size.width()) / 2, (room.height() - size.height()) / 2), size};
+}
+
+QRect VideoTarget::pictureArea() const
+{
+    const QRect pixels = pixelArea();
+    return pixels.isEmpty() ? QRect() : onWidget(pixels);
+}
+
+QRect VideoTarget::onWidget(const QRect &pixels) const
+{
+    const qreal ratio = m_widget->devicePixelRatioF();
+    return QRectF(QPointF(pixels.topLeft()) / ratio, QSizeF(pixels.size()) / ratio).toAlignedRect();
 }
 
 void VideoTarget::paint()
 {
     QPainter painter(m_widget);
-    const QRect area = pictureArea();
-    const QRegion border = QRegion(m_widget->rect()) - area;
+    const qreal ratio = m_widget->devicePixelRatioF();
+    painter.scale(1 / ratio, 1 / ratio); // in device pixels, as the picture was made
+    const QRect area = pixelArea();
+    const QRegion border = QRegion(widgetArea().adjusted(0, 0, 1, 1)) - area; // parts of pixels count
     for (const QRect &strip : border)
         painter.fillRect(strip, Qt::black);
     if (area.isEmpty())

@@ -34,6 +34,9 @@ signals:
     void boxChanged();
 
 private:
+    QRect pixelArea() const; // of the picture in device pixels, as the next
+    QRect widgetArea() const;
+    QRect onWidget(const QRect &pixels) const;
     void paint();
 
     QPointer<QWidget> m_widget;

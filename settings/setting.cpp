@@ -2,10 +2,11 @@
 #include "settings/setting.h"
 
 #include "ui_setting.h"
+#include "util/desktop/folderchooser.h"
+#include "util/files/diskanswer.h"
 #include "util/webcamutil.h"
 
 #include <QDir>
-#include <QFileDialog>
 #include <QShowEvent>
 
 Setting::Setting(QWidget *parent) : QDialog(parent), m_ui(std::make_unique<Ui_Setting>())
@@ -50,6 +51,7 @@ void Setting::setAccessibleNames()
     m_ui->cmbResolution->setAccessibleName(m_ui->lblResolution->text());
     m_ui->txbSaveDirectory->setAccessibleName(m_ui->label->text());
     m_ui->tolSaveDirectory->setAccessibleName(tr("SaveDirectory"));
+    m_ui->tolSaveDirectory->setToolTip(m_ui->tolSaveDirectory->accessibleName());
 }
 
 void Setting::connectWidgets()
@@ -81,9 +83,11 @@ void Setting::OnOk()
         return;
     }
     const QString directory = m_ui->txbSaveDirectory->text();
+    const auto exists = [directory] { return QDir(directory).exists(); };
     if (directory.isEmpty())
         WebcamUtil::WarningMessage(tr("Please specify the save location."), this);
-    else if (QDir(directory).exists() && WebcamUtil::hasWriteAccess(directory))
+    else if (askDisk("Looking for a folder", directory, false, exists) &&
+             WebcamUtil::hasWriteAccess(directory))
         accept();
     else
         WebcamUtil::WarningMessage(tr("Invalid PATH is specified."), this);
@@ -92,9 +96,8 @@ void Setting::OnOk()
 void Setting::setSaveDirectory()
 {
     const QString shown = m_ui->txbSaveDirectory->text();
-    const QString chosen = QFileDialog::getExistingDirectory(
-        this, tr("SaveDirectory"), shown.isEmpty() ? m_defaultDirectory : shown,
-        QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
+    const QString chosen =
+        chooseFolder(this, tr("SaveDirectory"), shown.isEmpty() ? m_defaultDirectory : shown);
     if (!chosen.isEmpty())
         m_ui->txbSaveDirectory->setText(chosen);
 }

@@ -156,6 +156,10 @@ Capture</source>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
         <translation>جهاز الصوت غير صالح. يُرجى التأكد من توصيل الجهاز بشكل صحيح.</translation>
     </message>
+    <message>
+        <source>Live picture</source>
+        <translation>الصورة المباشرة</translation>
+    </message>
 </context>
 <context>
     <name>TimerWidget</name>
@@ -166,6 +170,10 @@ Capture</source>
     <message>
         <source> second to capture</source>
         <translation> ثانية حتى الالتقاط</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>جارٍ تسجيل فيلم</translation>
     </message>
 </context>
 <context>
@@ -339,6 +347,14 @@ Capture</source>
     <message>
         <source>You can not select 10 or more.</source>
         <translation>لا يمكنك تحديد 10 أو أكثر.</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>صورة</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>فيديو</translation>
     </message>
 </context>
 <context>

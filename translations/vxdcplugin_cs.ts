@@ -156,6 +156,10 @@ snímky</translation>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
         <translation>Mikrofon není dostupný. Zkontrolujte, zda je správně připojen.</translation>
     </message>
+    <message>
+        <source>Live picture</source>
+        <translation>Živý obraz</translation>
+    </message>
 </context>
 <context>
     <name>TimerWidget</name>
@@ -166,6 +170,10 @@ snímky</translation>
     <message>
         <source> second to capture</source>
         <translation> s do pořízení snímku</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Nahrává se</translation>
     </message>
 </context>
 <context>
@@ -339,6 +347,14 @@ snímky</translation>
     <message>
         <source>You can not select 10 or more.</source>
         <translation>Lze vybrat nejvýše 9 položek.</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Video</translation>
     </message>
 </context>
 <context>

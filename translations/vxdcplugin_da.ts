@@ -156,6 +156,10 @@ optagelse</translation>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
         <translation>Mikrofonen er ikke tilgængelig. Kontrollér, at den er tilsluttet korrekt.</translation>
     </message>
+    <message>
+        <source>Live picture</source>
+        <translation>Livebillede</translation>
+    </message>
 </context>
 <context>
     <name>TimerWidget</name>
@@ -166,6 +170,10 @@ optagelse</translation>
     <message>
         <source> second to capture</source>
         <translation> s til billedet</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Optager</translation>
     </message>
 </context>
 <context>
@@ -339,6 +347,14 @@ optagelse</translation>
     <message>
         <source>You can not select 10 or more.</source>
         <translation>Du kan højst vælge 9.</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Film</translation>
     </message>
 </context>
 <context>

@@ -156,6 +156,10 @@ aufnahme</translation>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
         <translation>Das Mikrofon ist nicht verfügbar. Bitte prüfen Sie, ob es richtig angeschlossen ist.</translation>
     </message>
+    <message>
+        <source>Live picture</source>
+        <translation>Livebild</translation>
+    </message>
 </context>
 <context>
     <name>TimerWidget</name>
@@ -166,6 +170,10 @@ aufnahme</translation>
     <message>
         <source> second to capture</source>
         <translation> Sekunden bis zur Aufnahme</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Aufnahme läuft</translation>
     </message>
 </context>
 <context>
@@ -339,6 +347,14 @@ aufnahme</translation>
     <message>
         <source>You can not select 10 or more.</source>
         <translation>Es können höchstens 9 gewählt werden.</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Film</translation>
     </message>
 </context>
 <context>

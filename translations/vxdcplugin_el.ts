@@ -156,6 +156,10 @@ Capture</source>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
         <translation>Το μικρόφωνο δεν είναι διαθέσιμο. Ελέγξτε αν είναι σωστά συνδεδεμένο.</translation>
     </message>
+    <message>
+        <source>Live picture</source>
+        <translation>Ζωντανή εικόνα</translation>
+    </message>
 </context>
 <context>
     <name>TimerWidget</name>
@@ -166,6 +170,10 @@ Capture</source>
     <message>
         <source> second to capture</source>
         <translation> δευτ. μέχρι τη λήψη</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Γίνεται εγγραφή</translation>
     </message>
 </context>
 <context>
@@ -339,6 +347,14 @@ Capture</source>
     <message>
         <source>You can not select 10 or more.</source>
         <translation>Μπορείτε να επιλέξετε έως 9.</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Φωτογραφία</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Βίντεο</translation>
     </message>
 </context>
 <context>

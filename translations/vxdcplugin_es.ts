@@ -156,6 +156,10 @@ continua</translation>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
         <translation>El micrófono no está disponible. Compruebe que está bien conectado.</translation>
     </message>
+    <message>
+        <source>Live picture</source>
+        <translation>Imagen en directo</translation>
+    </message>
 </context>
 <context>
     <name>TimerWidget</name>
@@ -166,6 +170,10 @@ continua</translation>
     <message>
         <source> second to capture</source>
         <translation> segundos para la captura</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Grabando</translation>
     </message>
 </context>
 <context>
@@ -339,6 +347,14 @@ continua</translation>
     <message>
         <source>You can not select 10 or more.</source>
         <translation>No se pueden elegir más de 9.</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Vídeo</translation>
     </message>
 </context>
 <context>

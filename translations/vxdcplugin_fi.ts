@@ -156,6 +156,10 @@ kuvaus</translation>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
         <translation>Mikrofoni ei ole käytettävissä. Tarkista, että se on liitetty oikein.</translation>
     </message>
+    <message>
+        <source>Live picture</source>
+        <translation>Suora kuva</translation>
+    </message>
 </context>
 <context>
     <name>TimerWidget</name>
@@ -166,6 +170,10 @@ kuvaus</translation>
     <message>
         <source> second to capture</source>
         <translation> s kuvan ottamiseen</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Tallennus käynnissä</translation>
     </message>
 </context>
 <context>
@@ -339,6 +347,14 @@ kuvaus</translation>
     <message>
         <source>You can not select 10 or more.</source>
         <translation>Voit valita enintään 9.</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Kuva</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Video</translation>
     </message>
 </context>
 <context>

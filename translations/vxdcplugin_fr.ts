@@ -156,6 +156,10 @@ en rafale</translation>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
         <translation>Le microphone n’est pas disponible. Vérifiez qu’il est correctement branché.</translation>
     </message>
+    <message>
+        <source>Live picture</source>
+        <translation>Image en direct</translation>
+    </message>
 </context>
 <context>
     <name>TimerWidget</name>
@@ -166,6 +170,10 @@ en rafale</translation>
     <message>
         <source> second to capture</source>
         <translation> secondes avant la prise</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Enregistrement en cours</translation>
     </message>
 </context>
 <context>
@@ -339,6 +347,14 @@ en rafale</translation>
     <message>
         <source>You can not select 10 or more.</source>
         <translation>Vous pouvez en choisir 9 au maximum.</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Photo</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Vidéo</translation>
     </message>
 </context>
 <context>

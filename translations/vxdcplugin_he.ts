@@ -156,6 +156,10 @@ Capture</source>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
         <translation>התקן השמע אינו תקין. ודאו שההתקן מחובר כראוי.</translation>
     </message>
+    <message>
+        <source>Live picture</source>
+        <translation>תמונה חיה</translation>
+    </message>
 </context>
 <context>
     <name>TimerWidget</name>
@@ -166,6 +170,10 @@ Capture</source>
     <message>
         <source> second to capture</source>
         <translation> שניות עד לצילום</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>מקליט</translation>
     </message>
 </context>
 <context>
@@ -339,6 +347,14 @@ Capture</source>
     <message>
         <source>You can not select 10 or more.</source>
         <translation>ניתן לבחור 9 לכל היותר.</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>תמונה</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>סרט</translation>
     </message>
 </context>
 <context>

@@ -156,6 +156,10 @@ Capture</source>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
         <translation>माइक्रोफ़ोन उपलब्ध नहीं है। कृपया जाँचें कि वह ठीक से जुड़ा है।</translation>
     </message>
+    <message>
+        <source>Live picture</source>
+        <translation>लाइव चित्र</translation>
+    </message>
 </context>
 <context>
     <name>TimerWidget</name>
@@ -166,6 +170,10 @@ Capture</source>
     <message>
         <source> second to capture</source>
         <translation> सेकंड में फ़ोटो</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>रिकॉर्डिंग हो रही है</translation>
     </message>
 </context>
 <context>
@@ -339,6 +347,14 @@ Capture</source>
     <message>
         <source>You can not select 10 or more.</source>
         <translation>अधिकतम 9 चुने जा सकते हैं।</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>फ़ोटो</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>वीडियो</translation>
     </message>
 </context>
 <context>

@@ -156,6 +156,10 @@ felvétel</translation>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
         <translation>A mikrofon nem érhető el. Ellenőrizze, hogy megfelelően csatlakozik-e.</translation>
     </message>
+    <message>
+        <source>Live picture</source>
+        <translation>Élő kép</translation>
+    </message>
 </context>
 <context>
     <name>TimerWidget</name>
@@ -166,6 +170,10 @@ felvétel</translation>
     <message>
         <source> second to capture</source>
         <translation> másodperc a felvételig</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Felvétel folyamatban</translation>
     </message>
 </context>
 <context>
@@ -339,6 +347,14 @@ felvétel</translation>
     <message>
         <source>You can not select 10 or more.</source>
         <translation>Legfeljebb 9 választható ki.</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Fotó</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Videó</translation>
     </message>
 </context>
 <context>

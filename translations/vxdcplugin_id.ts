@@ -156,6 +156,10 @@ beruntun</translation>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
         <translation>Mikrofon tidak tersedia. Pastikan mikrofon terhubung dengan benar.</translation>
     </message>
+    <message>
+        <source>Live picture</source>
+        <translation>Gambar langsung</translation>
+    </message>
 </context>
 <context>
     <name>TimerWidget</name>
@@ -166,6 +170,10 @@ beruntun</translation>
     <message>
         <source> second to capture</source>
         <translation> detik hingga pemotretan</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Sedang merekam</translation>
     </message>
 </context>
 <context>
@@ -339,6 +347,14 @@ beruntun</translation>
     <message>
         <source>You can not select 10 or more.</source>
         <translation>Anda dapat memilih paling banyak 9.</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Video</translation>
     </message>
 </context>
 <context>

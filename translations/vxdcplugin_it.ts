@@ -156,6 +156,10 @@ continuo</translation>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
         <translation>Il microfono non è disponibile. Verificare che sia collegato correttamente.</translation>
     </message>
+    <message>
+        <source>Live picture</source>
+        <translation>Immagine dal vivo</translation>
+    </message>
 </context>
 <context>
     <name>TimerWidget</name>
@@ -166,6 +170,10 @@ continuo</translation>
     <message>
         <source> second to capture</source>
         <translation> s allo scatto</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Registrazione in corso</translation>
     </message>
 </context>
 <context>
@@ -339,6 +347,14 @@ continuo</translation>
     <message>
         <source>You can not select 10 or more.</source>
         <translation>È possibile selezionare al massimo 9 elementi.</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Video</translation>
     </message>
 </context>
 <context>

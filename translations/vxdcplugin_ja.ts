@@ -156,6 +156,10 @@ Capture</source>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
         <translation>マイクを使用できません。正しく接続されているか確認してください。</translation>
     </message>
+    <message>
+        <source>Live picture</source>
+        <translation>ライブ映像</translation>
+    </message>
 </context>
 <context>
     <name>TimerWidget</name>
@@ -166,6 +170,10 @@ Capture</source>
     <message>
         <source> second to capture</source>
         <translation> 秒後に撮影</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>録画中</translation>
     </message>
 </context>
 <context>
@@ -339,6 +347,14 @@ Capture</source>
     <message>
         <source>You can not select 10 or more.</source>
         <translation>選択できるのは9枚までです。</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>写真</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>動画</translation>
     </message>
 </context>
 <context>

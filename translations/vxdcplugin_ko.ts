@@ -156,6 +156,10 @@ Capture</source>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
         <translation>마이크를 사용할 수 없습니다. 올바르게 연결되어 있는지 확인하십시오.</translation>
     </message>
+    <message>
+        <source>Live picture</source>
+        <translation>실시간 화면</translation>
+    </message>
 </context>
 <context>
     <name>TimerWidget</name>
@@ -166,6 +170,10 @@ Capture</source>
     <message>
         <source> second to capture</source>
         <translation> 초 후 촬영</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>녹화 중</translation>
     </message>
 </context>
 <context>
@@ -339,6 +347,14 @@ Capture</source>
     <message>
         <source>You can not select 10 or more.</source>
         <translation>최대 9개까지 선택할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>사진</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>동영상</translation>
     </message>
 </context>
 <context>

@@ -156,6 +156,10 @@ opname</translation>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
         <translation>De microfoon is niet beschikbaar. Controleer of deze goed is aangesloten.</translation>
     </message>
+    <message>
+        <source>Live picture</source>
+        <translation>Livebeeld</translation>
+    </message>
 </context>
 <context>
     <name>TimerWidget</name>
@@ -166,6 +170,10 @@ opname</translation>
     <message>
         <source> second to capture</source>
         <translation> s tot de opname</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Bezig met opnemen</translation>
     </message>
 </context>
 <context>
@@ -339,6 +347,14 @@ opname</translation>
     <message>
         <source>You can not select 10 or more.</source>
         <translation>U kunt er maximaal 9 selecteren.</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Video</translation>
     </message>
 </context>
 <context>

@@ -156,6 +156,10 @@ opptak</translation>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
         <translation>Mikrofonen er ikke tilgjengelig. Kontroller at den er riktig tilkoblet.</translation>
     </message>
+    <message>
+        <source>Live picture</source>
+        <translation>Direktebilde</translation>
+    </message>
 </context>
 <context>
     <name>TimerWidget</name>
@@ -166,6 +170,10 @@ opptak</translation>
     <message>
         <source> second to capture</source>
         <translation> sekunder til bildet</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Tar opp</translation>
     </message>
 </context>
 <context>
@@ -339,6 +347,14 @@ opptak</translation>
     <message>
         <source>You can not select 10 or more.</source>
         <translation>Du kan velge høyst 9.</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Film</translation>
     </message>
 </context>
 <context>

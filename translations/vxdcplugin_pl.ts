@@ -156,6 +156,10 @@ seryjne</translation>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
         <translation>Mikrofon jest niedostępny. Sprawdź, czy jest prawidłowo podłączony.</translation>
     </message>
+    <message>
+        <source>Live picture</source>
+        <translation>Obraz na żywo</translation>
+    </message>
 </context>
 <context>
     <name>TimerWidget</name>
@@ -166,6 +170,10 @@ seryjne</translation>
     <message>
         <source> second to capture</source>
         <translation> s do zdjęcia</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Trwa nagrywanie</translation>
     </message>
 </context>
 <context>
@@ -339,6 +347,14 @@ seryjne</translation>
     <message>
         <source>You can not select 10 or more.</source>
         <translation>Można wybrać najwyżej 9 elementów.</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Zdjęcie</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Film</translation>
     </message>
 </context>
 <context>

@@ -156,6 +156,10 @@ contínua</translation>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
         <translation>O microfone não está disponível. Verifique se ele está conectado corretamente.</translation>
     </message>
+    <message>
+        <source>Live picture</source>
+        <translation>Imagem ao vivo</translation>
+    </message>
 </context>
 <context>
     <name>TimerWidget</name>
@@ -166,6 +170,10 @@ contínua</translation>
     <message>
         <source> second to capture</source>
         <translation> s até a captura</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Gravando</translation>
     </message>
 </context>
 <context>
@@ -339,6 +347,14 @@ contínua</translation>
     <message>
         <source>You can not select 10 or more.</source>
         <translation>Só é possível selecionar até 9 itens.</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Vídeo</translation>
     </message>
 </context>
 <context>

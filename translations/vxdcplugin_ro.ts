@@ -156,6 +156,10 @@ continuă</translation>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
         <translation>Microfonul nu este disponibil. Verificați dacă este conectat corect.</translation>
     </message>
+    <message>
+        <source>Live picture</source>
+        <translation>Imagine în direct</translation>
+    </message>
 </context>
 <context>
     <name>TimerWidget</name>
@@ -166,6 +170,10 @@ continuă</translation>
     <message>
         <source> second to capture</source>
         <translation> s până la captură</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Se înregistrează</translation>
     </message>
 </context>
 <context>
@@ -339,6 +347,14 @@ continuă</translation>
     <message>
         <source>You can not select 10 or more.</source>
         <translation>Puteți selecta cel mult 9 elemente.</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Video</translation>
     </message>
 </context>
 <context>

@@ -156,6 +156,10 @@ Capture</source>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
         <translation>Микрофон недоступен. Проверьте, правильно ли он подключён.</translation>
     </message>
+    <message>
+        <source>Live picture</source>
+        <translation>Живое изображение</translation>
+    </message>
 </context>
 <context>
     <name>TimerWidget</name>
@@ -166,6 +170,10 @@ Capture</source>
     <message>
         <source> second to capture</source>
         <translation> с до съёмки</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Идёт запись</translation>
     </message>
 </context>
 <context>
@@ -339,6 +347,14 @@ Capture</source>
     <message>
         <source>You can not select 10 or more.</source>
         <translation>Можно выбрать не более 9 элементов.</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Фото</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Видео</translation>
     </message>
 </context>
 <context>

@@ -156,6 +156,10 @@ tagning</translation>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
         <translation>Mikrofonen är inte tillgänglig. Kontrollera att den är rätt ansluten.</translation>
     </message>
+    <message>
+        <source>Live picture</source>
+        <translation>Livebild</translation>
+    </message>
 </context>
 <context>
     <name>TimerWidget</name>
@@ -166,6 +170,10 @@ tagning</translation>
     <message>
         <source> second to capture</source>
         <translation> s kvar till bilden</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Spelar in</translation>
     </message>
 </context>
 <context>
@@ -339,6 +347,14 @@ tagning</translation>
     <message>
         <source>You can not select 10 or more.</source>
         <translation>Du kan välja högst 9.</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Film</translation>
     </message>
 </context>
 <context>

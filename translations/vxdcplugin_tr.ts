@@ -156,6 +156,10 @@ Capture</source>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
         <translation>Mikrofon kullanılamıyor. Doğru bağlandığından emin olun.</translation>
     </message>
+    <message>
+        <source>Live picture</source>
+        <translation>Canlı görüntü</translation>
+    </message>
 </context>
 <context>
     <name>TimerWidget</name>
@@ -166,6 +170,10 @@ Capture</source>
     <message>
         <source> second to capture</source>
         <translation> saniye sonra çekilecek</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Kaydediliyor</translation>
     </message>
 </context>
 <context>
@@ -339,6 +347,14 @@ Capture</source>
     <message>
         <source>You can not select 10 or more.</source>
         <translation>En çok 9 öğe seçebilirsiniz.</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Fotoğraf</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Video</translation>
     </message>
 </context>
 <context>

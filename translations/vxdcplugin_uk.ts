@@ -156,6 +156,10 @@ Capture</source>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
         <translation>Мікрофон недоступний. Перевірте, чи правильно його під’єднано.</translation>
     </message>
+    <message>
+        <source>Live picture</source>
+        <translation>Живе зображення</translation>
+    </message>
 </context>
 <context>
     <name>TimerWidget</name>
@@ -166,6 +170,10 @@ Capture</source>
     <message>
         <source> second to capture</source>
         <translation> с до зйомки</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Триває запис</translation>
     </message>
 </context>
 <context>
@@ -339,6 +347,14 @@ Capture</source>
     <message>
         <source>You can not select 10 or more.</source>
         <translation>Можна вибрати не більше ніж 9 елементів.</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Фото</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Відео</translation>
     </message>
 </context>
 <context>

@@ -156,6 +156,10 @@ liên tục</translation>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
         <translation>Micrô không sẵn dùng. Hãy kiểm tra xem micrô đã được kết nối đúng chưa.</translation>
     </message>
+    <message>
+        <source>Live picture</source>
+        <translation>Hình ảnh trực tiếp</translation>
+    </message>
 </context>
 <context>
     <name>TimerWidget</name>
@@ -166,6 +170,10 @@ liên tục</translation>
     <message>
         <source> second to capture</source>
         <translation> giây nữa sẽ chụp</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Đang ghi hình</translation>
     </message>
 </context>
 <context>
@@ -339,6 +347,14 @@ liên tục</translation>
     <message>
         <source>You can not select 10 or more.</source>
         <translation>Chỉ có thể chọn tối đa 9 mục.</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Ảnh</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Video</translation>
     </message>
 </context>
 <context>

@@ -156,6 +156,10 @@ Capture</source>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
         <translation>音频设备无效。请确认设备是否正确连接。</translation>
     </message>
+    <message>
+        <source>Live picture</source>
+        <translation>实时画面</translation>
+    </message>
 </context>
 <context>
     <name>TimerWidget</name>
@@ -166,6 +170,10 @@ Capture</source>
     <message>
         <source> second to capture</source>
         <translation> 秒后拍摄</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>正在录制</translation>
     </message>
 </context>
 <context>
@@ -339,6 +347,14 @@ Capture</source>
     <message>
         <source>You can not select 10 or more.</source>
         <translation>最多只能选择 9 个。</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>照片</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>视频</translation>
     </message>
 </context>
 <context>

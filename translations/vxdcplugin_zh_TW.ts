@@ -156,6 +156,10 @@ Capture</source>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
         <translation>麥克風無法使用。請確認是否已正確連接。</translation>
     </message>
+    <message>
+        <source>Live picture</source>
+        <translation>即時畫面</translation>
+    </message>
 </context>
 <context>
     <name>TimerWidget</name>
@@ -166,6 +170,10 @@ Capture</source>
     <message>
         <source> second to capture</source>
         <translation> 秒後拍攝</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>正在錄影</translation>
     </message>
 </context>
 <context>
@@ -339,6 +347,14 @@ Capture</source>
     <message>
         <source>You can not select 10 or more.</source>
         <translation>最多只能選取 9 個。</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>相片</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>影片</translation>
     </message>
 </context>
 <context>

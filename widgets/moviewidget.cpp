@@ -29,6 +29,7 @@ MovieWidget::MovieWidget(QWidget *parent)
     colours.setColor(QPalette::WindowText, Qt::green);
     setPalette(colours);
 
+    setAccessibleName(m_caption->text());
     m_caption->setAutoFillBackground(true);
     m_caption->setPalette(colours);
     m_caption->setFont(captionFont());

@@ -2,9 +2,12 @@
 
 #include "util/files/capturenames.h"
 #include "util/webcamutil.h"
+#include "util/desktop/focusframe.h"
 #include "widgets/picturefile.h"
 #include "widgets/pictureloader.h"
+#include "widgets/thumbnaildelegate.h"
 
+#include <QFocusEvent>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -28,6 +31,14 @@ QString movieOfPreview(QString name)
     return ending < 0 ? name : name.replace(ending, previewEnding.size(), movieEnding);
 }
 
+// As it stands in the name, after a comma; nothing when no time stands there.
+QString timeOfCapture(const QString &name)
+{
+    static const QRegularExpression stamp("\\d{8}(\\d\\d)(\\d\\d)(\\d\\d)");
+    const QRegularExpressionMatch match = stamp.match(name);
+    return match.hasMatch() ? ", " + match.capturedTexts().mid(1).join(':') : QString();
+}
+
 } // namespace
 
 PictureListView::PictureListView(QWidget *parent) : QListWidget(parent), m_loader(new PictureLoader(this))
@@ -39,8 +50,10 @@ PictureListView::PictureListView(QWidget *parent) : QListWidget(parent), m_loade
     setPalette(colours);
     setBackgroundRole(QPalette::Base);
     setFlow(QListView::TopToBottom);
+    setTextElideMode(Qt::ElideLeft); // the names of a day differ in their ends
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setSelectionMode(QAbstractItemView::MultiSelection);
+    setItemDelegate(new ThumbnailDelegate(this));
     connect(this, &QListWidget::itemSelectionChanged, this, &PictureListView::selectedItem);
     connect(m_loader, &PictureLoader::loaded, this, &PictureListView::showThumbnail);
 }
@@ -88,7 +101,7 @@ void PictureListView::ensureIconSize()
     }
     if (m_placeholderSize != iconSize()) {
         m_placeholderSize = iconSize();
-        m_placeholder = QIcon(QPixmap::fromImage(placeholderThumbnail(m_placeholderSize)));
+        m_placeholder = iconOf(placeholderThumbnail(m_placeholderSize * devicePixelRatioF()));
     }
 }
 
@@ -101,6 +114,7 @@ QListWidgetItem *PictureListView::createItem(const QString &name)
     item->setIcon(m_placeholder);
     item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled);
     item->setText(m_movieMode ? movieOfPreview(name) : name);
+    item->setData(Qt::AccessibleTextRole, spokenName(name));
     return item;
 }
 
@@ -120,18 +134,34 @@ void PictureListView::fitThumbnails()
     }
 }
 
+// A name of thirty digits tells nobody anything.
+QString PictureListView::spokenName(const QString &name) const
+{
+    const QString kind = m_movieMode ? tr("Movie") : tr("Photo");
+    const QString place = QString::number(m_nameList.size() + 1);
+    return kind + ' ' + place + timeOfCapture(name);
+}
+
 void PictureListView::requestThumbnail(const QString &name, QListWidgetItem *item)
 {
     const QString folder = m_folder.isEmpty() ? WebcamUtil::getTemporaryPath() : m_folder;
     m_awaited.insert(++m_lastRequest, indexFromItem(item));
-    m_loader->requestThumbnail(m_lastRequest, folder + "/" + name, iconSize());
+    m_loader->requestThumbnail(m_lastRequest, folder + "/" + name, iconSize() * devicePixelRatioF());
 }
 
 void PictureListView::showThumbnail(int id, const QImage &thumbnail)
 {
     const QModelIndex index = m_awaited.take(id);
     if (index.isValid() && !thumbnail.isNull())
-        model()->setData(index, QIcon(QPixmap::fromImage(thumbnail)), Qt::DecorationRole);
+        model()->setData(index, iconOf(thumbnail), Qt::DecorationRole);
+}
+
+// Of a picture in the screen's own pixels.
+QIcon PictureListView::iconOf(const QImage &thumbnail) const
+{
+    QPixmap pixmap = QPixmap::fromImage(thumbnail);
+    pixmap.setDevicePixelRatio(devicePixelRatioF());
+    return {pixmap};
 }
 
 void PictureListView::forgetRequests()
@@ -153,6 +183,32 @@ void PictureListView::Release()
 {
     Reset();
     hide();
+}
+
+// Only who moves by keyboard needs to see where he is.
+void PictureListView::keyPressEvent(QKeyEvent *event)
+{
+    m_isUsedByKeyboard = true;
+    QListWidget::keyPressEvent(event);
+}
+
+void PictureListView::mousePressEvent(QMouseEvent *event)
+{
+    m_isUsedByKeyboard = false;
+    QListWidget::mousePressEvent(event);
+}
+
+void PictureListView::focusInEvent(QFocusEvent *event)
+{
+    m_isUsedByKeyboard |= isByKeyboard(event->reason());
+    QListWidget::focusInEvent(event);
+}
+
+QStyleOptionViewItem PictureListView::viewOptions() const
+{
+    QStyleOptionViewItem options = QListWidget::viewOptions();
+    options.state.setFlag(QStyle::State_KeyboardFocusChange, m_isUsedByKeyboard);
+    return options;
 }
 
 void PictureListView::selectedItem()

@@ -63,6 +63,12 @@ public:
 signals:
     void selectedPhoto();
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    QStyleOptionViewItem viewOptions() const override;
+
 private slots:
     void selectedItem();
 
@@ -70,9 +76,11 @@ private:
     void ensureIconSize();
     QListWidgetItem *createItem(const QString &name);
     QSize itemSize() const;
+    QString spokenName(const QString &name) const;
     void requestThumbnail(const QString &name, QListWidgetItem *item);
     void forgetRequests();
     void showThumbnail(int id, const QImage &thumbnail);
+    QIcon iconOf(const QImage &thumbnail) const;
     QList<QListWidgetItem *> selectedInListOrder() const;
     void followSelection(const QList<QListWidgetItem *> &selected);
     void chooseMovie();
@@ -83,6 +91,7 @@ private:
     QVector<QListWidgetItem *> m_items;
     QString m_currentName;
     bool m_movieMode = false;
+    bool m_isUsedByKeyboard = false;
     QString m_folder;
 
     QIcon m_placeholder; // one for all, as long as they are of one size

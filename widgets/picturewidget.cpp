@@ -1,5 +1,6 @@
 #include "widgets/picturewidget.h"
 
+#include "util/desktop/accessiblerole.h"
 #include "util/desktop/fonts.h"
 #include "util/webcamutil.h"
 #include "widgets/pictureloader.h"
@@ -12,6 +13,8 @@
 PictureWidget::PictureWidget(QWidget *parent, Qt::WindowFlags flags)
     : QWidget(parent, flags), m_loader(new PictureLoader(this)), m_caption(new QLabel(tr("Photo"), this))
 {
+    setAccessibleRole(this, QAccessible::Graphic);
+    setAccessibleName(m_caption->text());
     connect(m_loader, &PictureLoader::loaded, this, [this](int, const QImage &picture) { take(picture); });
     QPalette colours = palette();
     colours.setColor(QPalette::Window, Qt::black);
@@ -51,10 +54,15 @@ void PictureWidget::paintEvent(QPaintEvent *)
 {
     if (m_pixmap.isNull())
         return;
-    m_pixmap = m_pixmap.scaled(size(), Qt::KeepAspectRatio, Qt::FastTransformation);
-    const int x = int((width() - m_pixmap.width()) * 0.5);
-    const int y = int((height() - m_pixmap.height()) * 0.5);
-    QPainter(this).drawPixmap(x, y, m_pixmap);
+    // In the screen's own pixels, of which a scaled desktop has more.
+    const qreal ratio = devicePixelRatioF();
+    const QSize room = size() * ratio;
+    m_pixmap = m_pixmap.scaled(room, Qt::KeepAspectRatio, Qt::FastTransformation);
+    const int x = int((room.width() - m_pixmap.width()) * 0.5);
+    const int y = int((room.height() - m_pixmap.height()) * 0.5);
+    QPainter painter(this);
+    painter.scale(1 / ratio, 1 / ratio);
+    painter.drawPixmap(x, y, m_pixmap);
 }
 
 void PictureWidget::createButtons()
@@ -63,9 +71,16 @@ void PictureWidget::createButtons()
         m_zoom = new CStretchBitmapButton(tr("Zoom"), this);
     if (!m_back)
         m_back = new CStretchBitmapButton(tr("Back"), this);
-    // The words above name bitmaps and stay English in every language; these are read aloud.
-    m_zoom->setAccessibleName(tr("Zoom", "spoken"));
-    m_back->setAccessibleName(tr("Back", "spoken"));
+    // The words above name bitmaps and stay English in every language; these are for people.
+    m_zoom->setToolTip(tr("Zoom", "spoken"));
+    m_back->setToolTip(tr("Back", "spoken"));
+    m_zoom->setAccessibleName(numbered(m_zoom->toolTip()));
+    m_back->setAccessibleName(m_back->toolTip());
+}
+
+QString PictureWidget::numbered(const QString &word) const
+{
+    return m_number.isEmpty() ? word : word + ' ' + m_number;
 }
 
 // Both buttons take the place of the zoom button, so that pressing twice at one place zooms and goes back.
@@ -120,6 +135,13 @@ void PictureWidget::setLabelText(const QString &text)
     m_caption->setText(text);
     m_caption->adjustSize();
     m_caption->show();
+}
+
+void PictureWidget::setNumber(int number)
+{
+    m_number = QString::number(number);
+    setLabelText(m_number);
+    setAccessibleName(numbered(tr("Photo")));
 }
 
 void PictureWidget::Release()

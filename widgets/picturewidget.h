@@ -37,6 +37,9 @@ public:
     // Also shows the caption if it was hidden.
     void setLabelText(const QString &text);
 
+    // Its place among several photos: the caption, and part of what it and its buttons are called.
+    void setNumber(int number);
+
     // Empties the widget, and forgets what is being read.
     void Release();
 
@@ -60,12 +63,14 @@ protected:
 private:
     void take(const QImage &picture);
     void createButtons();
+    QString numbered(const QString &word) const;
     void placeAtBottomRight(QWidget *button);
 
     QString m_fileName;
     QPixmap m_pixmap; // as loaded, or as last painted
     PictureLoader *m_loader;
     QLabel *m_caption;
+    QString m_number; // empty where it stands alone
     CStretchBitmapButton *m_zoom = nullptr;
     CStretchBitmapButton *m_back = nullptr;
 };

@@ -1,10 +1,13 @@
 #include "widgets/stretchbitmapbutton.h"
 
+#include "res/drawing/button.h"
+#include "widgets/buttoncaption.h"
+#include "util/desktop/focusframe.h"
+
 #include <QFocusEvent>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QImageReader>
-#include <QLabel>
 #include <QPainter>
 #include <QScreen>
 
@@ -17,10 +20,6 @@ constexpr int buttonsAcrossScreen = 6;
 // Captions are made for a screen of this width; on narrower ones they shrink with it.
 constexpr int fullCaptionWidth = 1024;
 constexpr int fullCaptionPoints = 11;
-
-// Wide enough to be seen from some metres, narrow enough to leave the picture alone.
-constexpr int focusFrameWidth = 4;
-constexpr QRgb focusFrameColour = 0xffffd400;
 
 int availableScreenWidth()
 {
@@ -59,8 +58,8 @@ CStretchBitmapButton::CStretchBitmapButton(const QString &name, QWidget *parent)
 // Only the size is needed now: most of the sixty bitmaps are not seen for a while, or never.
 void CStretchBitmapButton::setIconFromObjectNameBitmap()
 {
-    m_up = m_down = m_disabled = QPixmap();
-    const QSize whole = QImageReader(bitmapPath("_up.bmp"), bitmapFormat).size();
+    forgetPixmaps();
+    const QSize whole = QImageReader(resource("_up.bmp"), bitmapFormat).size();
     const int width = qMin(availableScreenWidth() / buttonsAcrossScreen, whole.width());
     const QSize size =
         whole.isValid() ? whole.scaled(width, whole.height(), Qt::KeepAspectRatio) : QSize(0, 0);
@@ -71,18 +70,21 @@ void CStretchBitmapButton::setIconFromObjectNameBitmap()
     update();
 }
 
-QString CStretchBitmapButton::bitmapPath(const char *ending) const
+void CStretchBitmapButton::forgetPixmaps()
+{
+    m_up = m_down = m_disabled = QPixmap();
+    m_pixels = QSize();
+}
+
+QString CStretchBitmapButton::resource(const char *ending) const
 {
     return ":res/" + m_name + ending;
 }
 
 void CStretchBitmapButton::createCaption()
 {
-    m_caption = new QLabel(this);
+    m_caption = new ButtonCaption(this);
     m_caption->setFont(captionTextFont());
-    m_caption->setWordWrap(true);
-    // Over the bitmap it is the window's text colour that can be read, not that of a common button.
-    m_caption->setForegroundRole(QPalette::WindowText);
     const Qt::LayoutDirection captionDirection = m_caption->layoutDirection();
 
     auto *picturePart = new QLabel;
@@ -109,15 +111,26 @@ void CStretchBitmapButton::setCaptionText(const QString &text)
 
 const QPixmap &CStretchBitmapButton::pixmapForState()
 {
+    // Another size, or a screen with other pixels.
+    const QSize pixels = size() * devicePixelRatioF();
+    if (m_pixels != pixels)
+        forgetPixmaps();
+    m_pixels = pixels;
     if (!isEnabled())
-        return loaded(&m_disabled, "_ds.bmp");
-    return isDown() ? loaded(&m_down, "_dw.bmp") : loaded(&m_up, "_up.bmp");
+        return loaded(&m_disabled, "_ds.bmp", PlateState::Disabled);
+    return isDown() ? loaded(&m_down, "_dw.bmp", PlateState::Down)
+                    : loaded(&m_up, "_up.bmp", PlateState::Up);
 }
 
-const QPixmap &CStretchBitmapButton::loaded(QPixmap *pixmap, const char *ending)
+// A bitmap of another size is drawn anew; one without a drawing is scaled.
+const QPixmap &CStretchBitmapButton::loaded(QPixmap *pixmap, const char *ending, PlateState state)
 {
-    if (pixmap->isNull() && pixmap->load(bitmapPath(ending), bitmapFormat))
-        *pixmap = pixmap->scaled(baseSize(), Qt::KeepAspectRatio, Qt::FastTransformation);
+    if (!pixmap->isNull() || !pixmap->load(resource(ending), bitmapFormat) || pixmap->size() == m_pixels)
+        return *pixmap;
+    const qreal scale = qreal(m_pixels.width()) / pixmap->width();
+    const QImage drawn = drawButton(resource(".svg"), pixmap->size(), state, scale);
+    *pixmap = drawn.isNull() ? pixmap->scaled(m_pixels, Qt::KeepAspectRatio, Qt::FastTransformation)
+                             : QPixmap::fromImage(drawn);
     return *pixmap;
 }
 
@@ -129,22 +142,12 @@ void CStretchBitmapButton::paintEvent(QPaintEvent *)
     const QPixmap &pixmap = pixmapForState();
     painter.drawPixmap(QRectF(0, 0, width(), height()), pixmap, QRectF(pixmap.rect()));
     if (m_focusedByKeyboard)
-        paintFocusFrame(painter);
+        paintFocusFrame(painter, rect());
 }
 
-void CStretchBitmapButton::paintFocusFrame(QPainter &painter) const
-{
-    const int inset = focusFrameWidth / 2;
-    painter.setPen(
-        QPen(QColor(focusFrameColour), focusFrameWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    painter.drawRect(rect().adjusted(inset, inset, -inset, -inset));
-}
-
-// Who presses with mouse or pen sees what was pressed; only who moves by keyboard needs to see where he is.
 void CStretchBitmapButton::focusInEvent(QFocusEvent *event)
 {
-    const Qt::FocusReason reason = event->reason();
-    if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason)
+    if (isByKeyboard(event->reason()))
         m_focusedByKeyboard = true;
     QPushButton::focusInEvent(event);
 }

@@ -5,12 +5,14 @@
 #include <QString>
 
 class QLabel;
+enum class PlateState;
 
 // A command button: a bitmap for its state, stretched over the whole button, and a caption over the right
 // three fifths of it. The bitmaps are the resources ":res/" + name + "_up.bmp" (normal), "_dw.bmp" (pressed)
 // and "_ds.bmp" (disabled); without them the button shrinks to nothing. The size follows from the bitmap and
-// the width of the primary screen at construction, so that six buttons always fit side by side. The button
-// starts hidden.
+// the width of the primary screen at construction, so that six buttons always fit side by side. Where that is
+// not the bitmap's own size in pixels of the screen, the drawing ":res/" + name + ".svg" is drawn anew for
+// it. The button starts hidden.
 class CStretchBitmapButton : public QPushButton
 {
     Q_OBJECT
@@ -33,15 +35,16 @@ protected:
 
 private:
     void createCaption();
-    QString bitmapPath(const char *ending) const;
+    QString resource(const char *ending) const;
+    void forgetPixmaps();
     const QPixmap &pixmapForState();
-    const QPixmap &loaded(QPixmap *pixmap, const char *ending);
-    void paintFocusFrame(QPainter &painter) const;
+    const QPixmap &loaded(QPixmap *pixmap, const char *ending, PlateState state);
 
     QLabel *m_caption = nullptr;
     QString m_name;
     QPixmap m_up; // null until it is painted, as the next two
     QPixmap m_down;
     QPixmap m_disabled;
+    QSize m_pixels; // of the three
     bool m_focusedByKeyboard = false;
 };

@@ -1,6 +1,7 @@
 // drawicons ART_FOLDER OUTPUT_FOLDER: draws the application's icons and the zoom cursor.
 
-#include "res/tools/svgart.h"
+#include "res/drawing/svg.h"
+#include "savepicture.h"
 
 #include <QBuffer>
 #include <QDataStream>

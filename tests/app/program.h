@@ -67,7 +67,8 @@ public:
     }
     static void click(const QPoint &point)
     {
-        xdotool({"mousemove", QString::number(point.x()), QString::number(point.y()), "click", "1"});
+        const QPoint pixel = point * qApp->devicePixelRatio();
+        xdotool({"mousemove", QString::number(pixel.x()), QString::number(pixel.y()), "click", "1"});
     }
     static void press(const QString &key) { xdotool({"key", key}); }
 
@@ -90,11 +91,13 @@ public:
     // Of the surroundings of a point: pictures of a page have dark letters.
     static int brightness(const QPoint &point)
     {
-        const QImage around = screen().copy(QRect(point - QPoint(4, 4), QSize(9, 9)));
+        const QPoint pixel = point * qApp->devicePixelRatio();
+        const QImage around = screen().copy(QRect(pixel - QPoint(4, 4), QSize(9, 9)));
         return qGray(around.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).pixel(0, 0));
     }
 
-    // The buttons' places, counted from the left.
+    // The buttons' places, counted from the left. All places are in the program's pixels, of which a scaled
+    // screen has fewer.
     static int width() { return QGuiApplication::primaryScreen()->size().width(); }
     static int height() { return QGuiApplication::primaryScreen()->size().height(); }
     static int buttonWidth() { return qMin(240, width() / 6); }
@@ -114,7 +117,7 @@ public:
     static char look(const QImage &image, const QPoint &button)
     {
         // At its right end neither drawing nor caption is in the way.
-        const QColor plate = image.pixelColor(button + QPoint(buttonWidth() / 2 - 8, 0));
+        const QColor plate = image.pixelColor((button + QPoint(buttonWidth() / 2 - 8, 0)) * image.devicePixelRatio());
         if (plate.value() < 20)
             return '.';
         return plate.hsvSaturation() > 60 ? 'E' : 'd';

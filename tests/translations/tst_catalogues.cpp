@@ -1,6 +1,7 @@
 #include "capture/selectdevicedlg.h"
 #include "dialog/pictoreldlg.h"
 #include "settings/setting.h"
+#include "util/desktop/look.h"
 #include "widgets/stretchbitmapbutton.h"
 
 #include <QAbstractButton>
@@ -94,6 +95,7 @@ class TestCatalogues : public QObject
 private slots:
     void initTestCase()
     {
+        applyLook();
         QStringList arguments{"-silent", "-no-obsolete", "-locations", "none"};
         for (const char *folder : {"app", "dialog", "capture", "widgets", "util", "settings"})
             arguments << PROJECT_FOLDER "/" + QString(folder);

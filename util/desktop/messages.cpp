@@ -24,6 +24,10 @@ void showCentred(QMessageBox &box)
     // Qt knows fewer languages than the program does.
     box.button(QMessageBox::Ok)->setText(Texts::ok());
     centreOnDesktop(&box);
+    // Only when it is shown does it fold a long text, for the screen as it is.
+    box.setModal(true);
+    box.show();
+    moveToMiddle(&box);
     box.exec();
 }
 
