@@ -10,11 +10,19 @@ as_root() {
     fi
 }
 
+# The packages of a group of the list.
+packages_of() {
+    sed -n "/^\\[$1\\]/,/^\\[/ { /^[[:alnum:]]/p }" "$root/scripts/packages"
+}
+
+# install_missing GROUP...: what it takes to build and run, and the groups named beside.
 install_missing() {
-    local package missing=()
-    while read -r package; do
-        dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
-    done < <(grep -v '^#' "$root/scripts/packages")
+    local group package missing=()
+    for group in build run recommended screen "$@"; do
+        for package in $(packages_of "$group"); do
+            dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
+        done
+    done
     [ ${#missing[@]} -eq 0 ] && return
     echo "Installing: ${missing[*]}"
     as_root env DEBIAN_FRONTEND=noninteractive apt-get update -qq
