@@ -29,6 +29,17 @@ install_missing() {
     as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}"
 }
 
+# build PRESET
 build() {
-    (cd "$root" && cmake --preset release && cmake --build --preset release)
+    (cd "$root" && cmake --preset "$1" && cmake --build --preset "$1")
+}
+
+# start_screen WIDTHxHEIGHT: a virtual screen with a window manager in place of DISPLAY. The caller ends what it
+# started.
+start_screen() {
+    local number
+    coproc SCREEN { exec Xvfb -displayfd 1 -screen 0 "$1x24" -nolisten tcp -noreset 2>/dev/null; }
+    read -r number <&"${SCREEN[0]}"
+    export DISPLAY=:$number
+    openbox >/dev/null 2>&1 &
 }
