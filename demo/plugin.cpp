@@ -16,5 +16,5 @@ gboolean registerAll(GstPlugin *plugin)
 } // namespace
 
 GST_PLUGIN_DEFINE(GST_VERSION_MAJOR, GST_VERSION_MINOR, orvanedemo,
-                  "A camera and a microphone for machines without", registerAll, "1.0.0", "MIT/X11", "Orvane",
-                  "https://localhost")
+                  "A camera and a microphone for machines without", registerAll, ORVANE_VERSION, "MIT/X11",
+                  "Orvane", "https://localhost")

@@ -1,4 +1,5 @@
-// drawicons ART_FOLDER OUTPUT_FOLDER: draws the application's icons and the zoom cursor.
+// drawicons ART_FOLDER OUTPUT_FOLDER SIZE...: draws the application's icons and the zoom cursor. Those of the
+// icon theme are made for each size in pixels, in the theme's folders.
 
 #include "res/drawing/svg.h"
 #include "savepicture.h"
@@ -22,11 +23,10 @@ QByteArray png(const QImage &picture)
 }
 
 // An icon file with one PNG entry a size. Qt's own writer knows one size only.
-void saveIcon(const QString &drawing, const QString &file)
+void saveIcon(const QString &drawing, const QVector<int> &sides, const QString &file)
 {
     constexpr int HeaderBytes = 6;
     constexpr int EntryBytes = 16;
-    const QVector<int> sides{16, 24, 32, 48, 64, 128, 256};
     QByteArray directory;
     QByteArray pictures;
     QDataStream out(&directory, QIODevice::WriteOnly);
@@ -52,13 +52,18 @@ int main(int argc, char *argv[])
 {
     const QGuiApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() != 3)
-        qFatal("usage: drawicons ART_FOLDER OUTPUT_FOLDER");
+    if (arguments.size() < 4)
+        qFatal("usage: drawicons ART_FOLDER OUTPUT_FOLDER SIZE...");
     const QString appIcon = arguments[1] + "/appicon.svg";
     const QString &output = arguments[2];
-    saveIcon(appIcon, output + "/Pictorel.ico");
+    QVector<int> sides;
+    for (const QString &size : arguments.mid(3))
+        sides.append(size.toInt());
+    saveIcon(appIcon, sides, output + "/Pictorel.ico");
     savePicture(drawSvg(appIcon, 64), output + "/Pictorel.png");
     savePicture(drawSvg(appIcon, 256), output + "/appicon.png");
+    for (const int side : sides)
+        savePicture(drawSvg(appIcon, side), output + QString("/hicolor/%1x%1/apps/orvane.png").arg(side));
     savePicture(drawSvg(arguments[1] + "/zoom_cursor.svg", 48), output + "/zoom_cursor.png");
     return 0;
 }

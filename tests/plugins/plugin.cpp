@@ -16,4 +16,4 @@ static gboolean registerAll(GstPlugin *plugin)
 }
 
 GST_PLUGIN_DEFINE(GST_VERSION_MAJOR, GST_VERSION_MINOR, orvanetest, "Cameras and microphones for tests",
-                  registerAll, "1.0.0", "MIT/X11", "Orvane", "https://localhost")
+                  registerAll, ORVANE_VERSION, "MIT/X11", "Orvane", "https://localhost")
