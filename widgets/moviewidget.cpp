@@ -11,6 +11,8 @@
 #include <phonon/MediaSource>
 #include <phonon/VideoWidget>
 
+#include <utility>
+
 namespace
 {
 // Time enough for the first picture to be on screen.
@@ -48,6 +50,7 @@ bool MovieWidget::Create(const QString &path)
         setUpPlayer();
     forgetWish();
     endStart();
+    m_isToRewind = false;
     load(Phonon::MediaSource(QUrl::fromLocalFile(path)));
     m_created = true;
     if (isVisible())
@@ -116,8 +119,16 @@ void MovieWidget::Stop()
         stop();
         return;
     }
+    m_isToRewind = true;
     Phonon::VideoPlayer::pause();
-    seek(0);
+    rewind();
+}
+
+// Not before it is held: else the player takes itself for playing from then on.
+void MovieWidget::rewind()
+{
+    if (isPaused() && std::exchange(m_isToRewind, false))
+        seek(0);
 }
 
 void MovieWidget::Reset()
@@ -152,6 +163,7 @@ void MovieWidget::followWish()
 {
     if (isPlaying())
         endStart();
+    rewind();
     if (m_isPlayWanted && !m_isStarting && isPaused())
         start();
     else if (!m_isPlayWanted && isPlaying() && !m_firstPicture->isActive())

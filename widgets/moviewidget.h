@@ -43,6 +43,7 @@ private:
     void start();
     void restart();
     void endStart();
+    void rewind();
     void followWish();
     void forgetWish();
 
@@ -52,5 +53,6 @@ private:
     bool m_created = false;
     bool m_isPlayWanted = false;
     bool m_isStarting = false; // told to play, and does not yet
+    bool m_isToRewind = false; // was stopped, and is not held yet
     int m_restarts = 0;        // of this start
 };

@@ -152,7 +152,8 @@ private slots:
         movie.Play();
         QTRY_VERIFY(movie.currentTime() > 200);
         movie.Stop();
-        QTRY_VERIFY(!movie.isPlaying() && movie.currentTime() == 0);
+        QTRY_VERIFY2(!movie.isPlaying() && movie.currentTime() == 0,
+                     qPrintable(QString("at %1").arg(movie.currentTime())));
         movie.Play();
         QVERIFY(finished.wait(10000));
     }
