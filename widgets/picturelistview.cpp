@@ -1,8 +1,8 @@
 #include "widgets/picturelistview.h"
 
+#include "util/desktop/focusframe.h"
 #include "util/files/capturenames.h"
 #include "util/webcamutil.h"
-#include "util/desktop/focusframe.h"
 #include "widgets/picturefile.h"
 #include "widgets/pictureloader.h"
 #include "widgets/thumbnaildelegate.h"
@@ -41,7 +41,7 @@ QString timeOfCapture(const QString &name)
 
 } // namespace
 
-PictureListView::PictureListView(QWidget *parent) : QListWidget(parent), m_loader(new PictureLoader(this))
+PictureListView::PictureListView(QWidget *parent) : SwipedList(parent), m_loader(new PictureLoader(this))
 {
     setViewMode(QListView::IconMode);
     setSpacing(itemSpacing);

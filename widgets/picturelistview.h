@@ -1,8 +1,9 @@
 #pragma once
 
+#include "widgets/swipedlist.h"
+
 #include <QHash>
 #include <QIcon>
-#include <QListWidget>
 #include <QPersistentModelIndex>
 #include <QStringList>
 #include <QVector>
@@ -13,7 +14,7 @@ class PictureLoader;
 // order of choosing, or one movie. Names are bare file names; a movie is named by its preview picture
 // ("...tmp.png"), and shown by its own (".mov"). Items stand at once with a grey picture and get their
 // thumbnail when it has been read in the background.
-class PictureListView : public QListWidget
+class PictureListView : public SwipedList
 {
     Q_OBJECT
 

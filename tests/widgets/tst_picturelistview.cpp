@@ -1,6 +1,8 @@
 #include "tests/support/modalanswer.h"
 #include "widgets/picturelistview.h"
 
+#include <QScrollBar>
+#include <QScroller>
 #include <QtTest>
 
 class TestPictureListView : public QObject
@@ -63,6 +65,38 @@ private slots:
             QCOMPARE(list.item(row)->text(), names.at(row));
             QCOMPARE(list.item(row)->icon().actualSize({1000, 1000}), QSize(260, 195));
         }
+    }
+
+    void swipeScrollsAndATapChooses()
+    {
+        PictureListView list;
+        show(list, m_ten);
+        QScrollBar *place = list.horizontalScrollBar();
+        QVERIFY(place->maximum() > 500);
+        QWidget *strip = list.viewport();
+        QWindow *window = list.windowHandle();
+        for (const bool isHeldFirst : {false, true}) {
+            place->setValue(0);
+            QTest::mousePress(window, Qt::LeftButton, {}, {700, 100});
+            if (isHeldFirst) // for longer than a press is kept back
+                QTest::qWait(400);
+            for (int x = 680; x >= 500; x -= 20)
+                QTest::mouseMove(window, {x, 100}, 10);
+            QTest::mouseRelease(window, Qt::LeftButton, {}, {500, 100}, 10);
+            const int atRelease = place->value();
+            QVERIFY2(atRelease > 100, qPrintable(QString::number(atRelease)));
+            QTRY_VERIFY(place->value() > atRelease + 20); // runs on
+            QCOMPARE(list.selectionList(), QStringList());
+            QTRY_COMPARE(QScroller::scroller(strip)->state(), QScroller::Inactive);
+            QCOMPARE(list.selectionList(), QStringList());
+        }
+        click(list, {4, 5});
+        QCOMPARE(list.selectionList(), QStringList({m_ten[4], m_ten[5]}));
+        click(list, {4});
+        QCOMPARE(list.selectionList(), QStringList(m_ten[5]));
+        list.setMovieMode(true);
+        click(list, {1});
+        QCOMPARE(list.selectedItems().size(), 1);
     }
 
     void itemsMayVanishWhileTheyAreRead()
