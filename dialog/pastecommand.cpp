@@ -84,6 +84,7 @@ void CPictorelDlg::PutVXSPhoto()
         }
     }
     writeRequest(lines);
+    copyToClipboard(shownFiles());
 }
 
 void CPictorelDlg::PutVXSMovie()

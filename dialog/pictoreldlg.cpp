@@ -16,6 +16,7 @@
 #include <QGuiApplication>
 #include <QIcon>
 #include <QScreen>
+#include <QShortcut>
 #include <QTimer>
 
 namespace
@@ -179,6 +180,7 @@ void CPictorelDlg::SetLocalConnect()
     connect(m_returnTimer, &QTimer::timeout, this, &CPictorelDlg::reopenCamera);
     connect(m_followTimer, &QTimer::timeout, this, &CPictorelDlg::followFacts);
     connect(m_closeTimer, &QTimer::timeout, this, &CPictorelDlg::OnClose);
+    connect(new QShortcut(QKeySequence::Copy, this), &QShortcut::activated, this, &CPictorelDlg::OnCopy);
     followScreen();
 }
 

@@ -82,7 +82,8 @@ public slots:
     void OnSettingDlg();
     void OnZoom(PictureWidget *pict);
     void OnBack(PictureWidget *pict);
-    // Write a request for the whiteboard software; when that fails nothing is told.
+    // Write a request for the whiteboard software; when that fails nothing is told. Photos also go to the
+    // clipboard.
     void PutVXSMovie();
     void PutVXSPhoto();
     void OnVXS();
@@ -162,6 +163,9 @@ private:
     void showInPictureView(const QString &name, const QString &folder);
     void SetPictureListMode(const QStringList &names);
     void addTile(const QString &name, const QRect &place, int number, bool zoomable);
+    void OnCopy();
+    void copyToClipboard(const QStringList &paths);
+    QStringList shownFiles() const;
     void showMovie();
     void placeTiles();
     // Where listed files are: the list's folder, which is empty for the working folder.

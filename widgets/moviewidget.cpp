@@ -52,6 +52,7 @@ bool MovieWidget::Create(const QString &path)
     endStart();
     m_isToRewind = false;
     load(Phonon::MediaSource(QUrl::fromLocalFile(path)));
+    m_path = path;
     m_created = true;
     if (isVisible())
         showFirstPicture();

@@ -16,6 +16,8 @@ public:
 
     // Whether a movie was ever loaded.
     bool isCreated() const { return m_created; }
+    // The movie that was loaded last; empty before the first.
+    QString path() const { return m_path; }
 
     // Whether the movie was told to play, and neither to wait nor to stop since, nor came to its end: what
     // the player does follows a moment later.
@@ -50,6 +52,7 @@ private:
     QLabel *m_caption;
     QTimer *m_firstPicture; // runs from showing the movie until it is held
     QTimer *m_standstill;   // runs while it is starting, until it is given up
+    QString m_path;
     bool m_created = false;
     bool m_isPlayWanted = false;
     bool m_isStarting = false; // told to play, and does not yet

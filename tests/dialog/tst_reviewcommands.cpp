@@ -24,6 +24,7 @@ private:
     static void choose(const MainWindow &main, int row);
     static void checkList(const MainWindow &main, const QVector<Photo> &files);
     static QStringList takeRequest();
+    static QByteArray onClipboard(const QString &type);
 };
 
 // White is 255, an empty viewer 0.
@@ -59,6 +60,15 @@ QStringList TestReviewCommands::takeRequest()
     const QString text = QString::fromUtf8(file.readAll());
     file.remove();
     return text.endsWith('\n') ? text.chopped(1).split('\n') : QStringList{"cut: " + text};
+}
+
+// As another program finds it.
+QByteArray TestReviewCommands::onClipboard(const QString &type)
+{
+    QProcess reader;
+    reader.start("xclip", {"-selection", "clipboard", "-o", "-t", type});
+    static_cast<void>(QTest::qWaitFor([&] { return reader.state() == QProcess::NotRunning; }));
+    return reader.readAllStandardOutput();
 }
 
 void TestReviewCommands::gridPlaces()
@@ -164,9 +174,14 @@ void TestReviewCommands::photosOfAnyKindAreChosenShownAndPasted()
     QCOMPARE(main.window->focusWidget()->accessibleName(), QString("Back"));
     main.press("PutPhoto");
     QCOMPARE(takeRequest(), head + QStringList(files[8].name));
+    QCOMPARE(onClipboard("image/png"), files[8].contents);
+    QCOMPARE(QUrl(onClipboard("text/uri-list").trimmed()).toLocalFile(), working(files[8].name));
     main.tiles().first()->findChildren<CStretchBitmapButton *>().last()->setFocus(Qt::TabFocusReason);
     QTest::keyClick(main.window->focusWidget(), Qt::Key_Space);
     QCOMPARE(main.tiles().size(), 9);
+    QTest::keyClick(main.window->focusWidget(), Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(onClipboard("text/uri-list").count("file:///"), 9);
+    QCOMPARE(onClipboard("image/png"), QByteArray());
     QVERIFY(WebcamUtil::saveData(QDir::homePath())); // also what could not be read
     QCOMPARE(MainWindow::captures(), QStringList());
 }
@@ -196,6 +211,8 @@ void TestReviewCommands::moviesOfAnyKindAreWatchedAndPasted()
             QTRY_VERIFY(player->totalTime() > 0); // it is loaded
         main.window->OnVXS();
         QCOMPARE(takeRequest(), QStringList({"1", "XXX", WebcamUtil::getTemporaryPath(), "/" + movie}));
+        QTest::keyClick(main.window.get(), Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QUrl(onClipboard("text/uri-list").trimmed()).toLocalFile(), working(movie));
         main.press("MoviePlay");
         QCOMPARE(main.buttons(), QString("Live+ MoviePause+ List+ Close+"));
         if (row == 2) // it counts, even if a busy machine leaves seconds out
