@@ -9,6 +9,8 @@
 #include "util/webcamutil.h"
 #include "widgets/moviewidget.h"
 
+#include <QTimer>
+
 #include <phonon/MediaObject>
 
 static constexpr qint64 millisecondsPerSecond = 1000;
@@ -29,6 +31,7 @@ void CPictorelDlg::OnMovieStop()
     if (!facts().isMovieRunning() || isWaitingAlive())
         return;
     const Cause end = facts().movie.why;
+    QTimer::singleShot(0, m_movieView, &MovieWidget::prepare); // while the file is waited for
     if (m_liveView->isCreate())
         m_liveView->RecordStop();
     m_timerView->Stop();

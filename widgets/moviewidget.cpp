@@ -46,8 +46,7 @@ MovieWidget::MovieWidget(QWidget *parent)
 
 bool MovieWidget::Create(const QString &path)
 {
-    if (!m_created)
-        setUpPlayer();
+    prepare();
     forgetWish();
     endStart();
     m_isToRewind = false;
@@ -59,10 +58,12 @@ bool MovieWidget::Create(const QString &path)
     return true;
 }
 
-// Not before there is a movie: the first word with the player loads all of its machinery, which would take a
-// quarter of the program's start.
-void MovieWidget::setUpPlayer()
+// The first word with the player loads all of its machinery, which would take a quarter of the program's
+// start.
+void MovieWidget::prepare()
 {
+    if (std::exchange(m_isPrepared, true))
+        return;
     // Phonon measures the window for the picture before it knows the movie's size, and a square is what it
     // takes then. Given the whole widget, the sink keeps the movie's proportions itself.
     videoWidget()->setAspectRatio(Phonon::VideoWidget::AspectRatioWidget);

@@ -27,6 +27,8 @@ public:
     void pause() { disp(); }
 
 public slots:
+    // Makes the player, which takes some time, when a movie is soon to be loaded; Create() does it else.
+    void prepare();
     // Loads the movie; true, also when it turns out not to be playable.
     bool Create(const QString &path);
     void Release(); // nothing is to be released
@@ -40,7 +42,6 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    void setUpPlayer();
     void showFirstPicture();
     void start();
     void restart();
@@ -53,6 +54,7 @@ private:
     QTimer *m_firstPicture; // runs from showing the movie until it is held
     QTimer *m_standstill;   // runs while it is starting, until it is given up
     QString m_path;
+    bool m_isPrepared = false;
     bool m_created = false;
     bool m_isPlayWanted = false;
     bool m_isStarting = false; // told to play, and does not yet

@@ -67,10 +67,13 @@ public:
         QDir(WebcamUtil::getTemporaryPath()).removeRecursively();
         WebcamUtil::setTemporaryPath();
         writeFile(QDir::homePath() + "/.hollin_orvane.ini", "[General]\n" + settings.toUtf8());
+        LiveVideoData probe;
+        // An earlier window's are gone by then, and not taken away under this one.
+        if (!QTest::qWaitFor([&] { return probe.GetVideoDeviceList().isEmpty(); }, 3000))
+            qFatal("the test devices do not go");
         devices.camera("cam").name(camera).formats(formats).content(content);
         devices.microphone("mic").sound("silence");
         devices.write();
-        LiveVideoData probe;
         if (!QTest::qWaitFor([&] { return probe.GetVideoDeviceList() == QStringList(camera); }, 3000) ||
             !QTest::qWaitFor([&] { return probe.IsValidAudioDevice(); }, 3000))
             qFatal("the test devices are not listed");
