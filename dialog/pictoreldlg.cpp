@@ -2,9 +2,11 @@
 
 #include "capture/livevideowidget.h"
 #include "capture/timerwidget.h"
+#include "dialog/keyhelp.h"
 #include "dialog/waitemsgdlg.h"
 #include "settings/setting.h"
 #include "util/desktop/screenawake.h"
+#include "util/files/alivewait.h"
 #include "util/webcamutil.h"
 #include "widgets/moviewidget.h"
 #include "widgets/picturelistview.h"
@@ -16,6 +18,7 @@
 #include <QGuiApplication>
 #include <QIcon>
 #include <QScreen>
+#include <QShortcut>
 #include <QTimer>
 
 namespace
@@ -179,6 +182,9 @@ void CPictorelDlg::SetLocalConnect()
     connect(m_returnTimer, &QTimer::timeout, this, &CPictorelDlg::reopenCamera);
     connect(m_followTimer, &QTimer::timeout, this, &CPictorelDlg::followFacts);
     connect(m_closeTimer, &QTimer::timeout, this, &CPictorelDlg::OnClose);
+    auto *help = new QShortcut(Qt::Key_F1, this);
+    help->setAutoRepeat(false);
+    connect(help, &QShortcut::activated, this, &CPictorelDlg::showKeys);
     followScreen();
 }
 
@@ -193,6 +199,13 @@ bool CPictorelDlg::eventFilter(QObject *watched, QEvent *event)
         // one has been raised since.
         static_cast<QWidget *>(watched)->raise();
     return QWidget::eventFilter(watched, event);
+}
+
+// In the middle of a wait whatever closed it would only come afterwards.
+void CPictorelDlg::showKeys()
+{
+    if (!isWaitingAlive())
+        new KeyHelp(this);
 }
 
 void CPictorelDlg::SetPluginPath(const QString &dir)

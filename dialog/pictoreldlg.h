@@ -147,6 +147,7 @@ private:
     void showTakenPicture();
 
     // Commands.
+    void showKeys();
     bool selectVideoDevice();
     bool hasRoom();
     bool refuseOnFullDisk();
