@@ -2,9 +2,11 @@
 
 #include "capture/livevideowidget.h"
 #include "capture/timerwidget.h"
+#include "dialog/keyhelp.h"
 #include "dialog/waitemsgdlg.h"
 #include "settings/setting.h"
 #include "util/desktop/screenawake.h"
+#include "util/files/alivewait.h"
 #include "util/webcamutil.h"
 #include "widgets/moviewidget.h"
 #include "widgets/picturelistview.h"
@@ -181,6 +183,9 @@ void CPictorelDlg::SetLocalConnect()
     connect(m_followTimer, &QTimer::timeout, this, &CPictorelDlg::followFacts);
     connect(m_closeTimer, &QTimer::timeout, this, &CPictorelDlg::OnClose);
     connect(new QShortcut(QKeySequence::Copy, this), &QShortcut::activated, this, &CPictorelDlg::OnCopy);
+    auto *help = new QShortcut(Qt::Key_F1, this);
+    help->setAutoRepeat(false);
+    connect(help, &QShortcut::activated, this, &CPictorelDlg::showKeys);
     followScreen();
 }
 
@@ -195,6 +200,13 @@ bool CPictorelDlg::eventFilter(QObject *watched, QEvent *event)
         // one has been raised since.
         static_cast<QWidget *>(watched)->raise();
     return QWidget::eventFilter(watched, event);
+}
+
+// In the middle of a wait whatever closed it would only come afterwards.
+void CPictorelDlg::showKeys()
+{
+    if (!isWaitingAlive())
+        new KeyHelp(this);
 }
 
 void CPictorelDlg::SetPluginPath(const QString &dir)

@@ -148,6 +148,7 @@ private:
     void showTakenPicture();
 
     // Commands.
+    void showKeys();
     bool selectVideoDevice();
     bool hasRoom();
     bool refuseOnFullDisk();

@@ -131,6 +131,89 @@ Capture</source>
     </message>
 </context>
 <context>
+    <name>KeyHelp</name>
+    <message>
+        <source>Keys</source>
+        <translation>المفاتيح</translation>
+    </message>
+    <message>
+        <source>Shows this, until the next key or touch</source>
+        <translation>يعرض هذا حتى المفتاح أو اللمسة التالية</translation>
+    </message>
+    <message>
+        <source>To the next button</source>
+        <translation>إلى الزر التالي</translation>
+    </message>
+    <message>
+        <source>Back to the button before</source>
+        <translation>إلى الزر السابق</translation>
+    </message>
+    <message>
+        <source>Presses the button</source>
+        <translation>يضغط الزر</translation>
+    </message>
+    <message>
+        <source>From one to the next in the list</source>
+        <translation>من عنصر إلى آخر في القائمة</translation>
+    </message>
+    <message>
+        <source>Chooses in the list, or leaves out again</source>
+        <translation>يختار من القائمة أو يلغي الاختيار</translation>
+    </message>
+    <message>
+        <source>Live picture larger, smaller</source>
+        <translation>تكبير الصورة المباشرة، تصغيرها</translation>
+    </message>
+    <message>
+        <source>The whole live picture</source>
+        <translation>الصورة المباشرة كاملة</translation>
+    </message>
+    <message>
+        <source>Turns the live picture by a quarter</source>
+        <translation>يدير الصورة المباشرة ربع دورة</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>عجلة الفأرة</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, around the pointer</source>
+        <translation>تكبير أو تصغير حول المؤشر</translation>
+    </message>
+    <message>
+        <source>Two fingers</source>
+        <translation>إصبعان</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, between the fingers</source>
+        <translation>تكبير أو تصغير بين الإصبعين</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>السحب</translation>
+    </message>
+    <message>
+        <source>Moves the enlarged live picture</source>
+        <translation>يحرك الصورة المباشرة المكبرة</translation>
+    </message>
+    <message>
+        <source>Copies what is shown</source>
+        <translation>ينسخ ما هو معروض</translation>
+    </message>
+    <message>
+        <source>Goes back from a question or message</source>
+        <translation>يرجع من سؤال أو رسالة</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>ينهي البرنامج</translation>
+    </message>
+    <message>
+        <source>Space bar</source>
+        <translation>مفتاح المسافة</translation>
+    </message>
+</context>
+<context>
     <name>LiveVideoWidget</name>
     <message>
         <source>LIVE</source>

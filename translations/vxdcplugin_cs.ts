@@ -131,6 +131,89 @@ snímky</translation>
     </message>
 </context>
 <context>
+    <name>KeyHelp</name>
+    <message>
+        <source>Keys</source>
+        <translation>Klávesy</translation>
+    </message>
+    <message>
+        <source>Shows this, until the next key or touch</source>
+        <translation>Ukáže tento přehled do další klávesy nebo dotyku</translation>
+    </message>
+    <message>
+        <source>To the next button</source>
+        <translation>Na další tlačítko</translation>
+    </message>
+    <message>
+        <source>Back to the button before</source>
+        <translation>Zpět na předchozí tlačítko</translation>
+    </message>
+    <message>
+        <source>Presses the button</source>
+        <translation>Stiskne tlačítko</translation>
+    </message>
+    <message>
+        <source>From one to the next in the list</source>
+        <translation>V seznamu z položky na položku</translation>
+    </message>
+    <message>
+        <source>Chooses in the list, or leaves out again</source>
+        <translation>V seznamu vybere, nebo výběr zruší</translation>
+    </message>
+    <message>
+        <source>Live picture larger, smaller</source>
+        <translation>Živý obraz větší, menší</translation>
+    </message>
+    <message>
+        <source>The whole live picture</source>
+        <translation>Celý živý obraz</translation>
+    </message>
+    <message>
+        <source>Turns the live picture by a quarter</source>
+        <translation>Otočí živý obraz o čtvrt otáčky</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>Kolečko myši</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, around the pointer</source>
+        <translation>Větší nebo menší kolem ukazatele</translation>
+    </message>
+    <message>
+        <source>Two fingers</source>
+        <translation>Dva prsty</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, between the fingers</source>
+        <translation>Větší nebo menší mezi prsty</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Tažení</translation>
+    </message>
+    <message>
+        <source>Moves the enlarged live picture</source>
+        <translation>Posouvá zvětšený živý obraz</translation>
+    </message>
+    <message>
+        <source>Copies what is shown</source>
+        <translation>Zkopíruje, co je vidět</translation>
+    </message>
+    <message>
+        <source>Goes back from a question or message</source>
+        <translation>Zpět z dotazu nebo zprávy</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>Ukončí program</translation>
+    </message>
+    <message>
+        <source>Space bar</source>
+        <translation>Mezerník</translation>
+    </message>
+</context>
+<context>
     <name>LiveVideoWidget</name>
     <message>
         <source>LIVE</source>

@@ -131,6 +131,89 @@ optagelse</translation>
     </message>
 </context>
 <context>
+    <name>KeyHelp</name>
+    <message>
+        <source>Keys</source>
+        <translation>Taster</translation>
+    </message>
+    <message>
+        <source>Shows this, until the next key or touch</source>
+        <translation>Viser dette indtil næste tast eller berøring</translation>
+    </message>
+    <message>
+        <source>To the next button</source>
+        <translation>Til næste knap</translation>
+    </message>
+    <message>
+        <source>Back to the button before</source>
+        <translation>Tilbage til forrige knap</translation>
+    </message>
+    <message>
+        <source>Presses the button</source>
+        <translation>Trykker på knappen</translation>
+    </message>
+    <message>
+        <source>From one to the next in the list</source>
+        <translation>Fra den ene til den næste på listen</translation>
+    </message>
+    <message>
+        <source>Chooses in the list, or leaves out again</source>
+        <translation>Vælger på listen eller fravælger igen</translation>
+    </message>
+    <message>
+        <source>Live picture larger, smaller</source>
+        <translation>Livebillede større, mindre</translation>
+    </message>
+    <message>
+        <source>The whole live picture</source>
+        <translation>Hele livebilledet</translation>
+    </message>
+    <message>
+        <source>Turns the live picture by a quarter</source>
+        <translation>Drejer livebilledet en kvart omgang</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>Musehjul</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, around the pointer</source>
+        <translation>Større eller mindre omkring markøren</translation>
+    </message>
+    <message>
+        <source>Two fingers</source>
+        <translation>To fingre</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, between the fingers</source>
+        <translation>Større eller mindre mellem fingrene</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Træk</translation>
+    </message>
+    <message>
+        <source>Moves the enlarged live picture</source>
+        <translation>Flytter det forstørrede livebillede</translation>
+    </message>
+    <message>
+        <source>Copies what is shown</source>
+        <translation>Kopierer det, der vises</translation>
+    </message>
+    <message>
+        <source>Goes back from a question or message</source>
+        <translation>Tilbage fra et spørgsmål eller en besked</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>Afslutter programmet</translation>
+    </message>
+    <message>
+        <source>Space bar</source>
+        <translation>Mellemrum</translation>
+    </message>
+</context>
+<context>
     <name>LiveVideoWidget</name>
     <message>
         <source>LIVE</source>

@@ -131,6 +131,89 @@ aufnahme</translation>
     </message>
 </context>
 <context>
+    <name>KeyHelp</name>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>Shows this, until the next key or touch</source>
+        <translation>Zeigt dies bis zur nächsten Taste oder Berührung</translation>
+    </message>
+    <message>
+        <source>To the next button</source>
+        <translation>Zur nächsten Schaltfläche</translation>
+    </message>
+    <message>
+        <source>Back to the button before</source>
+        <translation>Zurück zur vorigen Schaltfläche</translation>
+    </message>
+    <message>
+        <source>Presses the button</source>
+        <translation>Drückt die Schaltfläche</translation>
+    </message>
+    <message>
+        <source>From one to the next in the list</source>
+        <translation>In der Liste von einem zum nächsten</translation>
+    </message>
+    <message>
+        <source>Chooses in the list, or leaves out again</source>
+        <translation>Wählt in der Liste aus oder wieder ab</translation>
+    </message>
+    <message>
+        <source>Live picture larger, smaller</source>
+        <translation>Livebild größer, kleiner</translation>
+    </message>
+    <message>
+        <source>The whole live picture</source>
+        <translation>Das ganze Livebild</translation>
+    </message>
+    <message>
+        <source>Turns the live picture by a quarter</source>
+        <translation>Dreht das Livebild um ein Viertel</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>Mausrad</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, around the pointer</source>
+        <translation>Größer oder kleiner, um den Zeiger herum</translation>
+    </message>
+    <message>
+        <source>Two fingers</source>
+        <translation>Zwei Finger</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, between the fingers</source>
+        <translation>Größer oder kleiner, zwischen den Fingern</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Ziehen</translation>
+    </message>
+    <message>
+        <source>Moves the enlarged live picture</source>
+        <translation>Verschiebt das vergrößerte Livebild</translation>
+    </message>
+    <message>
+        <source>Copies what is shown</source>
+        <translation>Kopiert, was zu sehen ist</translation>
+    </message>
+    <message>
+        <source>Goes back from a question or message</source>
+        <translation>Zurück aus einer Frage oder Meldung</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>Beendet das Programm</translation>
+    </message>
+    <message>
+        <source>Space bar</source>
+        <translation>Leertaste</translation>
+    </message>
+</context>
+<context>
     <name>LiveVideoWidget</name>
     <message>
         <source>LIVE</source>

@@ -131,6 +131,89 @@ Capture</source>
     </message>
 </context>
 <context>
+    <name>KeyHelp</name>
+    <message>
+        <source>Keys</source>
+        <translation>Πλήκτρα</translation>
+    </message>
+    <message>
+        <source>Shows this, until the next key or touch</source>
+        <translation>Δείχνει αυτά, ως το επόμενο πλήκτρο ή άγγιγμα</translation>
+    </message>
+    <message>
+        <source>To the next button</source>
+        <translation>Στο επόμενο κουμπί</translation>
+    </message>
+    <message>
+        <source>Back to the button before</source>
+        <translation>Πίσω στο προηγούμενο κουμπί</translation>
+    </message>
+    <message>
+        <source>Presses the button</source>
+        <translation>Πατά το κουμπί</translation>
+    </message>
+    <message>
+        <source>From one to the next in the list</source>
+        <translation>Από το ένα στο επόμενο στη λίστα</translation>
+    </message>
+    <message>
+        <source>Chooses in the list, or leaves out again</source>
+        <translation>Επιλέγει στη λίστα ή αφαιρεί ξανά</translation>
+    </message>
+    <message>
+        <source>Live picture larger, smaller</source>
+        <translation>Ζωντανή εικόνα μεγαλύτερη, μικρότερη</translation>
+    </message>
+    <message>
+        <source>The whole live picture</source>
+        <translation>Ολόκληρη η ζωντανή εικόνα</translation>
+    </message>
+    <message>
+        <source>Turns the live picture by a quarter</source>
+        <translation>Στρέφει τη ζωντανή εικόνα κατά ένα τέταρτο</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>Ροδέλα ποντικιού</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, around the pointer</source>
+        <translation>Μεγαλύτερη ή μικρότερη, γύρω από τον δείκτη</translation>
+    </message>
+    <message>
+        <source>Two fingers</source>
+        <translation>Δύο δάχτυλα</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, between the fingers</source>
+        <translation>Μεγαλύτερη ή μικρότερη, ανάμεσα στα δάχτυλα</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Σύρσιμο</translation>
+    </message>
+    <message>
+        <source>Moves the enlarged live picture</source>
+        <translation>Μετακινεί τη μεγεθυμένη ζωντανή εικόνα</translation>
+    </message>
+    <message>
+        <source>Copies what is shown</source>
+        <translation>Αντιγράφει ό,τι φαίνεται</translation>
+    </message>
+    <message>
+        <source>Goes back from a question or message</source>
+        <translation>Πίσω από μια ερώτηση ή ένα μήνυμα</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>Κλείνει το πρόγραμμα</translation>
+    </message>
+    <message>
+        <source>Space bar</source>
+        <translation>Πλήκτρο διαστήματος</translation>
+    </message>
+</context>
+<context>
     <name>LiveVideoWidget</name>
     <message>
         <source>LIVE</source>

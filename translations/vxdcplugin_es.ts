@@ -131,6 +131,89 @@ continua</translation>
     </message>
 </context>
 <context>
+    <name>KeyHelp</name>
+    <message>
+        <source>Keys</source>
+        <translation>Teclas</translation>
+    </message>
+    <message>
+        <source>Shows this, until the next key or touch</source>
+        <translation>Muestra esto hasta la siguiente tecla o toque</translation>
+    </message>
+    <message>
+        <source>To the next button</source>
+        <translation>Al botón siguiente</translation>
+    </message>
+    <message>
+        <source>Back to the button before</source>
+        <translation>Al botón anterior</translation>
+    </message>
+    <message>
+        <source>Presses the button</source>
+        <translation>Pulsa el botón</translation>
+    </message>
+    <message>
+        <source>From one to the next in the list</source>
+        <translation>De uno a otro en la lista</translation>
+    </message>
+    <message>
+        <source>Chooses in the list, or leaves out again</source>
+        <translation>Elige en la lista o deja de elegir</translation>
+    </message>
+    <message>
+        <source>Live picture larger, smaller</source>
+        <translation>Imagen en directo más grande, más pequeña</translation>
+    </message>
+    <message>
+        <source>The whole live picture</source>
+        <translation>La imagen en directo entera</translation>
+    </message>
+    <message>
+        <source>Turns the live picture by a quarter</source>
+        <translation>Gira la imagen en directo un cuarto de vuelta</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>Rueda del ratón</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, around the pointer</source>
+        <translation>Más grande o más pequeña, en torno al puntero</translation>
+    </message>
+    <message>
+        <source>Two fingers</source>
+        <translation>Dos dedos</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, between the fingers</source>
+        <translation>Más grande o más pequeña, entre los dedos</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Arrastrar</translation>
+    </message>
+    <message>
+        <source>Moves the enlarged live picture</source>
+        <translation>Mueve la imagen en directo ampliada</translation>
+    </message>
+    <message>
+        <source>Copies what is shown</source>
+        <translation>Copia lo que se ve</translation>
+    </message>
+    <message>
+        <source>Goes back from a question or message</source>
+        <translation>Vuelve de una pregunta o un mensaje</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>Cierra el programa</translation>
+    </message>
+    <message>
+        <source>Space bar</source>
+        <translation>Barra espaciadora</translation>
+    </message>
+</context>
+<context>
     <name>LiveVideoWidget</name>
     <message>
         <source>LIVE</source>

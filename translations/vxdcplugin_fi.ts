@@ -131,6 +131,89 @@ kuvaus</translation>
     </message>
 </context>
 <context>
+    <name>KeyHelp</name>
+    <message>
+        <source>Keys</source>
+        <translation>Näppäimet</translation>
+    </message>
+    <message>
+        <source>Shows this, until the next key or touch</source>
+        <translation>Näyttää tämän seuraavaan painallukseen asti</translation>
+    </message>
+    <message>
+        <source>To the next button</source>
+        <translation>Seuraavaan painikkeeseen</translation>
+    </message>
+    <message>
+        <source>Back to the button before</source>
+        <translation>Takaisin edelliseen painikkeeseen</translation>
+    </message>
+    <message>
+        <source>Presses the button</source>
+        <translation>Painaa painiketta</translation>
+    </message>
+    <message>
+        <source>From one to the next in the list</source>
+        <translation>Luettelossa yhdestä seuraavaan</translation>
+    </message>
+    <message>
+        <source>Chooses in the list, or leaves out again</source>
+        <translation>Valitsee luettelosta tai poistaa valinnan</translation>
+    </message>
+    <message>
+        <source>Live picture larger, smaller</source>
+        <translation>Suora kuva suuremmaksi, pienemmäksi</translation>
+    </message>
+    <message>
+        <source>The whole live picture</source>
+        <translation>Koko suora kuva</translation>
+    </message>
+    <message>
+        <source>Turns the live picture by a quarter</source>
+        <translation>Kääntää suoraa kuvaa neljänneskierroksen</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>Hiiren rulla</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, around the pointer</source>
+        <translation>Suuremmaksi tai pienemmäksi osoittimen ympäriltä</translation>
+    </message>
+    <message>
+        <source>Two fingers</source>
+        <translation>Kaksi sormea</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, between the fingers</source>
+        <translation>Suuremmaksi tai pienemmäksi sormien välistä</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Vetäminen</translation>
+    </message>
+    <message>
+        <source>Moves the enlarged live picture</source>
+        <translation>Siirtää suurennettua suoraa kuvaa</translation>
+    </message>
+    <message>
+        <source>Copies what is shown</source>
+        <translation>Kopioi sen, mitä näkyy</translation>
+    </message>
+    <message>
+        <source>Goes back from a question or message</source>
+        <translation>Takaisin kysymyksestä tai viestistä</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>Lopettaa ohjelman</translation>
+    </message>
+    <message>
+        <source>Space bar</source>
+        <translation>Välilyönti</translation>
+    </message>
+</context>
+<context>
     <name>LiveVideoWidget</name>
     <message>
         <source>LIVE</source>

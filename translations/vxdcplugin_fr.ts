@@ -131,6 +131,89 @@ en rafale</translation>
     </message>
 </context>
 <context>
+    <name>KeyHelp</name>
+    <message>
+        <source>Keys</source>
+        <translation>Touches</translation>
+    </message>
+    <message>
+        <source>Shows this, until the next key or touch</source>
+        <translation>Affiche ceci jusqu'au prochain appui</translation>
+    </message>
+    <message>
+        <source>To the next button</source>
+        <translation>Au bouton suivant</translation>
+    </message>
+    <message>
+        <source>Back to the button before</source>
+        <translation>Au bouton précédent</translation>
+    </message>
+    <message>
+        <source>Presses the button</source>
+        <translation>Appuie sur le bouton</translation>
+    </message>
+    <message>
+        <source>From one to the next in the list</source>
+        <translation>De l'un à l'autre dans la liste</translation>
+    </message>
+    <message>
+        <source>Chooses in the list, or leaves out again</source>
+        <translation>Choisit dans la liste, ou retire du choix</translation>
+    </message>
+    <message>
+        <source>Live picture larger, smaller</source>
+        <translation>Image en direct plus grande, plus petite</translation>
+    </message>
+    <message>
+        <source>The whole live picture</source>
+        <translation>Toute l'image en direct</translation>
+    </message>
+    <message>
+        <source>Turns the live picture by a quarter</source>
+        <translation>Tourne l'image en direct d'un quart de tour</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>Molette de la souris</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, around the pointer</source>
+        <translation>Plus grande ou plus petite, autour du pointeur</translation>
+    </message>
+    <message>
+        <source>Two fingers</source>
+        <translation>Deux doigts</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, between the fingers</source>
+        <translation>Plus grande ou plus petite, entre les doigts</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Glisser</translation>
+    </message>
+    <message>
+        <source>Moves the enlarged live picture</source>
+        <translation>Déplace l'image en direct agrandie</translation>
+    </message>
+    <message>
+        <source>Copies what is shown</source>
+        <translation>Copie ce qui est affiché</translation>
+    </message>
+    <message>
+        <source>Goes back from a question or message</source>
+        <translation>Quitte une question ou un message</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>Quitte le programme</translation>
+    </message>
+    <message>
+        <source>Space bar</source>
+        <translation>Barre d'espace</translation>
+    </message>
+</context>
+<context>
     <name>LiveVideoWidget</name>
     <message>
         <source>LIVE</source>

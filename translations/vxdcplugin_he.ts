@@ -131,6 +131,89 @@ Capture</source>
     </message>
 </context>
 <context>
+    <name>KeyHelp</name>
+    <message>
+        <source>Keys</source>
+        <translation>מקשים</translation>
+    </message>
+    <message>
+        <source>Shows this, until the next key or touch</source>
+        <translation>מציג את אלה עד המקש או המגע הבא</translation>
+    </message>
+    <message>
+        <source>To the next button</source>
+        <translation>אל הכפתור הבא</translation>
+    </message>
+    <message>
+        <source>Back to the button before</source>
+        <translation>חזרה אל הכפתור הקודם</translation>
+    </message>
+    <message>
+        <source>Presses the button</source>
+        <translation>לוחץ על הכפתור</translation>
+    </message>
+    <message>
+        <source>From one to the next in the list</source>
+        <translation>מפריט לפריט ברשימה</translation>
+    </message>
+    <message>
+        <source>Chooses in the list, or leaves out again</source>
+        <translation>בוחר ברשימה, או מבטל את הבחירה</translation>
+    </message>
+    <message>
+        <source>Live picture larger, smaller</source>
+        <translation>תמונה חיה גדולה יותר, קטנה יותר</translation>
+    </message>
+    <message>
+        <source>The whole live picture</source>
+        <translation>התמונה החיה כולה</translation>
+    </message>
+    <message>
+        <source>Turns the live picture by a quarter</source>
+        <translation>מסובב את התמונה החיה ברבע סיבוב</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>גלגל העכבר</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, around the pointer</source>
+        <translation>הגדלה או הקטנה סביב הסמן</translation>
+    </message>
+    <message>
+        <source>Two fingers</source>
+        <translation>שתי אצבעות</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, between the fingers</source>
+        <translation>הגדלה או הקטנה בין האצבעות</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>גרירה</translation>
+    </message>
+    <message>
+        <source>Moves the enlarged live picture</source>
+        <translation>מזיז את התמונה החיה המוגדלת</translation>
+    </message>
+    <message>
+        <source>Copies what is shown</source>
+        <translation>מעתיק את מה שמוצג</translation>
+    </message>
+    <message>
+        <source>Goes back from a question or message</source>
+        <translation>חזרה משאלה או מהודעה</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>סוגר את התוכנית</translation>
+    </message>
+    <message>
+        <source>Space bar</source>
+        <translation>מקש הרווח</translation>
+    </message>
+</context>
+<context>
     <name>LiveVideoWidget</name>
     <message>
         <source>LIVE</source>

@@ -131,6 +131,89 @@ Capture</source>
     </message>
 </context>
 <context>
+    <name>KeyHelp</name>
+    <message>
+        <source>Keys</source>
+        <translation>कुंजियाँ</translation>
+    </message>
+    <message>
+        <source>Shows this, until the next key or touch</source>
+        <translation>अगली कुंजी या स्पर्श तक इसे दिखाता है</translation>
+    </message>
+    <message>
+        <source>To the next button</source>
+        <translation>अगले बटन पर</translation>
+    </message>
+    <message>
+        <source>Back to the button before</source>
+        <translation>पिछले बटन पर वापस</translation>
+    </message>
+    <message>
+        <source>Presses the button</source>
+        <translation>बटन दबाता है</translation>
+    </message>
+    <message>
+        <source>From one to the next in the list</source>
+        <translation>सूची में एक से दूसरे पर</translation>
+    </message>
+    <message>
+        <source>Chooses in the list, or leaves out again</source>
+        <translation>सूची में चुनता है, या चुनाव हटाता है</translation>
+    </message>
+    <message>
+        <source>Live picture larger, smaller</source>
+        <translation>लाइव चित्र बड़ा, छोटा</translation>
+    </message>
+    <message>
+        <source>The whole live picture</source>
+        <translation>पूरा लाइव चित्र</translation>
+    </message>
+    <message>
+        <source>Turns the live picture by a quarter</source>
+        <translation>लाइव चित्र को चौथाई घुमाता है</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>माउस का पहिया</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, around the pointer</source>
+        <translation>बड़ा या छोटा, पॉइंटर के आसपास</translation>
+    </message>
+    <message>
+        <source>Two fingers</source>
+        <translation>दो उँगलियाँ</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, between the fingers</source>
+        <translation>बड़ा या छोटा, उँगलियों के बीच</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>खींचना</translation>
+    </message>
+    <message>
+        <source>Moves the enlarged live picture</source>
+        <translation>बड़े किए गए लाइव चित्र को खिसकाता है</translation>
+    </message>
+    <message>
+        <source>Copies what is shown</source>
+        <translation>जो दिख रहा है उसे कॉपी करता है</translation>
+    </message>
+    <message>
+        <source>Goes back from a question or message</source>
+        <translation>प्रश्न या संदेश से वापस</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>प्रोग्राम बंद करता है</translation>
+    </message>
+    <message>
+        <source>Space bar</source>
+        <translation>स्पेस बार</translation>
+    </message>
+</context>
+<context>
     <name>LiveVideoWidget</name>
     <message>
         <source>LIVE</source>

@@ -131,6 +131,89 @@ felvétel</translation>
     </message>
 </context>
 <context>
+    <name>KeyHelp</name>
+    <message>
+        <source>Keys</source>
+        <translation>Billentyűk</translation>
+    </message>
+    <message>
+        <source>Shows this, until the next key or touch</source>
+        <translation>Ezt mutatja a következő billentyűig vagy érintésig</translation>
+    </message>
+    <message>
+        <source>To the next button</source>
+        <translation>A következő gombra</translation>
+    </message>
+    <message>
+        <source>Back to the button before</source>
+        <translation>Vissza az előző gombra</translation>
+    </message>
+    <message>
+        <source>Presses the button</source>
+        <translation>Megnyomja a gombot</translation>
+    </message>
+    <message>
+        <source>From one to the next in the list</source>
+        <translation>A listában egyikről a másikra</translation>
+    </message>
+    <message>
+        <source>Chooses in the list, or leaves out again</source>
+        <translation>Kiválaszt a listában, vagy mégsem</translation>
+    </message>
+    <message>
+        <source>Live picture larger, smaller</source>
+        <translation>Élő kép nagyobb, kisebb</translation>
+    </message>
+    <message>
+        <source>The whole live picture</source>
+        <translation>A teljes élő kép</translation>
+    </message>
+    <message>
+        <source>Turns the live picture by a quarter</source>
+        <translation>Negyed fordulattal elforgatja az élő képet</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>Egérgörgő</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, around the pointer</source>
+        <translation>Nagyobb vagy kisebb, a mutató körül</translation>
+    </message>
+    <message>
+        <source>Two fingers</source>
+        <translation>Két ujj</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, between the fingers</source>
+        <translation>Nagyobb vagy kisebb, az ujjak között</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Húzás</translation>
+    </message>
+    <message>
+        <source>Moves the enlarged live picture</source>
+        <translation>Mozgatja a felnagyított élő képet</translation>
+    </message>
+    <message>
+        <source>Copies what is shown</source>
+        <translation>Másolja, ami látható</translation>
+    </message>
+    <message>
+        <source>Goes back from a question or message</source>
+        <translation>Vissza kérdésből vagy üzenetből</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>Bezárja a programot</translation>
+    </message>
+    <message>
+        <source>Space bar</source>
+        <translation>Szóköz</translation>
+    </message>
+</context>
+<context>
     <name>LiveVideoWidget</name>
     <message>
         <source>LIVE</source>

@@ -131,6 +131,89 @@ beruntun</translation>
     </message>
 </context>
 <context>
+    <name>KeyHelp</name>
+    <message>
+        <source>Keys</source>
+        <translation>Tombol keyboard</translation>
+    </message>
+    <message>
+        <source>Shows this, until the next key or touch</source>
+        <translation>Menampilkan ini sampai tombol atau sentuhan berikutnya</translation>
+    </message>
+    <message>
+        <source>To the next button</source>
+        <translation>Ke tombol berikutnya</translation>
+    </message>
+    <message>
+        <source>Back to the button before</source>
+        <translation>Kembali ke tombol sebelumnya</translation>
+    </message>
+    <message>
+        <source>Presses the button</source>
+        <translation>Menekan tombol</translation>
+    </message>
+    <message>
+        <source>From one to the next in the list</source>
+        <translation>Dari satu ke berikutnya dalam daftar</translation>
+    </message>
+    <message>
+        <source>Chooses in the list, or leaves out again</source>
+        <translation>Memilih dalam daftar, atau batal memilih</translation>
+    </message>
+    <message>
+        <source>Live picture larger, smaller</source>
+        <translation>Gambar langsung diperbesar, diperkecil</translation>
+    </message>
+    <message>
+        <source>The whole live picture</source>
+        <translation>Seluruh gambar langsung</translation>
+    </message>
+    <message>
+        <source>Turns the live picture by a quarter</source>
+        <translation>Memutar gambar langsung seperempat putaran</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>Roda tetikus</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, around the pointer</source>
+        <translation>Lebih besar atau kecil, di sekitar penunjuk</translation>
+    </message>
+    <message>
+        <source>Two fingers</source>
+        <translation>Dua jari</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, between the fingers</source>
+        <translation>Lebih besar atau kecil, di antara jari</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Seret</translation>
+    </message>
+    <message>
+        <source>Moves the enlarged live picture</source>
+        <translation>Menggeser gambar langsung yang diperbesar</translation>
+    </message>
+    <message>
+        <source>Copies what is shown</source>
+        <translation>Menyalin yang ditampilkan</translation>
+    </message>
+    <message>
+        <source>Goes back from a question or message</source>
+        <translation>Kembali dari pertanyaan atau pesan</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>Menutup program</translation>
+    </message>
+    <message>
+        <source>Space bar</source>
+        <translation>Bilah spasi</translation>
+    </message>
+</context>
+<context>
     <name>LiveVideoWidget</name>
     <message>
         <source>LIVE</source>

@@ -131,6 +131,89 @@ continuo</translation>
     </message>
 </context>
 <context>
+    <name>KeyHelp</name>
+    <message>
+        <source>Keys</source>
+        <translation>Tasti</translation>
+    </message>
+    <message>
+        <source>Shows this, until the next key or touch</source>
+        <translation>Mostra questo fino al prossimo tasto o tocco</translation>
+    </message>
+    <message>
+        <source>To the next button</source>
+        <translation>Al pulsante successivo</translation>
+    </message>
+    <message>
+        <source>Back to the button before</source>
+        <translation>Al pulsante precedente</translation>
+    </message>
+    <message>
+        <source>Presses the button</source>
+        <translation>Preme il pulsante</translation>
+    </message>
+    <message>
+        <source>From one to the next in the list</source>
+        <translation>Dall'uno all'altro nell'elenco</translation>
+    </message>
+    <message>
+        <source>Chooses in the list, or leaves out again</source>
+        <translation>Sceglie nell'elenco, o toglie la scelta</translation>
+    </message>
+    <message>
+        <source>Live picture larger, smaller</source>
+        <translation>Immagine dal vivo più grande, più piccola</translation>
+    </message>
+    <message>
+        <source>The whole live picture</source>
+        <translation>L'immagine dal vivo intera</translation>
+    </message>
+    <message>
+        <source>Turns the live picture by a quarter</source>
+        <translation>Gira l'immagine dal vivo di un quarto</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>Rotellina del mouse</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, around the pointer</source>
+        <translation>Più grande o più piccola, attorno al puntatore</translation>
+    </message>
+    <message>
+        <source>Two fingers</source>
+        <translation>Due dita</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, between the fingers</source>
+        <translation>Più grande o più piccola, tra le dita</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Trascinare</translation>
+    </message>
+    <message>
+        <source>Moves the enlarged live picture</source>
+        <translation>Sposta l'immagine dal vivo ingrandita</translation>
+    </message>
+    <message>
+        <source>Copies what is shown</source>
+        <translation>Copia ciò che si vede</translation>
+    </message>
+    <message>
+        <source>Goes back from a question or message</source>
+        <translation>Torna indietro da una domanda o da un messaggio</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>Chiude il programma</translation>
+    </message>
+    <message>
+        <source>Space bar</source>
+        <translation>Barra spaziatrice</translation>
+    </message>
+</context>
+<context>
     <name>LiveVideoWidget</name>
     <message>
         <source>LIVE</source>

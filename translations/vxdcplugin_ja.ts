@@ -131,6 +131,89 @@ Capture</source>
     </message>
 </context>
 <context>
+    <name>KeyHelp</name>
+    <message>
+        <source>Keys</source>
+        <translation>キー操作</translation>
+    </message>
+    <message>
+        <source>Shows this, until the next key or touch</source>
+        <translation>次にキーを押すか触れるまで、これを表示</translation>
+    </message>
+    <message>
+        <source>To the next button</source>
+        <translation>次のボタンへ</translation>
+    </message>
+    <message>
+        <source>Back to the button before</source>
+        <translation>前のボタンへ</translation>
+    </message>
+    <message>
+        <source>Presses the button</source>
+        <translation>ボタンを押す</translation>
+    </message>
+    <message>
+        <source>From one to the next in the list</source>
+        <translation>一覧で隣へ移る</translation>
+    </message>
+    <message>
+        <source>Chooses in the list, or leaves out again</source>
+        <translation>一覧で選ぶ、または選択をやめる</translation>
+    </message>
+    <message>
+        <source>Live picture larger, smaller</source>
+        <translation>ライブ映像を拡大、縮小</translation>
+    </message>
+    <message>
+        <source>The whole live picture</source>
+        <translation>ライブ映像の全体</translation>
+    </message>
+    <message>
+        <source>Turns the live picture by a quarter</source>
+        <translation>ライブ映像を90度回す</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>マウスホイール</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, around the pointer</source>
+        <translation>ポインターを中心に拡大または縮小</translation>
+    </message>
+    <message>
+        <source>Two fingers</source>
+        <translation>2本の指</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, between the fingers</source>
+        <translation>指の間を拡大または縮小</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>ドラッグ</translation>
+    </message>
+    <message>
+        <source>Moves the enlarged live picture</source>
+        <translation>拡大したライブ映像を動かす</translation>
+    </message>
+    <message>
+        <source>Copies what is shown</source>
+        <translation>表示中のものをコピー</translation>
+    </message>
+    <message>
+        <source>Goes back from a question or message</source>
+        <translation>質問やメッセージから戻る</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>プログラムを終了</translation>
+    </message>
+    <message>
+        <source>Space bar</source>
+        <translation>スペースキー</translation>
+    </message>
+</context>
+<context>
     <name>LiveVideoWidget</name>
     <message>
         <source>LIVE</source>

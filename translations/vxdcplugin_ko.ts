@@ -131,6 +131,89 @@ Capture</source>
     </message>
 </context>
 <context>
+    <name>KeyHelp</name>
+    <message>
+        <source>Keys</source>
+        <translation>키</translation>
+    </message>
+    <message>
+        <source>Shows this, until the next key or touch</source>
+        <translation>다음 키를 누르거나 화면을 만질 때까지 표시</translation>
+    </message>
+    <message>
+        <source>To the next button</source>
+        <translation>다음 버튼으로</translation>
+    </message>
+    <message>
+        <source>Back to the button before</source>
+        <translation>이전 버튼으로</translation>
+    </message>
+    <message>
+        <source>Presses the button</source>
+        <translation>버튼 누르기</translation>
+    </message>
+    <message>
+        <source>From one to the next in the list</source>
+        <translation>목록에서 옆 항목으로</translation>
+    </message>
+    <message>
+        <source>Chooses in the list, or leaves out again</source>
+        <translation>목록에서 선택하거나 선택 취소</translation>
+    </message>
+    <message>
+        <source>Live picture larger, smaller</source>
+        <translation>실시간 화면 확대, 축소</translation>
+    </message>
+    <message>
+        <source>The whole live picture</source>
+        <translation>실시간 화면 전체</translation>
+    </message>
+    <message>
+        <source>Turns the live picture by a quarter</source>
+        <translation>실시간 화면을 90도 돌리기</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>마우스 휠</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, around the pointer</source>
+        <translation>포인터를 중심으로 확대 또는 축소</translation>
+    </message>
+    <message>
+        <source>Two fingers</source>
+        <translation>두 손가락</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, between the fingers</source>
+        <translation>손가락 사이를 확대 또는 축소</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>끌기</translation>
+    </message>
+    <message>
+        <source>Moves the enlarged live picture</source>
+        <translation>확대된 실시간 화면 옮기기</translation>
+    </message>
+    <message>
+        <source>Copies what is shown</source>
+        <translation>보이는 것을 복사</translation>
+    </message>
+    <message>
+        <source>Goes back from a question or message</source>
+        <translation>질문이나 메시지에서 돌아가기</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>프로그램 종료</translation>
+    </message>
+    <message>
+        <source>Space bar</source>
+        <translation>스페이스 바</translation>
+    </message>
+</context>
+<context>
     <name>LiveVideoWidget</name>
     <message>
         <source>LIVE</source>

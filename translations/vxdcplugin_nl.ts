@@ -131,6 +131,89 @@ opname</translation>
     </message>
 </context>
 <context>
+    <name>KeyHelp</name>
+    <message>
+        <source>Keys</source>
+        <translation>Toetsen</translation>
+    </message>
+    <message>
+        <source>Shows this, until the next key or touch</source>
+        <translation>Toont dit tot de volgende toets of aanraking</translation>
+    </message>
+    <message>
+        <source>To the next button</source>
+        <translation>Naar de volgende knop</translation>
+    </message>
+    <message>
+        <source>Back to the button before</source>
+        <translation>Terug naar de vorige knop</translation>
+    </message>
+    <message>
+        <source>Presses the button</source>
+        <translation>Drukt op de knop</translation>
+    </message>
+    <message>
+        <source>From one to the next in the list</source>
+        <translation>In de lijst van de ene naar de volgende</translation>
+    </message>
+    <message>
+        <source>Chooses in the list, or leaves out again</source>
+        <translation>Kiest in de lijst, of laat weer weg</translation>
+    </message>
+    <message>
+        <source>Live picture larger, smaller</source>
+        <translation>Livebeeld groter, kleiner</translation>
+    </message>
+    <message>
+        <source>The whole live picture</source>
+        <translation>Het hele livebeeld</translation>
+    </message>
+    <message>
+        <source>Turns the live picture by a quarter</source>
+        <translation>Draait het livebeeld een kwartslag</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>Muiswiel</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, around the pointer</source>
+        <translation>Groter of kleiner, rond de aanwijzer</translation>
+    </message>
+    <message>
+        <source>Two fingers</source>
+        <translation>Twee vingers</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, between the fingers</source>
+        <translation>Groter of kleiner, tussen de vingers</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Slepen</translation>
+    </message>
+    <message>
+        <source>Moves the enlarged live picture</source>
+        <translation>Verschuift het vergrote livebeeld</translation>
+    </message>
+    <message>
+        <source>Copies what is shown</source>
+        <translation>Kopieert wat te zien is</translation>
+    </message>
+    <message>
+        <source>Goes back from a question or message</source>
+        <translation>Terug uit een vraag of melding</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>Sluit het programma</translation>
+    </message>
+    <message>
+        <source>Space bar</source>
+        <translation>Spatiebalk</translation>
+    </message>
+</context>
+<context>
     <name>LiveVideoWidget</name>
     <message>
         <source>LIVE</source>

@@ -131,6 +131,89 @@ opptak</translation>
     </message>
 </context>
 <context>
+    <name>KeyHelp</name>
+    <message>
+        <source>Keys</source>
+        <translation>Taster</translation>
+    </message>
+    <message>
+        <source>Shows this, until the next key or touch</source>
+        <translation>Viser dette til neste tast eller berøring</translation>
+    </message>
+    <message>
+        <source>To the next button</source>
+        <translation>Til neste knapp</translation>
+    </message>
+    <message>
+        <source>Back to the button before</source>
+        <translation>Tilbake til forrige knapp</translation>
+    </message>
+    <message>
+        <source>Presses the button</source>
+        <translation>Trykker på knappen</translation>
+    </message>
+    <message>
+        <source>From one to the next in the list</source>
+        <translation>Fra den ene til den neste på listen</translation>
+    </message>
+    <message>
+        <source>Chooses in the list, or leaves out again</source>
+        <translation>Velger på listen, eller velger bort igjen</translation>
+    </message>
+    <message>
+        <source>Live picture larger, smaller</source>
+        <translation>Direktebilde større, mindre</translation>
+    </message>
+    <message>
+        <source>The whole live picture</source>
+        <translation>Hele direktebildet</translation>
+    </message>
+    <message>
+        <source>Turns the live picture by a quarter</source>
+        <translation>Dreier direktebildet en kvart omgang</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>Musehjul</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, around the pointer</source>
+        <translation>Større eller mindre, rundt pekeren</translation>
+    </message>
+    <message>
+        <source>Two fingers</source>
+        <translation>To fingre</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, between the fingers</source>
+        <translation>Større eller mindre, mellom fingrene</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Dra</translation>
+    </message>
+    <message>
+        <source>Moves the enlarged live picture</source>
+        <translation>Flytter det forstørrede direktebildet</translation>
+    </message>
+    <message>
+        <source>Copies what is shown</source>
+        <translation>Kopierer det som vises</translation>
+    </message>
+    <message>
+        <source>Goes back from a question or message</source>
+        <translation>Tilbake fra et spørsmål eller en melding</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>Avslutter programmet</translation>
+    </message>
+    <message>
+        <source>Space bar</source>
+        <translation>Mellomrom</translation>
+    </message>
+</context>
+<context>
     <name>LiveVideoWidget</name>
     <message>
         <source>LIVE</source>

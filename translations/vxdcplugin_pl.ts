@@ -131,6 +131,89 @@ seryjne</translation>
     </message>
 </context>
 <context>
+    <name>KeyHelp</name>
+    <message>
+        <source>Keys</source>
+        <translation>Klawisze</translation>
+    </message>
+    <message>
+        <source>Shows this, until the next key or touch</source>
+        <translation>Pokazuje to do następnego klawisza lub dotknięcia</translation>
+    </message>
+    <message>
+        <source>To the next button</source>
+        <translation>Do następnego przycisku</translation>
+    </message>
+    <message>
+        <source>Back to the button before</source>
+        <translation>Z powrotem do poprzedniego przycisku</translation>
+    </message>
+    <message>
+        <source>Presses the button</source>
+        <translation>Naciska przycisk</translation>
+    </message>
+    <message>
+        <source>From one to the next in the list</source>
+        <translation>Od jednego do następnego na liście</translation>
+    </message>
+    <message>
+        <source>Chooses in the list, or leaves out again</source>
+        <translation>Wybiera z listy albo cofa wybór</translation>
+    </message>
+    <message>
+        <source>Live picture larger, smaller</source>
+        <translation>Obraz na żywo większy, mniejszy</translation>
+    </message>
+    <message>
+        <source>The whole live picture</source>
+        <translation>Cały obraz na żywo</translation>
+    </message>
+    <message>
+        <source>Turns the live picture by a quarter</source>
+        <translation>Obraca obraz na żywo o ćwierć obrotu</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>Kółko myszy</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, around the pointer</source>
+        <translation>Większy lub mniejszy, wokół wskaźnika</translation>
+    </message>
+    <message>
+        <source>Two fingers</source>
+        <translation>Dwa palce</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, between the fingers</source>
+        <translation>Większy lub mniejszy, między palcami</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Przeciąganie</translation>
+    </message>
+    <message>
+        <source>Moves the enlarged live picture</source>
+        <translation>Przesuwa powiększony obraz na żywo</translation>
+    </message>
+    <message>
+        <source>Copies what is shown</source>
+        <translation>Kopiuje to, co widać</translation>
+    </message>
+    <message>
+        <source>Goes back from a question or message</source>
+        <translation>Wraca z pytania lub komunikatu</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>Kończy program</translation>
+    </message>
+    <message>
+        <source>Space bar</source>
+        <translation>Spacja</translation>
+    </message>
+</context>
+<context>
     <name>LiveVideoWidget</name>
     <message>
         <source>LIVE</source>

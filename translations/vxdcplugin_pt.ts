@@ -131,6 +131,89 @@ contínua</translation>
     </message>
 </context>
 <context>
+    <name>KeyHelp</name>
+    <message>
+        <source>Keys</source>
+        <translation>Teclas</translation>
+    </message>
+    <message>
+        <source>Shows this, until the next key or touch</source>
+        <translation>Mostra isto até à próxima tecla ou toque</translation>
+    </message>
+    <message>
+        <source>To the next button</source>
+        <translation>Para o botão seguinte</translation>
+    </message>
+    <message>
+        <source>Back to the button before</source>
+        <translation>De volta ao botão anterior</translation>
+    </message>
+    <message>
+        <source>Presses the button</source>
+        <translation>Carrega no botão</translation>
+    </message>
+    <message>
+        <source>From one to the next in the list</source>
+        <translation>De um para o outro na lista</translation>
+    </message>
+    <message>
+        <source>Chooses in the list, or leaves out again</source>
+        <translation>Escolhe na lista, ou retira a escolha</translation>
+    </message>
+    <message>
+        <source>Live picture larger, smaller</source>
+        <translation>Imagem ao vivo maior, menor</translation>
+    </message>
+    <message>
+        <source>The whole live picture</source>
+        <translation>A imagem ao vivo inteira</translation>
+    </message>
+    <message>
+        <source>Turns the live picture by a quarter</source>
+        <translation>Roda a imagem ao vivo um quarto de volta</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>Roda do rato</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, around the pointer</source>
+        <translation>Maior ou menor, em torno do ponteiro</translation>
+    </message>
+    <message>
+        <source>Two fingers</source>
+        <translation>Dois dedos</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, between the fingers</source>
+        <translation>Maior ou menor, entre os dedos</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Arrastar</translation>
+    </message>
+    <message>
+        <source>Moves the enlarged live picture</source>
+        <translation>Move a imagem ao vivo ampliada</translation>
+    </message>
+    <message>
+        <source>Copies what is shown</source>
+        <translation>Copia o que se vê</translation>
+    </message>
+    <message>
+        <source>Goes back from a question or message</source>
+        <translation>Volta de uma pergunta ou mensagem</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>Fecha o programa</translation>
+    </message>
+    <message>
+        <source>Space bar</source>
+        <translation>Barra de espaços</translation>
+    </message>
+</context>
+<context>
     <name>LiveVideoWidget</name>
     <message>
         <source>LIVE</source>

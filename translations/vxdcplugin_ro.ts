@@ -131,6 +131,89 @@ continuă</translation>
     </message>
 </context>
 <context>
+    <name>KeyHelp</name>
+    <message>
+        <source>Keys</source>
+        <translation>Taste</translation>
+    </message>
+    <message>
+        <source>Shows this, until the next key or touch</source>
+        <translation>Arată acestea până la următoarea tastă sau atingere</translation>
+    </message>
+    <message>
+        <source>To the next button</source>
+        <translation>La butonul următor</translation>
+    </message>
+    <message>
+        <source>Back to the button before</source>
+        <translation>Înapoi la butonul anterior</translation>
+    </message>
+    <message>
+        <source>Presses the button</source>
+        <translation>Apasă butonul</translation>
+    </message>
+    <message>
+        <source>From one to the next in the list</source>
+        <translation>De la unul la altul în listă</translation>
+    </message>
+    <message>
+        <source>Chooses in the list, or leaves out again</source>
+        <translation>Alege din listă sau renunță la alegere</translation>
+    </message>
+    <message>
+        <source>Live picture larger, smaller</source>
+        <translation>Imagine în direct mai mare, mai mică</translation>
+    </message>
+    <message>
+        <source>The whole live picture</source>
+        <translation>Toată imaginea în direct</translation>
+    </message>
+    <message>
+        <source>Turns the live picture by a quarter</source>
+        <translation>Rotește imaginea în direct cu un sfert</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>Rotița mausului</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, around the pointer</source>
+        <translation>Mai mare sau mai mică, în jurul cursorului</translation>
+    </message>
+    <message>
+        <source>Two fingers</source>
+        <translation>Două degete</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, between the fingers</source>
+        <translation>Mai mare sau mai mică, între degete</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Tragere</translation>
+    </message>
+    <message>
+        <source>Moves the enlarged live picture</source>
+        <translation>Mută imaginea în direct mărită</translation>
+    </message>
+    <message>
+        <source>Copies what is shown</source>
+        <translation>Copiază ce se vede</translation>
+    </message>
+    <message>
+        <source>Goes back from a question or message</source>
+        <translation>Înapoi dintr-o întrebare sau un mesaj</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>Închide programul</translation>
+    </message>
+    <message>
+        <source>Space bar</source>
+        <translation>Bara de spațiu</translation>
+    </message>
+</context>
+<context>
     <name>LiveVideoWidget</name>
     <message>
         <source>LIVE</source>

@@ -131,6 +131,89 @@ Capture</source>
     </message>
 </context>
 <context>
+    <name>KeyHelp</name>
+    <message>
+        <source>Keys</source>
+        <translation>Клавиши</translation>
+    </message>
+    <message>
+        <source>Shows this, until the next key or touch</source>
+        <translation>Показывает это до следующей клавиши или касания</translation>
+    </message>
+    <message>
+        <source>To the next button</source>
+        <translation>К следующей кнопке</translation>
+    </message>
+    <message>
+        <source>Back to the button before</source>
+        <translation>Назад к предыдущей кнопке</translation>
+    </message>
+    <message>
+        <source>Presses the button</source>
+        <translation>Нажимает кнопку</translation>
+    </message>
+    <message>
+        <source>From one to the next in the list</source>
+        <translation>В списке от одного к другому</translation>
+    </message>
+    <message>
+        <source>Chooses in the list, or leaves out again</source>
+        <translation>Выбирает в списке или снимает выбор</translation>
+    </message>
+    <message>
+        <source>Live picture larger, smaller</source>
+        <translation>Живое изображение крупнее, мельче</translation>
+    </message>
+    <message>
+        <source>The whole live picture</source>
+        <translation>Живое изображение целиком</translation>
+    </message>
+    <message>
+        <source>Turns the live picture by a quarter</source>
+        <translation>Поворачивает изображение на четверть оборота</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>Колесо мыши</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, around the pointer</source>
+        <translation>Крупнее или мельче, вокруг указателя</translation>
+    </message>
+    <message>
+        <source>Two fingers</source>
+        <translation>Два пальца</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, between the fingers</source>
+        <translation>Крупнее или мельче, между пальцами</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Перетаскивание</translation>
+    </message>
+    <message>
+        <source>Moves the enlarged live picture</source>
+        <translation>Сдвигает увеличенное изображение</translation>
+    </message>
+    <message>
+        <source>Copies what is shown</source>
+        <translation>Копирует то, что показано</translation>
+    </message>
+    <message>
+        <source>Goes back from a question or message</source>
+        <translation>Назад из вопроса или сообщения</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>Закрывает программу</translation>
+    </message>
+    <message>
+        <source>Space bar</source>
+        <translation>Пробел</translation>
+    </message>
+</context>
+<context>
     <name>LiveVideoWidget</name>
     <message>
         <source>LIVE</source>

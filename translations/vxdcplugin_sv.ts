@@ -131,6 +131,89 @@ tagning</translation>
     </message>
 </context>
 <context>
+    <name>KeyHelp</name>
+    <message>
+        <source>Keys</source>
+        <translation>Tangenter</translation>
+    </message>
+    <message>
+        <source>Shows this, until the next key or touch</source>
+        <translation>Visar detta till nästa tangent eller beröring</translation>
+    </message>
+    <message>
+        <source>To the next button</source>
+        <translation>Till nästa knapp</translation>
+    </message>
+    <message>
+        <source>Back to the button before</source>
+        <translation>Tillbaka till förra knappen</translation>
+    </message>
+    <message>
+        <source>Presses the button</source>
+        <translation>Trycker på knappen</translation>
+    </message>
+    <message>
+        <source>From one to the next in the list</source>
+        <translation>Från den ena till nästa i listan</translation>
+    </message>
+    <message>
+        <source>Chooses in the list, or leaves out again</source>
+        <translation>Väljer i listan, eller väljer bort igen</translation>
+    </message>
+    <message>
+        <source>Live picture larger, smaller</source>
+        <translation>Livebild större, mindre</translation>
+    </message>
+    <message>
+        <source>The whole live picture</source>
+        <translation>Hela livebilden</translation>
+    </message>
+    <message>
+        <source>Turns the live picture by a quarter</source>
+        <translation>Vrider livebilden ett kvarts varv</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>Mushjul</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, around the pointer</source>
+        <translation>Större eller mindre, kring pekaren</translation>
+    </message>
+    <message>
+        <source>Two fingers</source>
+        <translation>Två fingrar</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, between the fingers</source>
+        <translation>Större eller mindre, mellan fingrarna</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Dra</translation>
+    </message>
+    <message>
+        <source>Moves the enlarged live picture</source>
+        <translation>Flyttar den förstorade livebilden</translation>
+    </message>
+    <message>
+        <source>Copies what is shown</source>
+        <translation>Kopierar det som visas</translation>
+    </message>
+    <message>
+        <source>Goes back from a question or message</source>
+        <translation>Tillbaka från en fråga eller ett meddelande</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>Avslutar programmet</translation>
+    </message>
+    <message>
+        <source>Space bar</source>
+        <translation>Blanksteg</translation>
+    </message>
+</context>
+<context>
     <name>LiveVideoWidget</name>
     <message>
         <source>LIVE</source>

@@ -131,6 +131,89 @@ Capture</source>
     </message>
 </context>
 <context>
+    <name>KeyHelp</name>
+    <message>
+        <source>Keys</source>
+        <translation>Tuşlar</translation>
+    </message>
+    <message>
+        <source>Shows this, until the next key or touch</source>
+        <translation>Sonraki tuşa veya dokunuşa kadar bunu gösterir</translation>
+    </message>
+    <message>
+        <source>To the next button</source>
+        <translation>Sonraki düğmeye</translation>
+    </message>
+    <message>
+        <source>Back to the button before</source>
+        <translation>Önceki düğmeye geri</translation>
+    </message>
+    <message>
+        <source>Presses the button</source>
+        <translation>Düğmeye basar</translation>
+    </message>
+    <message>
+        <source>From one to the next in the list</source>
+        <translation>Listede birinden diğerine</translation>
+    </message>
+    <message>
+        <source>Chooses in the list, or leaves out again</source>
+        <translation>Listede seçer veya seçimi kaldırır</translation>
+    </message>
+    <message>
+        <source>Live picture larger, smaller</source>
+        <translation>Canlı görüntü daha büyük, daha küçük</translation>
+    </message>
+    <message>
+        <source>The whole live picture</source>
+        <translation>Canlı görüntünün tamamı</translation>
+    </message>
+    <message>
+        <source>Turns the live picture by a quarter</source>
+        <translation>Canlı görüntüyü çeyrek tur döndürür</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>Fare tekerleği</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, around the pointer</source>
+        <translation>İmlecin çevresinde daha büyük veya küçük</translation>
+    </message>
+    <message>
+        <source>Two fingers</source>
+        <translation>İki parmak</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, between the fingers</source>
+        <translation>Parmakların arasında daha büyük veya küçük</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Sürükleme</translation>
+    </message>
+    <message>
+        <source>Moves the enlarged live picture</source>
+        <translation>Büyütülmüş canlı görüntüyü kaydırır</translation>
+    </message>
+    <message>
+        <source>Copies what is shown</source>
+        <translation>Gösterileni kopyalar</translation>
+    </message>
+    <message>
+        <source>Goes back from a question or message</source>
+        <translation>Sorudan veya iletiden geri döner</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>Programı kapatır</translation>
+    </message>
+    <message>
+        <source>Space bar</source>
+        <translation>Boşluk çubuğu</translation>
+    </message>
+</context>
+<context>
     <name>LiveVideoWidget</name>
     <message>
         <source>LIVE</source>

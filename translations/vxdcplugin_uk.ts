@@ -131,6 +131,89 @@ Capture</source>
     </message>
 </context>
 <context>
+    <name>KeyHelp</name>
+    <message>
+        <source>Keys</source>
+        <translation>Клавіші</translation>
+    </message>
+    <message>
+        <source>Shows this, until the next key or touch</source>
+        <translation>Показує це до наступної клавіші або дотику</translation>
+    </message>
+    <message>
+        <source>To the next button</source>
+        <translation>До наступної кнопки</translation>
+    </message>
+    <message>
+        <source>Back to the button before</source>
+        <translation>Назад до попередньої кнопки</translation>
+    </message>
+    <message>
+        <source>Presses the button</source>
+        <translation>Натискає кнопку</translation>
+    </message>
+    <message>
+        <source>From one to the next in the list</source>
+        <translation>У списку від одного до іншого</translation>
+    </message>
+    <message>
+        <source>Chooses in the list, or leaves out again</source>
+        <translation>Вибирає у списку або скасовує вибір</translation>
+    </message>
+    <message>
+        <source>Live picture larger, smaller</source>
+        <translation>Живе зображення більше, менше</translation>
+    </message>
+    <message>
+        <source>The whole live picture</source>
+        <translation>Живе зображення повністю</translation>
+    </message>
+    <message>
+        <source>Turns the live picture by a quarter</source>
+        <translation>Повертає живе зображення на чверть оберту</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>Коліщатко миші</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, around the pointer</source>
+        <translation>Більше або менше, навколо вказівника</translation>
+    </message>
+    <message>
+        <source>Two fingers</source>
+        <translation>Два пальці</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, between the fingers</source>
+        <translation>Більше або менше, між пальцями</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Перетягування</translation>
+    </message>
+    <message>
+        <source>Moves the enlarged live picture</source>
+        <translation>Пересуває збільшене живе зображення</translation>
+    </message>
+    <message>
+        <source>Copies what is shown</source>
+        <translation>Копіює те, що показано</translation>
+    </message>
+    <message>
+        <source>Goes back from a question or message</source>
+        <translation>Назад із запитання або повідомлення</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>Закриває програму</translation>
+    </message>
+    <message>
+        <source>Space bar</source>
+        <translation>Пробіл</translation>
+    </message>
+</context>
+<context>
     <name>LiveVideoWidget</name>
     <message>
         <source>LIVE</source>

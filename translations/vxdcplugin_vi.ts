@@ -131,6 +131,89 @@ liên tục</translation>
     </message>
 </context>
 <context>
+    <name>KeyHelp</name>
+    <message>
+        <source>Keys</source>
+        <translation>Các phím</translation>
+    </message>
+    <message>
+        <source>Shows this, until the next key or touch</source>
+        <translation>Hiện bảng này đến phím hoặc lần chạm tiếp theo</translation>
+    </message>
+    <message>
+        <source>To the next button</source>
+        <translation>Đến nút tiếp theo</translation>
+    </message>
+    <message>
+        <source>Back to the button before</source>
+        <translation>Trở lại nút trước</translation>
+    </message>
+    <message>
+        <source>Presses the button</source>
+        <translation>Nhấn nút</translation>
+    </message>
+    <message>
+        <source>From one to the next in the list</source>
+        <translation>Từ mục này sang mục khác trong danh sách</translation>
+    </message>
+    <message>
+        <source>Chooses in the list, or leaves out again</source>
+        <translation>Chọn trong danh sách, hoặc bỏ chọn</translation>
+    </message>
+    <message>
+        <source>Live picture larger, smaller</source>
+        <translation>Hình ảnh trực tiếp lớn hơn, nhỏ hơn</translation>
+    </message>
+    <message>
+        <source>The whole live picture</source>
+        <translation>Toàn bộ hình ảnh trực tiếp</translation>
+    </message>
+    <message>
+        <source>Turns the live picture by a quarter</source>
+        <translation>Xoay hình ảnh trực tiếp một phần tư vòng</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>Con lăn chuột</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, around the pointer</source>
+        <translation>Lớn hơn hoặc nhỏ hơn, quanh con trỏ</translation>
+    </message>
+    <message>
+        <source>Two fingers</source>
+        <translation>Hai ngón tay</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, between the fingers</source>
+        <translation>Lớn hơn hoặc nhỏ hơn, giữa hai ngón tay</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Kéo</translation>
+    </message>
+    <message>
+        <source>Moves the enlarged live picture</source>
+        <translation>Di chuyển hình ảnh trực tiếp đã phóng to</translation>
+    </message>
+    <message>
+        <source>Copies what is shown</source>
+        <translation>Sao chép những gì đang hiện</translation>
+    </message>
+    <message>
+        <source>Goes back from a question or message</source>
+        <translation>Trở lại từ câu hỏi hoặc thông báo</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>Thoát chương trình</translation>
+    </message>
+    <message>
+        <source>Space bar</source>
+        <translation>Phím cách</translation>
+    </message>
+</context>
+<context>
     <name>LiveVideoWidget</name>
     <message>
         <source>LIVE</source>

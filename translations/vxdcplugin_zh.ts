@@ -131,6 +131,89 @@ Capture</source>
     </message>
 </context>
 <context>
+    <name>KeyHelp</name>
+    <message>
+        <source>Keys</source>
+        <translation>按键</translation>
+    </message>
+    <message>
+        <source>Shows this, until the next key or touch</source>
+        <translation>显示本表，直到下次按键或触摸</translation>
+    </message>
+    <message>
+        <source>To the next button</source>
+        <translation>到下一个按钮</translation>
+    </message>
+    <message>
+        <source>Back to the button before</source>
+        <translation>回到上一个按钮</translation>
+    </message>
+    <message>
+        <source>Presses the button</source>
+        <translation>按下按钮</translation>
+    </message>
+    <message>
+        <source>From one to the next in the list</source>
+        <translation>在列表中逐个移动</translation>
+    </message>
+    <message>
+        <source>Chooses in the list, or leaves out again</source>
+        <translation>在列表中选择或取消选择</translation>
+    </message>
+    <message>
+        <source>Live picture larger, smaller</source>
+        <translation>放大、缩小实时画面</translation>
+    </message>
+    <message>
+        <source>The whole live picture</source>
+        <translation>显示整个实时画面</translation>
+    </message>
+    <message>
+        <source>Turns the live picture by a quarter</source>
+        <translation>将实时画面旋转90度</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>鼠标滚轮</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, around the pointer</source>
+        <translation>以指针为中心放大或缩小</translation>
+    </message>
+    <message>
+        <source>Two fingers</source>
+        <translation>两根手指</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, between the fingers</source>
+        <translation>在手指之间放大或缩小</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>拖动</translation>
+    </message>
+    <message>
+        <source>Moves the enlarged live picture</source>
+        <translation>移动放大的实时画面</translation>
+    </message>
+    <message>
+        <source>Copies what is shown</source>
+        <translation>复制显示的内容</translation>
+    </message>
+    <message>
+        <source>Goes back from a question or message</source>
+        <translation>从提问或消息返回</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>退出程序</translation>
+    </message>
+    <message>
+        <source>Space bar</source>
+        <translation>空格键</translation>
+    </message>
+</context>
+<context>
     <name>LiveVideoWidget</name>
     <message>
         <source>LIVE</source>

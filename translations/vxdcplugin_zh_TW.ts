@@ -131,6 +131,89 @@ Capture</source>
     </message>
 </context>
 <context>
+    <name>KeyHelp</name>
+    <message>
+        <source>Keys</source>
+        <translation>按鍵</translation>
+    </message>
+    <message>
+        <source>Shows this, until the next key or touch</source>
+        <translation>顯示本表，直到下次按鍵或觸碰</translation>
+    </message>
+    <message>
+        <source>To the next button</source>
+        <translation>到下一個按鈕</translation>
+    </message>
+    <message>
+        <source>Back to the button before</source>
+        <translation>回到上一個按鈕</translation>
+    </message>
+    <message>
+        <source>Presses the button</source>
+        <translation>按下按鈕</translation>
+    </message>
+    <message>
+        <source>From one to the next in the list</source>
+        <translation>在清單中逐一移動</translation>
+    </message>
+    <message>
+        <source>Chooses in the list, or leaves out again</source>
+        <translation>在清單中選擇或取消選擇</translation>
+    </message>
+    <message>
+        <source>Live picture larger, smaller</source>
+        <translation>放大、縮小即時畫面</translation>
+    </message>
+    <message>
+        <source>The whole live picture</source>
+        <translation>顯示整個即時畫面</translation>
+    </message>
+    <message>
+        <source>Turns the live picture by a quarter</source>
+        <translation>將即時畫面旋轉90度</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>滑鼠滾輪</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, around the pointer</source>
+        <translation>以指標為中心放大或縮小</translation>
+    </message>
+    <message>
+        <source>Two fingers</source>
+        <translation>兩根手指</translation>
+    </message>
+    <message>
+        <source>Larger or smaller, between the fingers</source>
+        <translation>在手指之間放大或縮小</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>拖曳</translation>
+    </message>
+    <message>
+        <source>Moves the enlarged live picture</source>
+        <translation>移動放大的即時畫面</translation>
+    </message>
+    <message>
+        <source>Copies what is shown</source>
+        <translation>複製顯示的內容</translation>
+    </message>
+    <message>
+        <source>Goes back from a question or message</source>
+        <translation>從提問或訊息返回</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>結束程式</translation>
+    </message>
+    <message>
+        <source>Space bar</source>
+        <translation>空白鍵</translation>
+    </message>
+</context>
+<context>
     <name>LiveVideoWidget</name>
     <message>
         <source>LIVE</source>

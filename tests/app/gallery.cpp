@@ -69,9 +69,13 @@ void Gallery::prepare()
     shoot("devicechoice");
     Program::press("Return");
     waitForRow("EEEEE");
-    waitFor("the live picture",
-            [] { return Program::brightness({Program::width() / 2, Program::height() / 3}) > 30; });
+    waitFor("the live picture", [] {
+        return Program::brightness({Program::width() / 2, Program::height() / 3}) > 30;
+    });
     shoot("live");
+    Program::press("F1");
+    shoot("keys");
+    Program::press("F1");
 }
 
 void Gallery::takePhotos()

@@ -140,6 +140,10 @@ def lesson(reader):
     reader.press("Live")
     reader.find("Live picture", Atspi.Role.IMAGE)
 
+    subprocess.run(["xdotool", "key", "F1"], check=True)
+    until("the keys to be said", lambda: "Ctrl+C: Copies what is shown" in " ".join(reader.said))
+    subprocess.run(["xdotool", "key", "F1"], check=True)
+
     write_devices(MICROPHONE)
     reader.find("The video device is invalid.*", Atspi.Role.LABEL)
     until("the message's button to have the focus", lambda: reader.focused[-1] == "OK")

@@ -1,4 +1,5 @@
 #include "capture/selectdevicedlg.h"
+#include "dialog/keyhelp.h"
 #include "dialog/pictoreldlg.h"
 #include "settings/setting.h"
 #include "util/desktop/look.h"
@@ -156,6 +157,12 @@ private slots:
         QCOMPARE(cutOff(window.findChild<Setting *>()), QString());
         SelectDeviceDlg choice;
         QCOMPARE(cutOff(&choice), QString());
+
+        constexpr int readableAtTheBack = 24; // pixels
+        const KeyHelp keys(&window);
+        QVERIFY2(keys.font().pixelSize() >= readableAtTheBack,
+                 qPrintable(QString::number(keys.font().pixelSize())));
+        QCOMPARE(keys.sizeHint().boundedTo(window.size()), keys.sizeHint());
 
         // The countdown gets the room of the one, and shows the other after up to two digits.
         QCOMPARE(translator.translate("TimerWidget", "0 second to capture  "),
