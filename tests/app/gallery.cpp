@@ -69,8 +69,9 @@ void Gallery::prepare()
     shoot("devicechoice");
     Program::press("Return");
     waitForRow("EEEEE");
-    waitFor("the live picture",
-            [] { return Program::brightness({Program::width() / 2, Program::height() / 3}) > 30; });
+    waitFor("the live picture", [] {
+        return Program::brightness({Program::width() / 2, Program::height() / 3}) > 30;
+    });
     shoot("live");
 }
 
