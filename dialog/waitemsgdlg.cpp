@@ -17,8 +17,7 @@ constexpr int startDelayMilliseconds = 100;
 } // namespace
 
 CWaiteMsgDlg::CWaiteMsgDlg(QWidget *parent)
-    : QDialog(parent), m_ok(new QPushButton(tr("OK"))),
-      m_text(new SpokenLabel), m_work(new QProgressBar),
+    : QDialog(parent), m_ok(new QPushButton(tr("OK"))), m_text(new SpokenLabel), m_work(new QProgressBar),
       m_starter(new QTimer(this))
 {
     setAutoFillBackground(true);

@@ -1,8 +1,8 @@
 #include "widgets/stretchbitmapbutton.h"
 
 #include "res/drawing/button.h"
-#include "widgets/buttoncaption.h"
 #include "util/desktop/focusframe.h"
+#include "widgets/buttoncaption.h"
 
 #include <QFocusEvent>
 #include <QGridLayout>
@@ -118,8 +118,7 @@ const QPixmap &CStretchBitmapButton::pixmapForState()
     m_pixels = pixels;
     if (!isEnabled())
         return loaded(&m_disabled, "_ds.bmp", PlateState::Disabled);
-    return isDown() ? loaded(&m_down, "_dw.bmp", PlateState::Down)
-                    : loaded(&m_up, "_up.bmp", PlateState::Up);
+    return isDown() ? loaded(&m_down, "_dw.bmp", PlateState::Down) : loaded(&m_up, "_up.bmp", PlateState::Up);
 }
 
 // A bitmap of another size is drawn anew; one without a drawing is scaled.

@@ -14,11 +14,11 @@ void ThumbnailDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opt
     QStyleOptionViewItem unframed = option;
     unframed.state.setFlag(QStyle::State_HasFocus, false);
     QStyledItemDelegate::paint(painter, unframed, index);
-    if (option.state & QStyle::State_Selected) {
-        const int inset = focusFrameWidth; // it may have both
-        paintFrame(*painter, option.rect.adjusted(inset, inset, -inset, -inset), chosenWidth, chosenColour);
-    }
     const bool byKeyboard = option.state & QStyle::State_KeyboardFocusChange;
-    if (byKeyboard && (option.state & QStyle::State_HasFocus))
+    const bool isFocused = byKeyboard && (option.state & QStyle::State_HasFocus);
+    const int inset = isFocused ? focusFrameWidth : 0; // it may have both
+    if (option.state & QStyle::State_Selected)
+        paintFrame(*painter, option.rect.adjusted(inset, inset, -inset, -inset), chosenWidth, chosenColour);
+    if (isFocused)
         paintFocusFrame(*painter, option.rect);
 }

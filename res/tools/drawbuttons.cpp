@@ -21,11 +21,11 @@ struct Button {
 };
 
 const Button Buttons[] = {
-    {"Apply", RowSize},       {"Back", tileButtonSize}, {"Close", HalfSize},      {"List", RowSize},
-    {"Live", RowSize},        {"Load", RowSize},        {"Movie", RowSize},       {"MoviePause", RowSize},
-    {"MoviePlay", RowSize},   {"MovieStop", RowSize},   {"Photo", RowSize},       {"PhotoMulti", RowSize},
-    {"PutMovie", RowSize},    {"PutPhoto", RowSize},    {"Retry", RowSize},       {"Settings", HalfSize},
-    {"Show", RowSize},        {"SwitchMovie", RowSize}, {"SwitchPhoto", RowSize}, {"Zoom", tileButtonSize},
+    {"Apply", RowSize},     {"Back", tileButtonSize}, {"Close", HalfSize},      {"List", RowSize},
+    {"Live", RowSize},      {"Load", RowSize},        {"Movie", RowSize},       {"MoviePause", RowSize},
+    {"MoviePlay", RowSize}, {"MovieStop", RowSize},   {"Photo", RowSize},       {"PhotoMulti", RowSize},
+    {"PutMovie", RowSize},  {"PutPhoto", RowSize},    {"Retry", RowSize},       {"Settings", HalfSize},
+    {"Show", RowSize},      {"SwitchMovie", RowSize}, {"SwitchPhoto", RowSize}, {"Zoom", tileButtonSize},
 };
 
 struct State {

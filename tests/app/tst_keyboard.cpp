@@ -182,8 +182,7 @@ void TestKeyboard::givesALesson()
             return;
     }
     QVERIFY(program.waitForEnd());
-    const QDir saved(
-        QDir::home().filePath("VeltrixCamera/" + QDate::currentDate().toString("yyyyMMdd")));
+    const QDir saved(QDir::home().filePath("VeltrixCamera/" + QDate::currentDate().toString("yyyyMMdd")));
     QCOMPARE(saved.entryList({"photo*.png"}, QDir::Files).size(), 3);
     QCOMPARE(saved.entryList({"movie*.mov"}, QDir::Files).size(), 1);
 }

@@ -14,8 +14,8 @@ class TestScaledScreen : public QObject
     {
         const int ratio = int(widget->devicePixelRatioF());
         const QPoint corner = widget->mapToGlobal(area.topLeft()) * ratio;
-        const QImage image = QGuiApplication::primaryScreen()->grabWindow(0).toImage().copy(
-            {corner, area.size() * ratio});
+        const QImage image =
+            QGuiApplication::primaryScreen()->grabWindow(0).toImage().copy({corner, area.size() * ratio});
         int blocks = 0;
         int mixed = 0;
         for (int y = 0; y + 1 < image.height(); y += 2) {

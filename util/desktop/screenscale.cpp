@@ -13,8 +13,9 @@ namespace
 constexpr int unscaled = 96; // pixels an inch
 const char *const qtDensity = "QT_FONT_DPI";
 
-// What the desktop has been set to. Nothing smaller counts, nor what the X server believes about a screen that
-// nobody has set a scale for: it may know the width of a wall, and every letter would be made tiny for it.
+// What the desktop has been set to. Nothing smaller counts, nor what the X server believes about a screen
+// that nobody has set a scale for: it may know the width of a wall, and every letter would be made tiny for
+// it.
 int desktopDensity()
 {
     Display *display = XOpenDisplay(nullptr);
