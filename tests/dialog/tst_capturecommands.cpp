@@ -26,7 +26,8 @@ class TestCaptureCommands : public QObject
 private slots:
     void cleanup() { freeMiB = 100000; }
     void everyButtonHasItsBitmaps();
-    void seriesByHandAndByTime();
+    void seriesByHand();
+    void seriesByTime();
     void fullDiskRefuses();
     void lossInEveryScreen();
 
@@ -51,7 +52,7 @@ void TestCaptureCommands::everyButtonHasItsBitmaps()
     }
 }
 
-void TestCaptureCommands::seriesByHandAndByTime()
+void TestCaptureCommands::seriesByHand()
 {
     MainWindow byHand("AutoShoot=0\nContinuShootCount=3\n");
     for (const char *button : {"PhotoMulti", "PhotoMulti", "Live", "PhotoMulti"})
@@ -59,8 +60,10 @@ void TestCaptureCommands::seriesByHandAndByTime()
     QCOMPARE(photos(), 3);
     QCOMPARE(byHand.view<PictureListView>()->nameList().size(), 1);
     QCOMPARE(byHand.view<PictureWidget>()->findChild<QLabel *>()->text(), QString("1/3"));
-    byHand.window->close();
+}
 
+void TestCaptureCommands::seriesByTime()
+{
     MainWindow main("AutoShoot=1\nAutoShootTime=1\nContinuShootCount=3\n");
     QElapsedTimer clock;
     main.press("PhotoMulti");
