@@ -189,24 +189,24 @@ void PictureListView::Release()
 void PictureListView::keyPressEvent(QKeyEvent *event)
 {
     m_isUsedByKeyboard = true;
-    QListWidget::keyPressEvent(event);
+    SwipedList::keyPressEvent(event);
 }
 
 void PictureListView::mousePressEvent(QMouseEvent *event)
 {
     m_isUsedByKeyboard = false;
-    QListWidget::mousePressEvent(event);
+    SwipedList::mousePressEvent(event);
 }
 
 void PictureListView::focusInEvent(QFocusEvent *event)
 {
     m_isUsedByKeyboard |= isByKeyboard(event->reason());
-    QListWidget::focusInEvent(event);
+    SwipedList::focusInEvent(event);
 }
 
 QStyleOptionViewItem PictureListView::viewOptions() const
 {
-    QStyleOptionViewItem options = QListWidget::viewOptions();
+    QStyleOptionViewItem options = SwipedList::viewOptions();
     options.state.setFlag(QStyle::State_KeyboardFocusChange, m_isUsedByKeyboard);
     return options;
 }

@@ -185,7 +185,9 @@ void Gallery::press(const QPoint &button, const QString &row)
 
 void Gallery::waitForRow(const QString &row)
 {
-    waitFor(qPrintable(row), [&row] { return Program::rowLooks(Program::screen()) == row; });
+    // A caption that is read from right to left may stand where the plate is looked at.
+    waitFor(
+        qPrintable(row), [&row] { return Program::rowLooks(Program::screen()) == row; }, 4000);
 }
 
 void Gallery::waitForWindows(int count)

@@ -116,9 +116,9 @@ public:
     // How the button around that point looks: E enabled, d disabled, . not there. Plates are blue, or grey.
     static char look(const QImage &image, const QPoint &button)
     {
-        // On its right edge neither drawing nor caption is in the way.
-        const QPoint edge = button + QPoint(buttonWidth() / 2 - 5, 0);
-        const QColor plate = image.pixelColor(edge * image.devicePixelRatio());
+        // At its right end neither drawing nor caption is in the way.
+        const QColor plate =
+            image.pixelColor((button + QPoint(buttonWidth() / 2 - 8, 0)) * image.devicePixelRatio());
         if (plate.value() < 20)
             return '.';
         return plate.hsvSaturation() > 60 ? 'E' : 'd';
