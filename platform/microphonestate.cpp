@@ -49,11 +49,11 @@ std::optional<bool> MicrophoneState::isUsable() const
     return {};
 }
 
-bool MicrophoneState::givesSound() const
+bool MicrophoneState::isSoundDue() const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    return m_failure.isEmpty() && m_lastSound &&
-           Clock::now() - *m_lastSound < std::chrono::duration<double>(mostSoundDelay);
+    return m_failure.isEmpty() &&
+           Clock::now() - m_lastSound.value_or(m_startedAt) < std::chrono::duration<double>(mostSoundDelay);
 }
 
 bool MicrophoneState::hasAnswered() const

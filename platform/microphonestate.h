@@ -24,8 +24,8 @@ public:
     std::optional<bool> isUsable() const;
     // Whether it ever was.
     std::optional<bool> wasUsable() const;
-    // Whether it gives sound now, be it in bursts.
-    bool givesSound() const;
+    // Whether it gives sound now, be it in bursts, or has only now been started.
+    bool isSoundDue() const;
     // Whether the driver has answered to the opening.
     bool hasAnswered() const;
     // Why it counts as lost: it failed, or it has been silent for two seconds or opening for five. Empty

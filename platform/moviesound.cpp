@@ -117,7 +117,7 @@ void MovieSound::end(GstClockTime moment)
     if (!why.isEmpty())
         tell(why);
     m_track->endAt(sinceStart(moment));
-    if (m_stream && m_stream->state()->givesSound())
+    if (m_stream && m_stream->state()->isSoundDue())
         m_track->waitForLast(lastSoundLimit);
     m_stream.reset();
     m_track->close();
