@@ -52,8 +52,9 @@ std::optional<bool> MicrophoneState::isUsable() const
 bool MicrophoneState::isSoundDue() const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    return m_failure.isEmpty() &&
-           Clock::now() - m_lastSound.value_or(m_startedAt) < std::chrono::duration<double>(mostSoundDelay);
+    const Clock::time_point now = Clock::now();
+    const Clock::time_point latest = m_lastSound.value_or(m_openedAt.value_or(now));
+    return m_failure.isEmpty() && now - latest < std::chrono::duration<double>(mostSoundDelay);
 }
 
 bool MicrophoneState::hasAnswered() const

@@ -24,7 +24,7 @@ public:
     std::optional<bool> isUsable() const;
     // Whether it ever was.
     std::optional<bool> wasUsable() const;
-    // Whether it gives sound now, be it in bursts, or has only now been started.
+    // Whether it gives sound now, be it in bursts, or is only being opened.
     bool isSoundDue() const;
     // Whether the driver has answered to the opening.
     bool hasAnswered() const;
