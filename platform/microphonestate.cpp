@@ -11,6 +11,7 @@ using namespace std::chrono_literals;
 
 // Some microphones refuse only when their sound is asked for, a moment after they were opened.
 constexpr auto refusalLimit = 500ms;
+constexpr auto usualOpening = 1500ms;
 constexpr auto silenceLimit = 2s;
 constexpr auto openingLimit = 5s;
 
@@ -53,8 +54,10 @@ bool MicrophoneState::isSoundDue() const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     const Clock::time_point now = Clock::now();
-    const Clock::time_point latest = m_lastSound.value_or(m_openedAt.value_or(now));
-    return m_failure.isEmpty() && now - latest < std::chrono::duration<double>(mostSoundDelay);
+    if (!m_hasAnswered)
+        return now - m_startedAt < usualOpening;
+    return m_failure.isEmpty() && now - m_lastSound.value_or(m_openedAt.value_or(m_startedAt)) <
+                                      std::chrono::duration<double>(mostSoundDelay);
 }
 
 bool MicrophoneState::hasAnswered() const

@@ -24,7 +24,7 @@ public:
     std::optional<bool> isUsable() const;
     // Whether it ever was.
     std::optional<bool> wasUsable() const;
-    // Whether it gives sound now, be it in bursts, or is only being opened.
+    // Whether it gives sound now, be it in bursts, or has been opened or begun to open only now.
     bool isSoundDue() const;
     // Whether the driver has answered to the opening.
     bool hasAnswered() const;

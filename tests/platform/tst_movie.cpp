@@ -230,6 +230,7 @@ void TestMovie::outlivesItsMicrophone()
         clock.start();
         camera.capture.RecordStop();
         QVERIFY2(clock.elapsed() < 500, name);
+        QTRY_VERIFY2(!camera.capture.isFinishingMovie(), name);
         devices.setFault("mic", "");
 
         const MovieContents movie = readMovie(path());
