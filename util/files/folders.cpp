@@ -26,7 +26,7 @@ QString makeWorkingFolder()
     const QString temporary = QDir::tempPath(); // empty when it does not exist
     if (temporary.isEmpty())
         return QString();
-    const QString path = QDir(temporary + folderName + "_" + QString::number(geteuid())).absolutePath();
+    QString path = QDir(temporary + folderName + "_" + QString::number(geteuid())).absolutePath();
     if (mkdir(QFile::encodeName(path), S_IRWXU) != 0 && errno != EEXIST) {
         noteFileFault("make folder", path);
         return QString();
@@ -47,7 +47,7 @@ void removeWorkingFolder(const QString &path)
 
 static QString madeFolder(const QDir &folder)
 {
-    const QString path = folder.absolutePath();
+    QString path = folder.absolutePath();
     if (folder.exists() || folder.mkpath(path))
         return path;
     noteFileFault("make folder", path);
