@@ -71,20 +71,28 @@ void PictureListView::setPictSize(const QSize &size)
 
 void PictureListView::AddPicture(const QString &name)
 {
+    AddPicture(QStringList(name));
+}
+
+// Scrolled once: for each item all that stand there would be laid out anew.
+void PictureListView::AddPicture(const QStringList &names)
+{
+    const int before = m_items.size();
+    for (const QString &name : names)
+        addItem(name);
+    if (m_items.size() > before)
+        scrollToItem(m_items.last());
+}
+
+void PictureListView::addItem(const QString &name)
+{
     if (m_nameList.contains(name))
         return;
     ensureIconSize();
     QListWidgetItem *item = createItem(name);
     requestThumbnail(name, item);
-    scrollToItem(item);
     m_nameList << name;
     m_items << item;
-}
-
-void PictureListView::AddPicture(const QStringList &names)
-{
-    for (const QString &name : names)
-        AddPicture(name);
 }
 
 void PictureListView::AddPictureWithSelect(const QString &name)

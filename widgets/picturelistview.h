@@ -74,6 +74,7 @@ private slots:
     void selectedItem();
 
 private:
+    void addItem(const QString &name);
     void ensureIconSize();
     QListWidgetItem *createItem(const QString &name);
     QSize itemSize() const;
