@@ -14,8 +14,6 @@
 namespace
 {
 
-constexpr int twoContacts = 128;
-
 // A step of zoom needs a clear change of the contacts' distance, in pixels...
 constexpr int leastChange = 99;
 // ...but one beyond all proportion is a contact lost or found.
@@ -28,7 +26,7 @@ std::optional<int> contactDistance()
 {
     CDriverExtraInfo info{};
     CDriverProxy::get()->getExtraInfo(info);
-    if (info.gestureState != twoContacts)
+    if (info.gestureState != twoContactsOnBoard)
         return {};
     return int(info.shadowSize * CDriverProxy::get()->getShadowRatio());
 }

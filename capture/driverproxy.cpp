@@ -5,8 +5,6 @@
 namespace
 {
 
-constexpr int twoContacts = 128;
-
 } // namespace
 
 CDriverProxy *CDriverProxy::get()
@@ -25,7 +23,7 @@ void CDriverProxy::getExtraInfo(CDriverExtraInfo &info) const
     info = {};
     if (m_fingers.size() != 2)
         return;
-    info.gestureState = twoContacts;
+    info.gestureState = twoContactsOnBoard;
     info.shadowSize = qRound(QLineF(m_fingers.first(), m_fingers.last()).length());
 }
 

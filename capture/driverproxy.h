@@ -5,10 +5,12 @@
 
 #include <cstdint>
 
+constexpr int32_t twoContactsOnBoard = 128;
+
 // What a board's touch driver tells beside a mouse event. All zero where it tells nothing.
 struct CDriverExtraInfo {
     int32_t reserved;
-    int32_t gestureState; // 128 while two contacts lie on the board
+    int32_t gestureState; // twoContactsOnBoard, or anything else
     int32_t shadowSize;   // of the contacts' shadow, in units of the driver
 };
 

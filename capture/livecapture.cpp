@@ -83,8 +83,7 @@ void LiveCapture::photoIsTaken(const QImage &picture)
 void LiveCapture::devicesChanged()
 {
     // Where parts of the program are missing, every attempt would say so again.
-    const bool isUsable = data.supported || facts.now().camera.state == CameraState::Unknown;
-    const bool canReopen = isUsable && data.canReopen();
+    const bool canReopen = isSupported && data.canReopen();
     if (canReopen != facts.now().canReopen)
         facts.change([canReopen](Facts &now) { now.canReopen = canReopen; });
 }

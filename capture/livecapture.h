@@ -21,6 +21,7 @@ public:
 
     CaptureFacts facts;
     LiveVideoData data;
+    bool isSupported = true; // until an attempt has shown that parts of the program are missing
 };
 
 // What a photo that failed in this way is told as.

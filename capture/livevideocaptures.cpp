@@ -43,7 +43,6 @@ QString LiveVideoWidget::SaveBmp()
         now.photo.why = why;
         if (!isSaved)
             now.photo.name.clear();
-        now.hasRoom = now.hasRoom && why != Cause::Disk;
     });
     return facts().now().photo.name;
 }

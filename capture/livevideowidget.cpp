@@ -155,7 +155,9 @@ void LiveVideoWidget::Create()
         const Waiting waiting(this);
         m_capture->data.Create();
     }
-    if (!m_capture->data.supported) {
+    m_capture->isSupported = m_capture->data.supported;
+    if (!m_capture->isSupported) {
+        m_capture->devicesChanged();
         WebcamUtil::CriticalMessage(tr("Not Suport"), this);
         return;
     }

@@ -85,7 +85,8 @@ public:
     void lookForRoom();
 
     // Starts a movie in the working folder, with its preview picture. False, after a warning, when the camera
-    // or the microphone is not usable; nothing is left of the movie then.
+    // or the microphone is not usable or the disk refuses the file; nothing is left of the movie then. False
+    // without one when something is waited for, and when the camera is lost meanwhile, which the facts tell.
     bool Record();
     // Ends the movie. Its file may be finished in the background: the movie is finishing then.
     void RecordStop();

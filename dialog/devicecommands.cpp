@@ -92,6 +92,7 @@ void CPictorelDlg::changeNodevicemode()
         tellOfMovie(Cause::Camera);
     TransitionMode(DisplayMode::Live);
     m_liveView->lookForCamera();
+    followCamera(); // it may have come back while the message was read, on another screen
 }
 
 // The facts have changed, in the middle of a command or by themselves.

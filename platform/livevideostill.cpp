@@ -26,6 +26,9 @@ bool LiveVideoData::SaveBitmap(QString path) // NOLINT(performance-unnecessary-v
     const QPointer<LiveVideoData> self(this);
     const PhotoFault fault = savePhoto(path);
     if (self) {
+        if (fault == PhotoFault::NoPicture && !m_isLost)
+            qCWarning(cameraLog).noquote().nospace()
+                << path << ": No picture has come for it within a second.";
         m_isSaving = false;
         m_lastPhotoFault = fault;
     }

@@ -60,8 +60,10 @@ bool MovieRecorder::start(const FramePtr &first)
 {
     keepFirst(first);
     m_movie = buildMoviePipeline(m_settings);
-    if (!m_movie.isComplete())
+    if (!m_movie.isComplete()) {
+        fail(MovieEnd::Failed, "Its streams cannot be put together.");
         return false;
+    }
     tellShortRoom();
     if (!startPipeline()) {
         gst_element_set_state(m_movie.pipeline.get(), GST_STATE_NULL);

@@ -1,5 +1,7 @@
 #include "settings/settingsfile.h"
 
+#include "util/files/diskanswer.h"
+#include "util/files/filelog.h"
 #include "util/webcamutil.h"
 
 #include <QFile>
@@ -17,11 +19,9 @@ QString filePath()
     return WebcamUtil::getAppPath() + "/.hollin_orvane.ini";
 }
 
-} // namespace
-
-QVariantMap SettingsFile::read(const QStringList &keys)
+QVariantMap readFrom(const QString &path, const QStringList &keys)
 {
-    const QFileInfo info(filePath());
+    const QFileInfo info(path);
     if (!info.isFile() || info.size() > largestSize)
         return {};
     const QSettings file(info.filePath(), QSettings::IniFormat);
@@ -33,12 +33,15 @@ QVariantMap SettingsFile::read(const QStringList &keys)
     return values;
 }
 
-void SettingsFile::write(const QVariantMap &values)
+// True when the disk has answered.
+bool writeTo(const QString &path, const QVariantMap &values)
 {
-    const QFileInfo info(filePath());
+    const QFileInfo info(path);
     // Opening a pipe or a device would block.
-    if (info.exists() && !info.isFile())
-        return;
+    if (info.exists() && !info.isFile()) {
+        noteUnexplainedFault("the settings", path);
+        return true;
+    }
     // Setting a value reads the whole file first: one of an absurd size is begun anew.
     if (info.size() > largestSize)
         QFile::remove(info.filePath());
@@ -46,4 +49,21 @@ void SettingsFile::write(const QVariantMap &values)
     for (auto value = values.cbegin(); value != values.cend(); ++value)
         file.setValue(value.key(), value.value());
     file.sync();
+    if (file.status() != QSettings::NoError)
+        noteUnexplainedFault("the settings", path);
+    return true;
+}
+
+} // namespace
+
+QVariantMap SettingsFile::read(const QStringList &keys)
+{
+    const QString path = filePath();
+    return askDisk("the settings", path, QVariantMap(), [path, keys] { return readFrom(path, keys); });
+}
+
+void SettingsFile::write(const QVariantMap &values)
+{
+    const QString path = filePath();
+    askDisk("the settings", path, false, [path, values] { return writeTo(path, values); });
 }

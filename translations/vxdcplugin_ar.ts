@@ -495,4 +495,72 @@ Capture</source>
         <translation>تم إيقاف الالتقاط. يُرجى توفير مساحة خالية. </translation>
     </message>
 </context>
+<context>
+    <name>MenuEntry</name>
+    <message>
+        <source>Document Camera</source>
+        <translation>كاميرا المستندات</translation>
+    </message>
+    <message>
+        <source>Show, photograph and film what lies under the camera</source>
+        <translation>عرض ما تحت الكاميرا وتصويره وتسجيله</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Look in:</source>
+        <translation>البحث في:</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>المجلد:</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>اختيار</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>رجوع</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>تقدم</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>المجلد الأعلى</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>إنشاء مجلد جديد</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+لم يُعثر على المجلد.
+يرجى التأكد من صحة اسم المجلد.</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Computer</source>
+        <translation>الكمبيوتر</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Cancel</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>موافق</translation>
+    </message>
+</context>
 </TS>

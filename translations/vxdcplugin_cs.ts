@@ -495,4 +495,72 @@ snímky</translation>
         <translation>Snímání bylo ukončeno. Uvolněte místo na disku. </translation>
     </message>
 </context>
+<context>
+    <name>MenuEntry</name>
+    <message>
+        <source>Document Camera</source>
+        <translation>Dokumentová kamera</translation>
+    </message>
+    <message>
+        <source>Show, photograph and film what lies under the camera</source>
+        <translation>Ukazujte, foťte a natáčejte, co leží pod kamerou</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Look in:</source>
+        <translation>Kde hledat:</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Složka:</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>Vybrat</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zpět</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vpřed</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>Nadřazená složka</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>Vytvořit novou složku</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+Složka nebyla nalezena.
+Zkontrolujte prosím, zda je její název správný.</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Computer</source>
+        <translation>Počítač</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Zrušit</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
 </TS>

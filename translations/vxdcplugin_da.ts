@@ -495,4 +495,72 @@ optagelse</translation>
         <translation>Optagelsen stoppes. Frigør plads. </translation>
     </message>
 </context>
+<context>
+    <name>MenuEntry</name>
+    <message>
+        <source>Document Camera</source>
+        <translation>Dokumentkamera</translation>
+    </message>
+    <message>
+        <source>Show, photograph and film what lies under the camera</source>
+        <translation>Vis, fotografér og film det, der ligger under kameraet</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Look in:</source>
+        <translation>Søg i:</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Mappe:</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>Vælg</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Tilbage</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Frem</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>Overordnet mappe</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>Opret ny mappe</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+Mappen blev ikke fundet.
+Kontroller, at mappens navn er rigtigt.</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Computer</source>
+        <translation>Computer</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuller</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
 </TS>

@@ -495,4 +495,72 @@ aufnahme</translation>
         <translation>Die Aufnahme wird beendet. Bitte Platz schaffen. </translation>
     </message>
 </context>
+<context>
+    <name>MenuEntry</name>
+    <message>
+        <source>Document Camera</source>
+        <translation>Dokumentenkamera</translation>
+    </message>
+    <message>
+        <source>Show, photograph and film what lies under the camera</source>
+        <translation>Zeigen, fotografieren und filmen, was unter der Kamera liegt</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Look in:</source>
+        <translation>Suchen in:</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Ordner:</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>Auswählen</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vorwärts</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>Übergeordneter Ordner</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>Neuen Ordner anlegen</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+Der Ordner wurde nicht gefunden.
+Bitte prüfen Sie, ob der Name stimmt.</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Computer</source>
+        <translation>Computer</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
 </TS>

@@ -495,4 +495,72 @@ Capture</source>
         <translation>Η λήψη διακόπτεται. Ελευθερώστε χώρο. </translation>
     </message>
 </context>
+<context>
+    <name>MenuEntry</name>
+    <message>
+        <source>Document Camera</source>
+        <translation>Κάμερα εγγράφων</translation>
+    </message>
+    <message>
+        <source>Show, photograph and film what lies under the camera</source>
+        <translation>Προβολή, φωτογράφιση και βιντεοσκόπηση όσων βρίσκονται κάτω από την κάμερα</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Look in:</source>
+        <translation>Αναζήτηση σε:</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Φάκελος:</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>Επιλογή</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Πίσω</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Εμπρός</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>Γονικός φάκελος</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>Δημιουργία νέου φακέλου</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+Ο φάκελος δεν βρέθηκε.
+Ελέγξτε αν το όνομα του φακέλου είναι σωστό.</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Computer</source>
+        <translation>Υπολογιστής</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Άκυρο</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
 </TS>

@@ -495,4 +495,72 @@ continua</translation>
         <translation>Se interrumpe la captura. Libere espacio. </translation>
     </message>
 </context>
+<context>
+    <name>MenuEntry</name>
+    <message>
+        <source>Document Camera</source>
+        <translation>Cámara de documentos</translation>
+    </message>
+    <message>
+        <source>Show, photograph and film what lies under the camera</source>
+        <translation>Muestre, fotografíe y grabe lo que hay bajo la cámara</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Look in:</source>
+        <translation>Buscar en:</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Carpeta:</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>Elegir</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Adelante</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>Carpeta superior</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>Crear carpeta nueva</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+No se encuentra la carpeta.
+Compruebe que el nombre de la carpeta es correcto.</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Computer</source>
+        <translation>Equipo</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+</context>
 </TS>

@@ -495,4 +495,72 @@ kuvaus</translation>
         <translation>Kuvaus keskeytetään. Vapauta levytilaa. </translation>
     </message>
 </context>
+<context>
+    <name>MenuEntry</name>
+    <message>
+        <source>Document Camera</source>
+        <translation>Dokumenttikamera</translation>
+    </message>
+    <message>
+        <source>Show, photograph and film what lies under the camera</source>
+        <translation>Näytä, kuvaa ja videoi se, mitä kameran alla on</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Look in:</source>
+        <translation>Hae kansiosta:</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Kansio:</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>Valitse</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Takaisin</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Eteenpäin</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>Yläkansio</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>Luo uusi kansio</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+Kansiota ei löydy.
+Tarkista, että kansion nimi on oikein.</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Computer</source>
+        <translation>Tietokone</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Peruuta</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
 </TS>

@@ -495,4 +495,72 @@ en rafale</translation>
         <translation>La prise de vue est interrompue. Libérez de l’espace. </translation>
     </message>
 </context>
+<context>
+    <name>MenuEntry</name>
+    <message>
+        <source>Document Camera</source>
+        <translation>Visualiseur</translation>
+    </message>
+    <message>
+        <source>Show, photograph and film what lies under the camera</source>
+        <translation>Montrer, photographier et filmer ce qui se trouve sous la caméra</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Look in:</source>
+        <translation>Chercher dans :</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Dossier :</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>Choisir</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>Dossier parent</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>Créer un dossier</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+Le dossier est introuvable.
+Veuillez vérifier que son nom est correct.</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Computer</source>
+        <translation>Ordinateur</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
 </TS>

@@ -495,4 +495,72 @@ Capture</source>
         <translation>הצילום הופסק. נא לפנות מקום. </translation>
     </message>
 </context>
+<context>
+    <name>MenuEntry</name>
+    <message>
+        <source>Document Camera</source>
+        <translation>מצלמת מסמכים</translation>
+    </message>
+    <message>
+        <source>Show, photograph and film what lies under the camera</source>
+        <translation>הצגה, צילום והסרטה של מה שמונח מתחת למצלמה</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Look in:</source>
+        <translation>חיפוש ב:</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>תיקייה:</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>בחירה</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>אחורה</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>קדימה</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>תיקיית האב</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>יצירת תיקייה חדשה</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+התיקייה לא נמצאה.
+נא לוודא ששם התיקייה נכון.</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Computer</source>
+        <translation>מחשב</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Cancel</source>
+        <translation>ביטול</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>אישור</translation>
+    </message>
+</context>
 </TS>

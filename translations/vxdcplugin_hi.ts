@@ -492,7 +492,75 @@ Capture</source>
     </message>
     <message>
         <source>Taking a picture is discontinued. Please secure the free space. </source>
-        <translation>रिकॉर्डिंग रोकी जा रही है। कृपया जगह खाली करें। </translation>
+        <translation>फ़ोटो या वीडियो लेना रोका जा रहा है। कृपया जगह खाली करें। </translation>
+    </message>
+</context>
+<context>
+    <name>MenuEntry</name>
+    <message>
+        <source>Document Camera</source>
+        <translation>डॉक्यूमेंट कैमरा</translation>
+    </message>
+    <message>
+        <source>Show, photograph and film what lies under the camera</source>
+        <translation>कैमरे के नीचे रखी चीज़ दिखाएँ, उसकी फ़ोटो लें और वीडियो बनाएँ</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Look in:</source>
+        <translation>यहाँ खोजें:</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>फ़ोल्डर:</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>चुनें</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>पीछे</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>आगे</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>ऊपर का फ़ोल्डर</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>नया फ़ोल्डर बनाएँ</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+फ़ोल्डर नहीं मिला।
+कृपया जाँचें कि फ़ोल्डर का नाम सही है।</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Computer</source>
+        <translation>कंप्यूटर</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Cancel</source>
+        <translation>रद्द करें</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>ठीक है</translation>
     </message>
 </context>
 </TS>

@@ -495,4 +495,72 @@ felvétel</translation>
         <translation>A felvétel leáll. Szabadítson fel helyet. </translation>
     </message>
 </context>
+<context>
+    <name>MenuEntry</name>
+    <message>
+        <source>Document Camera</source>
+        <translation>Dokumentumkamera</translation>
+    </message>
+    <message>
+        <source>Show, photograph and film what lies under the camera</source>
+        <translation>A kamera alatt lévők megmutatása, fényképezése és filmezése</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Look in:</source>
+        <translation>Keresés itt:</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Mappa:</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>Választás</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Vissza</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Előre</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>Szülőmappa</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>Új mappa</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+A mappa nem található.
+Ellenőrizze, hogy jól adta-e meg a mappa nevét.</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Computer</source>
+        <translation>Számítógép</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Mégse</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
 </TS>

@@ -492,7 +492,75 @@ beruntun</translation>
     </message>
     <message>
         <source>Taking a picture is discontinued. Please secure the free space. </source>
-        <translation>Perekaman dihentikan. Kosongkan ruang disk. </translation>
+        <translation>Pengambilan gambar dihentikan. Kosongkan ruang disk. </translation>
+    </message>
+</context>
+<context>
+    <name>MenuEntry</name>
+    <message>
+        <source>Document Camera</source>
+        <translation>Kamera dokumen</translation>
+    </message>
+    <message>
+        <source>Show, photograph and film what lies under the camera</source>
+        <translation>Tampilkan, potret, dan rekam apa yang ada di bawah kamera</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Look in:</source>
+        <translation>Cari di:</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Folder:</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>Pilih</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Kembali</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Maju</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>Folder induk</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>Buat folder baru</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+Folder tidak ditemukan.
+Periksa apakah nama folder sudah benar.</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Computer</source>
+        <translation>Komputer</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Batal</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 </TS>

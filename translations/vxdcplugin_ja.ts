@@ -495,4 +495,72 @@ Capture</source>
         <translation>撮影を中止します。空き容量を確保してください。 </translation>
     </message>
 </context>
+<context>
+    <name>MenuEntry</name>
+    <message>
+        <source>Document Camera</source>
+        <translation>書画カメラ</translation>
+    </message>
+    <message>
+        <source>Show, photograph and film what lies under the camera</source>
+        <translation>カメラの下にあるものを映す、撮る、録画する</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Look in:</source>
+        <translation>場所:</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>フォルダー:</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>選択</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>進む</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>上のフォルダー</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>新しいフォルダーを作成</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+フォルダーが見つかりません。
+フォルダー名が正しいか確認してください。</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Computer</source>
+        <translation>コンピューター</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
 </TS>

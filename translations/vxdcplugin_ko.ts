@@ -495,4 +495,72 @@ Capture</source>
         <translation>촬영을 중단합니다. 디스크 공간을 확보하십시오. </translation>
     </message>
 </context>
+<context>
+    <name>MenuEntry</name>
+    <message>
+        <source>Document Camera</source>
+        <translation>실물 화상기</translation>
+    </message>
+    <message>
+        <source>Show, photograph and film what lies under the camera</source>
+        <translation>카메라 아래에 있는 것을 보여 주고 촬영하고 녹화합니다</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Look in:</source>
+        <translation>찾는 위치:</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>폴더:</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>선택</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>뒤로</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>앞으로</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>상위 폴더</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>새 폴더 만들기</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+폴더를 찾을 수 없습니다.
+폴더 이름이 올바른지 확인하십시오.</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Computer</source>
+        <translation>컴퓨터</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>확인</translation>
+    </message>
+</context>
 </TS>

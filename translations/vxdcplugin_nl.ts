@@ -495,4 +495,72 @@ opname</translation>
         <translation>De opname wordt gestopt. Maak schijfruimte vrij. </translation>
     </message>
 </context>
+<context>
+    <name>MenuEntry</name>
+    <message>
+        <source>Document Camera</source>
+        <translation>Documentcamera</translation>
+    </message>
+    <message>
+        <source>Show, photograph and film what lies under the camera</source>
+        <translation>Tonen, fotograferen en filmen wat onder de camera ligt</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Look in:</source>
+        <translation>Zoeken in:</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Map:</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>Kiezen</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Terug</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vooruit</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>Bovenliggende map</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>Nieuwe map maken</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+De map is niet gevonden.
+Controleer of de naam van de map klopt.</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Computer</source>
+        <translation>Computer</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
 </TS>

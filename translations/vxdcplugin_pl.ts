@@ -492,7 +492,75 @@ seryjne</translation>
     </message>
     <message>
         <source>Taking a picture is discontinued. Please secure the free space. </source>
-        <translation>Nagrywanie zostaje przerwane. Zwolnij miejsce na dysku. </translation>
+        <translation>Robienie zdjęć i nagrywanie zostaje przerwane. Zwolnij miejsce na dysku. </translation>
+    </message>
+</context>
+<context>
+    <name>MenuEntry</name>
+    <message>
+        <source>Document Camera</source>
+        <translation>Wizualizer</translation>
+    </message>
+    <message>
+        <source>Show, photograph and film what lies under the camera</source>
+        <translation>Pokazuj, fotografuj i filmuj to, co leży pod kamerą</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Look in:</source>
+        <translation>Szukaj w:</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Folder:</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>Wybierz</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Wstecz</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Dalej</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>Folder nadrzędny</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>Utwórz nowy folder</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+Nie znaleziono folderu.
+Sprawdź, czy nazwa folderu jest poprawna.</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Computer</source>
+        <translation>Komputer</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 </TS>

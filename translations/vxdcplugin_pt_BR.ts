@@ -495,4 +495,72 @@ contínua</translation>
         <translation>A captura foi interrompida. Libere espaço. </translation>
     </message>
 </context>
+<context>
+    <name>MenuEntry</name>
+    <message>
+        <source>Document Camera</source>
+        <translation>Câmera de documentos</translation>
+    </message>
+    <message>
+        <source>Show, photograph and film what lies under the camera</source>
+        <translation>Mostrar, fotografar e filmar o que está sob a câmera</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Look in:</source>
+        <translation>Procurar em:</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Pasta:</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>Escolher</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Voltar</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Avançar</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>Pasta acima</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>Criar nova pasta</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+A pasta não foi encontrada.
+Verifique se o nome da pasta está correto.</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Computer</source>
+        <translation>Computador</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
 </TS>

@@ -495,4 +495,72 @@ continuă</translation>
         <translation>Captura se oprește. Eliberați spațiu. </translation>
     </message>
 </context>
+<context>
+    <name>MenuEntry</name>
+    <message>
+        <source>Document Camera</source>
+        <translation>Cameră de documente</translation>
+    </message>
+    <message>
+        <source>Show, photograph and film what lies under the camera</source>
+        <translation>Arătați, fotografiați și filmați ce se află sub cameră</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Look in:</source>
+        <translation>Caută în:</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Dosar:</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>Alege</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Înapoi</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Înainte</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>Dosarul părinte</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>Creează un dosar nou</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+Dosarul nu a fost găsit.
+Verificați dacă numele dosarului este corect.</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Computer</source>
+        <translation>Calculator</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Renunță</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
 </TS>

@@ -495,4 +495,72 @@ Capture</source>
         <translation>Съёмка прекращается. Освободите место. </translation>
     </message>
 </context>
+<context>
+    <name>MenuEntry</name>
+    <message>
+        <source>Document Camera</source>
+        <translation>Документ-камера</translation>
+    </message>
+    <message>
+        <source>Show, photograph and film what lies under the camera</source>
+        <translation>Показ, фотографирование и съёмка того, что лежит под камерой</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Look in:</source>
+        <translation>Искать в:</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Папка:</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>Выбрать</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Назад</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Вперёд</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>Родительская папка</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>Создать папку</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+Папка не найдена.
+Проверьте, правильно ли указано имя папки.</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Computer</source>
+        <translation>Компьютер</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>ОК</translation>
+    </message>
+</context>
 </TS>

@@ -492,7 +492,75 @@ tagning</translation>
     </message>
     <message>
         <source>Taking a picture is discontinued. Please secure the free space. </source>
-        <translation>Inspelningen avbryts. Frigör utrymme. </translation>
+        <translation>Fotograferingen avbryts. Frigör utrymme. </translation>
+    </message>
+</context>
+<context>
+    <name>MenuEntry</name>
+    <message>
+        <source>Document Camera</source>
+        <translation>Dokumentkamera</translation>
+    </message>
+    <message>
+        <source>Show, photograph and film what lies under the camera</source>
+        <translation>Visa, fotografera och filma det som ligger under kameran</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Look in:</source>
+        <translation>Leta i:</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Mapp:</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>Välj</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Bakåt</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Framåt</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>Överordnad mapp</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>Skapa ny mapp</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+Mappen hittades inte.
+Kontrollera att mappens namn är rätt.</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Computer</source>
+        <translation>Dator</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Avbryt</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 </TS>

@@ -495,4 +495,72 @@ Capture</source>
         <translation>Çekim durduruluyor. Lütfen yer açın. </translation>
     </message>
 </context>
+<context>
+    <name>MenuEntry</name>
+    <message>
+        <source>Document Camera</source>
+        <translation>Belge kamerası</translation>
+    </message>
+    <message>
+        <source>Show, photograph and film what lies under the camera</source>
+        <translation>Kameranın altındakini gösterin, fotoğraflayın ve filme alın</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Look in:</source>
+        <translation>Konum:</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Klasör:</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>Seç</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Geri</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>İleri</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>Üst klasör</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>Yeni klasör oluştur</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+Klasör bulunamadı.
+Lütfen klasör adının doğru olduğunu kontrol edin.</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Computer</source>
+        <translation>Bilgisayar</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Tamam</translation>
+    </message>
+</context>
 </TS>

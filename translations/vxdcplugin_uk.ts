@@ -495,4 +495,72 @@ Capture</source>
         <translation>Зйомку припинено. Звільніть місце. </translation>
     </message>
 </context>
+<context>
+    <name>MenuEntry</name>
+    <message>
+        <source>Document Camera</source>
+        <translation>Документ-камера</translation>
+    </message>
+    <message>
+        <source>Show, photograph and film what lies under the camera</source>
+        <translation>Показ, фотографування та знімання того, що лежить під камерою</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Look in:</source>
+        <translation>Шукати в:</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Тека:</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>Вибрати</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Назад</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Вперед</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>Батьківська тека</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>Створити теку</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+Теку не знайдено.
+Перевірте, чи правильно вказано її назву.</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Computer</source>
+        <translation>Комп’ютер</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Скасувати</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Гаразд</translation>
+    </message>
+</context>
 </TS>

@@ -492,7 +492,75 @@ liên tục</translation>
     </message>
     <message>
         <source>Taking a picture is discontinued. Please secure the free space. </source>
-        <translation>Đang dừng ghi hình. Hãy giải phóng dung lượng đĩa. </translation>
+        <translation>Đang dừng chụp. Hãy giải phóng dung lượng đĩa. </translation>
+    </message>
+</context>
+<context>
+    <name>MenuEntry</name>
+    <message>
+        <source>Document Camera</source>
+        <translation>Camera tài liệu</translation>
+    </message>
+    <message>
+        <source>Show, photograph and film what lies under the camera</source>
+        <translation>Hiển thị, chụp và quay những gì nằm dưới camera</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Look in:</source>
+        <translation>Tìm trong:</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Thư mục:</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>Chọn</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Lùi</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Tiến</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>Thư mục cha</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>Tạo thư mục mới</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+Không tìm thấy thư mục.
+Hãy kiểm tra lại tên thư mục.</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Computer</source>
+        <translation>Máy tính</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Hủy</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 </TS>

@@ -495,4 +495,72 @@ Capture</source>
         <translation>拍攝已中止。請釋出磁碟空間。 </translation>
     </message>
 </context>
+<context>
+    <name>MenuEntry</name>
+    <message>
+        <source>Document Camera</source>
+        <translation>實物攝影機</translation>
+    </message>
+    <message>
+        <source>Show, photograph and film what lies under the camera</source>
+        <translation>顯示、拍攝並錄製攝影機下的內容</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Look in:</source>
+        <translation>查詢位置:</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>資料夾:</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>選擇</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>上一步</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>下一步</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>上層資料夾</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>建立新資料夾</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+找不到該資料夾。
+請確認資料夾名稱是否正確。</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Computer</source>
+        <translation>電腦</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>確定</translation>
+    </message>
+</context>
 </TS>

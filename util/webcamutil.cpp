@@ -26,11 +26,17 @@ QStringList WebcamUtil::m_tempbmpfilenameList;
 QStringList WebcamUtil::m_tempmoviefilenameList;
 QStringList WebcamUtil::m_savefilenameList;
 
+static void remove(const char *operation, const QString &path)
+{
+    if (!QFile::remove(path) && QFile::exists(path))
+        noteFileFault(operation, path);
+}
+
 // False when the disk did not answer; that the file could not be removed is no matter.
 static bool removeFile(const char *operation, const QString &path)
 {
-    return askDisk(operation, path, false, [path] {
-        QFile::remove(path);
+    return askDisk(operation, path, false, [operation, path] {
+        remove(operation, path);
         return true;
     });
 }
@@ -84,7 +90,10 @@ QString WebcamUtil::existingTemporaryPath()
 
 void WebcamUtil::deleteTemporaryPath()
 {
-    removeWorkingFolder(m_pictureDataPath);
+    askDisk("deleteTemporaryPath", m_pictureDataPath, false, [path = m_pictureDataPath] {
+        removeWorkingFolder(path);
+        return true;
+    });
     m_pictureDataPath.clear();
 }
 
@@ -208,7 +217,7 @@ void WebcamUtil::deleteData()
     const QStringList names = getFileList({});
     askDisk("deleteData", folder, false, [folder, names] {
         for (const QString &name : names)
-            QFile::remove(folder + "/" + name);
+            remove("deleteData", folder + "/" + name);
         return true;
     });
 }

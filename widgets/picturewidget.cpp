@@ -47,7 +47,6 @@ void PictureWidget::take(const QImage &picture)
 {
     m_pixmap = QPixmap::fromImage(picture);
     update();
-    emit pictureChanged();
 }
 
 void PictureWidget::paintEvent(QPaintEvent *)

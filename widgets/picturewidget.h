@@ -53,8 +53,6 @@ public slots:
 signals:
     void onZoom(PictureWidget *picture);
     void onBack(PictureWidget *picture);
-    // What is shown has been replaced, by a picture or by nothing.
-    void pictureChanged();
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -174,6 +174,15 @@ void TestTrouble::aCameraComesBack()
     };
     QTRY_VERIFY_WITH_TIMEOUT(isLive(), 3000);
 
+    // While the message is read, on another screen.
+    Program::click(Program::liveRow(4));
+    QTRY_COMPARE(Program::buttonsShown(), 4);
+    m_devices->pull("cam");
+    QTRY_COMPARE(Program::windows(), 2);
+    m_devices->plug("cam");
+    answerMessage();
+    QTRY_VERIFY_WITH_TIMEOUT(isLive(), 3000);
+
     for (int round = 0; round < 2; ++round) {
         m_devices->pull("cam");
         answerMessage();

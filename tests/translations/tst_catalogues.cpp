@@ -98,7 +98,7 @@ private slots:
     {
         applyLook();
         QStringList arguments{"-silent", "-no-obsolete", "-locations", "none"};
-        for (const char *folder : {"app", "dialog", "capture", "widgets", "util", "settings"})
+        for (const char *folder : {"app", "dialog", "capture", "widgets", "util", "settings", "translations"})
             arguments << PROJECT_FOLDER "/" + QString(folder);
         arguments << "-ts";
         for (const QString &file : files()) {

@@ -12,6 +12,16 @@ static QString firstFolder(const QString &wanted)
                    [wanted] { return QDir(wanted).exists() ? wanted : QDir::homePath(); });
 }
 
+// Names alone, and no kind to choose: there are only folders, and their names are days.
+static void keepSimple(QFileDialog &chooser)
+{
+    chooser.setViewMode(QFileDialog::List);
+    for (const char *name : {"listModeButton", "detailModeButton", "fileTypeLabel", "fileTypeCombo"}) {
+        if (auto *widget = chooser.findChild<QWidget *>(name))
+            widget->hide();
+    }
+}
+
 QString chooseFolder(QWidget *parent, const QString &title, const QString &folder,
                      QFileDialog::Options further)
 {
@@ -19,6 +29,7 @@ QString chooseFolder(QWidget *parent, const QString &title, const QString &folde
     chooser.setFileMode(QFileDialog::Directory);
     chooser.setOptions(QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks |
                        QFileDialog::DontUseNativeDialog | further);
+    keepSimple(chooser);
     chooser.setWindowFlags(Qt::Dialog | Qt::WindowSystemMenuHint | Qt::WindowStaysOnTopHint);
     chooser.setModal(true); // before it is shown: exec() comes too late for that
     fitOnScreen(&chooser);

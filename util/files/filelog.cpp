@@ -12,6 +12,11 @@ void noteFileFault(const char *operation, const QString &path)
     qCWarning(files, "%s: %s: %s", operation, qUtf8Printable(path), qUtf8Printable(qt_error_string(error)));
 }
 
+void noteUnexplainedFault(const char *operation, const QString &path)
+{
+    qCWarning(files, "%s: %s: not possible", operation, qUtf8Printable(path));
+}
+
 void noteSilentDisk(const char *operation, const QString &path)
 {
     qCWarning(files, "%s: no answer from the disk of %s", operation, qUtf8Printable(path));

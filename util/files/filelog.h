@@ -7,6 +7,9 @@
 // Says what could not be done with the path, and the system's own reason, which is that of errno.
 void noteFileFault(const char *operation, const QString &path);
 
+// The same, where the system's reason is not known.
+void noteUnexplainedFault(const char *operation, const QString &path);
+
 // Says that the disk did not answer.
 void noteSilentDisk(const char *operation, const QString &path);
 
