@@ -1,17 +1,12 @@
 #include "platform/camerapipeline.h"
 
+#include "platform/optionalproperty.h"
 #include "platform/requiredelements.h"
 
 #include <gst/app/gstappsink.h>
 
 namespace
 {
-
-void setIfPresent(GstElement *element, const char *property, const char *value)
-{
-    if (g_object_class_find_property(G_OBJECT_GET_CLASS(element), property))
-        gst_util_set_object_arg(G_OBJECT(element), property, value);
-}
 
 // Has a camera keep its rate in a dim room, where it would else take longer for each frame. The names that
 // the kernel has had for it; a driver without them, or a source that is none of the kernel's, stays as it is.

@@ -21,7 +21,6 @@ constexpr auto microphoneWait = 2s;
 constexpr auto fileWait = 450ms;
 constexpr auto lastFileWait = 30s;
 constexpr auto longestSoundGap = 2s;
-constexpr auto wholeFrameWait = 1s;
 
 enum class Start { Runs, NoPicture, Failed };
 

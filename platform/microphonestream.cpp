@@ -1,6 +1,7 @@
 #include "platform/microphonestream.h"
 
 #include "platform/capturelog.h"
+#include "platform/optionalproperty.h"
 #include "platform/soundtrack.h"
 
 #include <gst/app/gstappsink.h>
@@ -12,12 +13,6 @@ namespace
 
 // Frames that a microphone lost, unlike what its stamps tremble.
 constexpr GstClockTime leastLoss = 20 * GST_MSECOND;
-
-void setIfPresent(GstElement *element, const char *property, const char *value)
-{
-    if (g_object_class_find_property(G_OBJECT_GET_CLASS(element), property))
-        gst_util_set_object_arg(G_OBJECT(element), property, value);
-}
 
 } // namespace
 

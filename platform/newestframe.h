@@ -6,6 +6,9 @@
 #include <condition_variable>
 #include <mutex>
 
+// How long a picture waits for a frame that is not damaged.
+constexpr std::chrono::seconds wholeFrameWait(1);
+
 // The latest frame of a camera, handed from the thread that grabs it to whoever needs a picture.
 class NewestFrame
 {

@@ -18,9 +18,6 @@
 namespace
 {
 
-using namespace std::chrono_literals;
-
-constexpr auto wholeFrameWait = 1s;
 
 // An RGB image in memory that comes fast; null when there is none.
 QImage largeImage(const QSize &size)
