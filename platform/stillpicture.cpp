@@ -18,7 +18,6 @@
 namespace
 {
 
-
 // An RGB image in memory that comes fast; null when there is none.
 QImage largeImage(const QSize &size)
 {
