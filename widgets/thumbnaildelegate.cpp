@@ -13,6 +13,10 @@ void ThumbnailDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opt
 {
     QStyleOptionViewItem unframed = option;
     unframed.state.setFlag(QStyle::State_HasFocus, false);
+    // The name no wider than the picture, so that no frame lies over it.
+    const int margin = qMax(0, (option.rect.width() - option.decorationSize.width()) / 2);
+    unframed.rect.adjust(margin, 0, -margin, 0);
+    unframed.direction = Qt::LeftToRight; // a file's name reads so in every language
     QStyledItemDelegate::paint(painter, unframed, index);
     const bool byKeyboard = option.state & QStyle::State_KeyboardFocusChange;
     const bool isFocused = byKeyboard && (option.state & QStyle::State_HasFocus);
