@@ -89,8 +89,8 @@ void Gallery::takePhotos()
     press(Program::liveRow(2), "EdEdd"); // with the self-timer: its countdown begins a second later
     QTest::qWait(2000);
     shoot("countdown");
-    while (!QTest::qWaitFor([] { return Program::captures().size() >= photosInGrid; }, 200))
-        Program::click(Program::liveRow(2));
+    waitFor(
+        "the series", [] { return Program::captures().size() >= photosInGrid; }, 30000);
     shoot("series");
     press(Program::liveRow(0), "EEEEE");
 }
