@@ -494,6 +494,12 @@ Capture</source>
         <source>Taking a picture is discontinued. Please secure the free space. </source>
         <translation>تم إيقاف الالتقاط. يُرجى توفير مساحة خالية. </translation>
     </message>
+    <message>
+        <source>Nothing can be taken while this folder is a link or is not yours alone:
+</source>
+        <translation>لا يمكن التقاط أي شيء ما دام هذا المجلد رابطًا أو ليس لك وحدك:
+</translation>
+    </message>
 </context>
 <context>
     <name>MenuEntry</name>

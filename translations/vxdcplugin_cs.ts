@@ -494,6 +494,12 @@ snímky</translation>
         <source>Taking a picture is discontinued. Please secure the free space. </source>
         <translation>Snímání bylo ukončeno. Uvolněte místo na disku. </translation>
     </message>
+    <message>
+        <source>Nothing can be taken while this folder is a link or is not yours alone:
+</source>
+        <translation>Nelze nic pořídit, dokud je tato složka odkazem nebo nepatří jen vám:
+</translation>
+    </message>
 </context>
 <context>
     <name>MenuEntry</name>

@@ -494,6 +494,12 @@ optagelse</translation>
         <source>Taking a picture is discontinued. Please secure the free space. </source>
         <translation>Optagelsen stoppes. Frigør plads. </translation>
     </message>
+    <message>
+        <source>Nothing can be taken while this folder is a link or is not yours alone:
+</source>
+        <translation>Der kan ikke optages noget, så længe denne mappe er et link eller ikke kun er din:
+</translation>
+    </message>
 </context>
 <context>
     <name>MenuEntry</name>

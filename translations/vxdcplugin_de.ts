@@ -494,6 +494,12 @@ aufnahme</translation>
         <source>Taking a picture is discontinued. Please secure the free space. </source>
         <translation>Die Aufnahme wird beendet. Bitte Platz schaffen. </translation>
     </message>
+    <message>
+        <source>Nothing can be taken while this folder is a link or is not yours alone:
+</source>
+        <translation>Es kann nichts aufgenommen werden, solange dieser Ordner ein Verweis ist oder nicht Ihnen allein gehört:
+</translation>
+    </message>
 </context>
 <context>
     <name>MenuEntry</name>

@@ -494,6 +494,12 @@ Capture</source>
         <source>Taking a picture is discontinued. Please secure the free space. </source>
         <translation>Η λήψη διακόπτεται. Ελευθερώστε χώρο. </translation>
     </message>
+    <message>
+        <source>Nothing can be taken while this folder is a link or is not yours alone:
+</source>
+        <translation>Δεν είναι δυνατή καμία λήψη όσο αυτός ο φάκελος είναι σύνδεσμος ή δεν είναι αποκλειστικά δικός σας:
+</translation>
+    </message>
 </context>
 <context>
     <name>MenuEntry</name>

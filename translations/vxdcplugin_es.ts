@@ -494,6 +494,12 @@ continua</translation>
         <source>Taking a picture is discontinued. Please secure the free space. </source>
         <translation>Se interrumpe la captura. Libere espacio. </translation>
     </message>
+    <message>
+        <source>Nothing can be taken while this folder is a link or is not yours alone:
+</source>
+        <translation>No se puede capturar nada mientras esta carpeta sea un enlace o no sea solo suya:
+</translation>
+    </message>
 </context>
 <context>
     <name>MenuEntry</name>

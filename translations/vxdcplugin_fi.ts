@@ -494,6 +494,12 @@ kuvaus</translation>
         <source>Taking a picture is discontinued. Please secure the free space. </source>
         <translation>Kuvaus keskeytetään. Vapauta levytilaa. </translation>
     </message>
+    <message>
+        <source>Nothing can be taken while this folder is a link or is not yours alone:
+</source>
+        <translation>Mitään ei voi tallentaa niin kauan kuin tämä kansio on linkki tai ei ole yksin sinun:
+</translation>
+    </message>
 </context>
 <context>
     <name>MenuEntry</name>

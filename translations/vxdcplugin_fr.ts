@@ -494,6 +494,12 @@ en rafale</translation>
         <source>Taking a picture is discontinued. Please secure the free space. </source>
         <translation>La prise de vue est interrompue. Libérez de l’espace. </translation>
     </message>
+    <message>
+        <source>Nothing can be taken while this folder is a link or is not yours alone:
+</source>
+        <translation>Rien ne peut être enregistré tant que ce dossier est un lien ou n’est pas à vous seul :
+</translation>
+    </message>
 </context>
 <context>
     <name>MenuEntry</name>

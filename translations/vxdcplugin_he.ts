@@ -494,6 +494,12 @@ Capture</source>
         <source>Taking a picture is discontinued. Please secure the free space. </source>
         <translation>הצילום הופסק. נא לפנות מקום. </translation>
     </message>
+    <message>
+        <source>Nothing can be taken while this folder is a link or is not yours alone:
+</source>
+        <translation>לא ניתן לצלם דבר כל עוד תיקייה זו היא קישור או אינה שלך בלבד:
+</translation>
+    </message>
 </context>
 <context>
     <name>MenuEntry</name>

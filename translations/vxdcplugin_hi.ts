@@ -494,6 +494,12 @@ Capture</source>
         <source>Taking a picture is discontinued. Please secure the free space. </source>
         <translation>फ़ोटो या वीडियो लेना रोका जा रहा है। कृपया जगह खाली करें। </translation>
     </message>
+    <message>
+        <source>Nothing can be taken while this folder is a link or is not yours alone:
+</source>
+        <translation>जब तक यह फ़ोल्डर एक लिंक है या केवल आपका नहीं है, कुछ भी कैप्चर नहीं किया जा सकता:
+</translation>
+    </message>
 </context>
 <context>
     <name>MenuEntry</name>

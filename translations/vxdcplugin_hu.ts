@@ -494,6 +494,12 @@ felvétel</translation>
         <source>Taking a picture is discontinued. Please secure the free space. </source>
         <translation>A felvétel leáll. Szabadítson fel helyet. </translation>
     </message>
+    <message>
+        <source>Nothing can be taken while this folder is a link or is not yours alone:
+</source>
+        <translation>Nem készíthető felvétel, amíg ez a mappa hivatkozás, vagy nem csak az Öné:
+</translation>
+    </message>
 </context>
 <context>
     <name>MenuEntry</name>

@@ -494,6 +494,12 @@ beruntun</translation>
         <source>Taking a picture is discontinued. Please secure the free space. </source>
         <translation>Pengambilan gambar dihentikan. Kosongkan ruang disk. </translation>
     </message>
+    <message>
+        <source>Nothing can be taken while this folder is a link or is not yours alone:
+</source>
+        <translation>Tidak ada yang dapat diambil selama folder ini berupa tautan atau bukan milik Anda sendiri:
+</translation>
+    </message>
 </context>
 <context>
     <name>MenuEntry</name>

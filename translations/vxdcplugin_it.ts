@@ -494,6 +494,12 @@ continuo</translation>
         <source>Taking a picture is discontinued. Please secure the free space. </source>
         <translation>La ripresa viene interrotta. Liberare spazio. </translation>
     </message>
+    <message>
+        <source>Nothing can be taken while this folder is a link or is not yours alone:
+</source>
+        <translation>Non è possibile acquisire nulla finché questa cartella è un collegamento o non è solo sua:
+</translation>
+    </message>
 </context>
 <context>
     <name>MenuEntry</name>

@@ -494,6 +494,12 @@ Capture</source>
         <source>Taking a picture is discontinued. Please secure the free space. </source>
         <translation>撮影を中止します。空き容量を確保してください。 </translation>
     </message>
+    <message>
+        <source>Nothing can be taken while this folder is a link or is not yours alone:
+</source>
+        <translation>このフォルダーがリンクであるか、あなただけのものでない間は、撮影できません:
+</translation>
+    </message>
 </context>
 <context>
     <name>MenuEntry</name>

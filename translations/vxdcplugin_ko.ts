@@ -494,6 +494,12 @@ Capture</source>
         <source>Taking a picture is discontinued. Please secure the free space. </source>
         <translation>촬영을 중단합니다. 디스크 공간을 확보하십시오. </translation>
     </message>
+    <message>
+        <source>Nothing can be taken while this folder is a link or is not yours alone:
+</source>
+        <translation>이 폴더가 링크이거나 본인만의 폴더가 아니면 촬영할 수 없습니다:
+</translation>
+    </message>
 </context>
 <context>
     <name>MenuEntry</name>

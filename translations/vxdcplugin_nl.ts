@@ -494,6 +494,12 @@ opname</translation>
         <source>Taking a picture is discontinued. Please secure the free space. </source>
         <translation>De opname wordt gestopt. Maak schijfruimte vrij. </translation>
     </message>
+    <message>
+        <source>Nothing can be taken while this folder is a link or is not yours alone:
+</source>
+        <translation>Er kan niets worden opgenomen zolang deze map een koppeling is of niet van u alleen is:
+</translation>
+    </message>
 </context>
 <context>
     <name>MenuEntry</name>

@@ -494,6 +494,12 @@ opptak</translation>
         <source>Taking a picture is discontinued. Please secure the free space. </source>
         <translation>Opptaket avbrytes. Frigjør plass. </translation>
     </message>
+    <message>
+        <source>Nothing can be taken while this folder is a link or is not yours alone:
+</source>
+        <translation>Ingenting kan tas opp så lenge denne mappen er en lenke eller ikke bare er din:
+</translation>
+    </message>
 </context>
 <context>
     <name>MenuEntry</name>

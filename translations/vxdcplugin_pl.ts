@@ -494,6 +494,12 @@ seryjne</translation>
         <source>Taking a picture is discontinued. Please secure the free space. </source>
         <translation>Robienie zdjęć i nagrywanie zostaje przerwane. Zwolnij miejsce na dysku. </translation>
     </message>
+    <message>
+        <source>Nothing can be taken while this folder is a link or is not yours alone:
+</source>
+        <translation>Nie można niczego zarejestrować, dopóki ten folder jest łączem lub nie należy wyłącznie do Ciebie:
+</translation>
+    </message>
 </context>
 <context>
     <name>MenuEntry</name>

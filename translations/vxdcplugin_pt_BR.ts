@@ -494,6 +494,12 @@ contínua</translation>
         <source>Taking a picture is discontinued. Please secure the free space. </source>
         <translation>A captura foi interrompida. Libere espaço. </translation>
     </message>
+    <message>
+        <source>Nothing can be taken while this folder is a link or is not yours alone:
+</source>
+        <translation>Não é possível capturar nada enquanto esta pasta for um link ou não for somente sua:
+</translation>
+    </message>
 </context>
 <context>
     <name>MenuEntry</name>

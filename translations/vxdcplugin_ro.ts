@@ -494,6 +494,12 @@ continuă</translation>
         <source>Taking a picture is discontinued. Please secure the free space. </source>
         <translation>Captura se oprește. Eliberați spațiu. </translation>
     </message>
+    <message>
+        <source>Nothing can be taken while this folder is a link or is not yours alone:
+</source>
+        <translation>Nu se poate captura nimic cât timp acest dosar este o legătură sau nu este doar al dumneavoastră:
+</translation>
+    </message>
 </context>
 <context>
     <name>MenuEntry</name>

@@ -494,6 +494,12 @@ Capture</source>
         <source>Taking a picture is discontinued. Please secure the free space. </source>
         <translation>Съёмка прекращается. Освободите место. </translation>
     </message>
+    <message>
+        <source>Nothing can be taken while this folder is a link or is not yours alone:
+</source>
+        <translation>Съёмка невозможна, пока эта папка является ссылкой или принадлежит не только вам:
+</translation>
+    </message>
 </context>
 <context>
     <name>MenuEntry</name>

@@ -494,6 +494,12 @@ tagning</translation>
         <source>Taking a picture is discontinued. Please secure the free space. </source>
         <translation>Fotograferingen avbryts. Frigör utrymme. </translation>
     </message>
+    <message>
+        <source>Nothing can be taken while this folder is a link or is not yours alone:
+</source>
+        <translation>Inget kan tas så länge den här mappen är en länk eller inte bara är din:
+</translation>
+    </message>
 </context>
 <context>
     <name>MenuEntry</name>

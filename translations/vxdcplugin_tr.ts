@@ -494,6 +494,12 @@ Capture</source>
         <source>Taking a picture is discontinued. Please secure the free space. </source>
         <translation>Çekim durduruluyor. Lütfen yer açın. </translation>
     </message>
+    <message>
+        <source>Nothing can be taken while this folder is a link or is not yours alone:
+</source>
+        <translation>Bu klasör bir bağlantı olduğu veya yalnızca size ait olmadığı sürece hiçbir şey çekilemez:
+</translation>
+    </message>
 </context>
 <context>
     <name>MenuEntry</name>

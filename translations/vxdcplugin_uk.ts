@@ -494,6 +494,12 @@ Capture</source>
         <source>Taking a picture is discontinued. Please secure the free space. </source>
         <translation>Зйомку припинено. Звільніть місце. </translation>
     </message>
+    <message>
+        <source>Nothing can be taken while this folder is a link or is not yours alone:
+</source>
+        <translation>Зйомка неможлива, доки ця тека є посиланням або належить не лише вам:
+</translation>
+    </message>
 </context>
 <context>
     <name>MenuEntry</name>

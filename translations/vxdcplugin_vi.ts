@@ -494,6 +494,12 @@ liên tục</translation>
         <source>Taking a picture is discontinued. Please secure the free space. </source>
         <translation>Đang dừng chụp. Hãy giải phóng dung lượng đĩa. </translation>
     </message>
+    <message>
+        <source>Nothing can be taken while this folder is a link or is not yours alone:
+</source>
+        <translation>Không thể chụp gì khi thư mục này là một liên kết hoặc không phải của riêng bạn:
+</translation>
+    </message>
 </context>
 <context>
     <name>MenuEntry</name>

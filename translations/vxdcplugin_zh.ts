@@ -494,6 +494,12 @@ Capture</source>
         <source>Taking a picture is discontinued. Please secure the free space. </source>
         <translation>拍摄已中止。请释放磁盘空间。 </translation>
     </message>
+    <message>
+        <source>Nothing can be taken while this folder is a link or is not yours alone:
+</source>
+        <translation>只要此文件夹是链接或并非您独有，就无法拍摄：
+</translation>
+    </message>
 </context>
 <context>
     <name>MenuEntry</name>

@@ -494,6 +494,12 @@ Capture</source>
         <source>Taking a picture is discontinued. Please secure the free space. </source>
         <translation>拍攝已中止。請釋出磁碟空間。 </translation>
     </message>
+    <message>
+        <source>Nothing can be taken while this folder is a link or is not yours alone:
+</source>
+        <translation>只要此資料夾是連結或並非您獨有，就無法拍攝：
+</translation>
+    </message>
 </context>
 <context>
     <name>MenuEntry</name>

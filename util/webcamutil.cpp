@@ -15,6 +15,7 @@
 #include <QFile>
 
 #include <atomic>
+#include <cerrno>
 #include <chrono>
 #include <memory>
 #include <optional>
@@ -44,6 +45,16 @@ static bool removeFile(const char *operation, const QString &path)
 static QStringList listFiles(const char *operation, const QString &folder, const QStringList &filters)
 {
     return askDisk(operation, folder, QStringList(), [=] { return filesOldestFirst(folder, filters); });
+}
+
+// Where something is in the working folder's place that must not be used; else empty.
+static QString refusedWorkingFolder()
+{
+    const QString folder = workingFolder();
+    return askDisk("refusedWorkingFolder", folder, QString(), [folder] {
+        const bool isRefused = !folder.isEmpty() && !keepPrivate(folder) && errno != ENOENT;
+        return isRefused ? folder : QString();
+    });
 }
 
 static QStringList listMovies(const char *operation, const QString &folder)
@@ -84,7 +95,7 @@ QString WebcamUtil::existingTemporaryPath()
 {
     m_pictureDataPath =
         askDisk("existingTemporaryPath", m_pictureDataPath, QString(),
-                [known = m_pictureDataPath] { return isOwnFolder(known) ? known : makeWorkingFolder(); });
+                [known = m_pictureDataPath] { return keepPrivate(known) ? known : makeWorkingFolder(); });
     return m_pictureDataPath;
 }
 
@@ -164,7 +175,7 @@ bool WebcamUtil::isSaveFile()
 {
     using Found = std::optional<std::pair<QString, QStringList>>; // the folder, and what is in it
     const Found found = askDisk("isSaveFile", m_pictureDataPath, Found(), [known = m_pictureDataPath] {
-        const QString folder = known.isEmpty() ? makeWorkingFolder() : known;
+        const QString folder = keepPrivate(known) ? known : makeWorkingFolder();
         return Found({folder, filesOldestFirst(folder, {})});
     });
     if (!found)
@@ -269,15 +280,19 @@ void WebcamUtil::WarningMessage(const QString &text, QWidget *parent)
 
 void WebcamUtil::ShowDiskWorningMessage(QWidget *parent)
 {
-    const QString text = tr("The disk free space is insufficient.\n") +
-                         tr("Taking a picture is discontinued. Please secure the free space. ");
+    const QString refused = refusedWorkingFolder();
+    const QString text =
+        refused.isEmpty()
+            ? tr("The disk free space is insufficient.\n") +
+                  tr("Taking a picture is discontinued. Please secure the free space. ")
+            : tr("Nothing can be taken while this folder is a link or is not yours alone:\n") + refused;
     showMessage(QMessageBox::Warning, text, parent);
 }
 
 bool WebcamUtil::chkdiskFreeSpace()
 {
     const QString folder = existingTemporaryPath();
-    return askDisk("chkdiskFreeSpace", folder, false, [folder] {
+    return !folder.isEmpty() && askDisk("chkdiskFreeSpace", folder, false, [folder] {
         const bool isEnough = enoughFreeSpaceAt(folder);
         if (!isEnough)
             noteFullDisk("chkdiskFreeSpace", folder);

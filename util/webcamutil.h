@@ -33,7 +33,7 @@ public:
     static QString getDocumentPath();
 
     // Takes the working folder as m_pictureDataPath, making it for this user alone when it is missing. Empty
-    // when that fails, and when what is there is not a real folder of this user.
+    // when that fails, and when what is there is not a real folder of this user that can be kept private.
     static void setTemporaryPath();
     // The working folder's absolute path; empty when it cannot be made, which every later call tries again.
     static QString getTemporaryPath();
@@ -113,6 +113,7 @@ public:
     static void CriticalMessage(const QString &text, QWidget *parent);
     // This one keeps itself above every other window.
     static void WarningMessage(const QString &text, QWidget *parent);
+    // That there is too little room, or, where that is why, that the working folder must not be used.
     static void ShowDiskWorningMessage(QWidget *parent);
 
     // --- Checks ---

@@ -8,6 +8,7 @@
 #include <memory>
 #include <mutex>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <thread>
 #include <unistd.h>
 
@@ -17,6 +18,16 @@ extern "C" int lstat(const char *path, struct stat *status) noexcept
 {
     const std::lock_guard<std::mutex> answer(disk);
     return fstatat(AT_FDCWD, path, status, AT_SYMLINK_NOFOLLOW);
+}
+
+// The folders whose names were brought to the disk while the working copy was still there.
+static QString workingCopy;
+static QStringList synced;
+extern "C" int fsync(int file)
+{
+    if (QFile::exists(workingCopy))
+        synced += QFile::symLinkTarget("/proc/self/fd/" + QString::number(file));
+    return int(syscall(SYS_fsync, file));
 }
 
 // The working folder and its names, what it lists, and the move into the save folder.
@@ -96,11 +107,13 @@ private slots:
         QCOMPARE(WebcamUtil::getTemporaryPath(), path);
         struct stat status = {};
         QVERIFY(lstat(folder, &status) == 0 && status.st_mode == (S_IFDIR | 0700));
+        QVERIFY(chmod(folder, 0577) == 0 && WebcamUtil::chkdiskFreeSpace());
+        QVERIFY(lstat(folder, &status) == 0 && status.st_mode == (S_IFDIR | 0700));
         for (const bool isLink : {true, false}) {
             WebcamUtil::deleteTemporaryPath();
             if (isLink)
                 QCOMPARE(symlink(QFile::encodeName(base()), folder), 0);
-            else if (mkdir(folder, 0777) != 0 || chown(folder, 12345, 12345) != 0)
+            else if (mkdir(folder, 0700) != 0 || chown(folder, 12345, 12345) != 0)
                 QSKIP("only root can give a folder away");
             QCOMPARE(WebcamUtil::getTemporaryPath(), QString());
             QVERIFY(!WebcamUtil::chkdiskFreeSpace() && !WebcamUtil::isSaveFile());
@@ -185,6 +198,27 @@ private slots:
             QVERIFY(read(saved("movie1.mov")) == movie && read(saved("photo1.png")) == "one");
             QCOMPARE(read(saved("photo2.png")), QByteArray("older")); // a clash keeps what was saved first
             QCOMPARE(QFileInfo(saved("photo1.png")).lastModified().toMSecsSinceEpoch(), 1000005);
+        }
+    }
+
+    void newFoldersAreSharedAndLast()
+    {
+        for (const auto &[base, made] :
+             {std::pair(0755U, 0755U), std::pair(0777U, 01777U), std::pair(02770U, 03775U)}) {
+            init();
+            QVERIFY(QDir(m_tmp->filePath("save")).removeRecursively() && write(working("photo1.png"), "x"));
+            const QString folder = m_tmp->filePath("save");
+            QVERIFY(QDir().mkdir(folder) && chmod(QFile::encodeName(folder), base) == 0);
+            workingCopy = working("photo1.png");
+            synced.clear();
+            QVERIFY(WebcamUtil::saveData(folder));
+            for (const QString &path : QStringList{saved().chopped(1), folder + "/VeltrixCamera"}) {
+                struct stat status = {};
+                QCOMPARE(stat(QFile::encodeName(path), &status), 0);
+                QCOMPARE(status.st_mode & 07777U, made);
+                QVERIFY2(synced.contains(path), qPrintable(synced.join(' ')));
+            }
+            QVERIFY2(synced.contains(folder), qPrintable(synced.join(' ')));
         }
     }
 

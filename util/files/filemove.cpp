@@ -1,5 +1,6 @@
 #include "util/files/filemove.h"
 
+#include "util/files/descriptor.h"
 #include "util/files/filelog.h"
 #include "util/files/wholefile.h"
 
@@ -15,23 +16,6 @@
 
 namespace
 {
-
-class Descriptor
-{
-public:
-    explicit Descriptor(int descriptor) : m_descriptor(descriptor) {}
-    ~Descriptor()
-    {
-        if (m_descriptor >= 0)
-            close(m_descriptor);
-    }
-    Descriptor(Descriptor &&other) noexcept : m_descriptor(std::exchange(other.m_descriptor, -1)) {}
-    Descriptor &operator=(Descriptor &&) = delete;
-    operator int() const { return m_descriptor; }
-
-private:
-    int m_descriptor;
-};
 
 // How a file is copied.
 struct Copying {
@@ -196,6 +180,9 @@ bool FilePlacement::giveSecondName() const
 bool syncFolder(const QString &path)
 {
     const Descriptor folder(open(QFile::encodeName(path), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    // Nor can one be synced that may be written to but not read.
+    if (folder < 0)
+        return errno == EACCES;
     // Some file systems cannot sync a folder; nothing better can be done there.
-    return folder >= 0 && (fsync(folder) == 0 || errno == EINVAL);
+    return fsync(folder) == 0 || errno == EINVAL;
 }

@@ -44,5 +44,5 @@ private:
 };
 
 // Waits until the names in the folder are on the disk. False when the disk has failed to take them; it cannot
-// be told where the file system does not sync folders.
+// be told of a folder that may not be read, or where the file system does not sync folders.
 bool syncFolder(const QString &path);

@@ -7,35 +7,49 @@
 #include <QFile>
 
 #include <cerrno>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 static const QString folderName = QStringLiteral("/VeltrixCamera");
 
 // The temporary folder belongs to everybody: whoever takes the name first, or lays a link there, would see
-// the captures or choose where they go. So only a real folder of this user will do.
-bool isOwnFolder(const QString &path)
+// the captures or choose where they go. So only a real folder of this user will do, and nobody else may enter
+// it.
+bool keepPrivate(const QString &path)
 {
+    const QByteArray name = QFile::encodeName(path);
     struct stat status = {};
-    return lstat(QFile::encodeName(path), &status) == 0 && S_ISDIR(status.st_mode) &&
-           status.st_uid == geteuid();
+    if (lstat(name, &status) != 0)
+        return false;
+    if (S_ISDIR(status.st_mode) && status.st_uid == geteuid())
+        return (status.st_mode & ACCESSPERMS) == S_IRWXU ||
+               fchmodat(AT_FDCWD, name, S_IRWXU, AT_SYMLINK_NOFOLLOW) == 0;
+    errno = EPERM;
+    return false;
 }
 
-QString makeWorkingFolder()
+bool makePrivateFolder(const QString &path)
+{
+    const bool isThere = mkdir(QFile::encodeName(path), S_IRWXU) == 0 || errno == EEXIST;
+    const bool isPrivate = isThere && keepPrivate(path);
+    if (!isPrivate)
+        noteFileFault("make folder", path);
+    return isPrivate;
+}
+
+QString workingFolder()
 {
     const QString temporary = QDir::tempPath(); // empty when it does not exist
     if (temporary.isEmpty())
         return QString();
-    QString path = QDir(temporary + folderName + "_" + QString::number(geteuid())).absolutePath();
-    if (mkdir(QFile::encodeName(path), S_IRWXU) != 0 && errno != EEXIST) {
-        noteFileFault("make folder", path);
-        return QString();
-    }
-    if (isOwnFolder(path))
-        return path;
-    errno = EPERM;
-    noteFileFault("make folder", path);
-    return QString();
+    return QDir(temporary + folderName + "_" + QString::number(geteuid())).absolutePath();
+}
+
+QString makeWorkingFolder()
+{
+    QString path = workingFolder();
+    return !path.isEmpty() && makePrivateFolder(path) ? path : QString();
 }
 
 void removeWorkingFolder(const QString &path)
@@ -54,9 +68,33 @@ static QString madeFolder(const QDir &folder)
     return QString();
 }
 
+// Where several users save into one folder, each can add to what another has begun there, but take nothing
+// away.
+static void shareLike(const QString &folder, const QString &path)
+{
+    struct stat shared = {};
+    struct stat made = {};
+    if (stat(QFile::encodeName(folder), &shared) != 0 || stat(QFile::encodeName(path), &made) != 0)
+        return;
+    const mode_t others = shared.st_mode & (S_IRWXG | S_IRWXO);
+    const bool isShared = others & ~made.st_mode & (S_IWGRP | S_IWOTH);
+    if (isShared && chmod(QFile::encodeName(path), made.st_mode | others | S_ISVTX) != 0)
+        noteFileFault("share folder", path);
+}
+
 QString makeSaveFolder(const QString &base)
 {
-    return madeFolder(QDir(base + folderName + "/" + CurrentDateQString()));
+    QString path = base;
+    for (const QString &name : {folderName, QString("/" + CurrentDateQString())}) {
+        const bool isNew = !QDir(path + name).exists();
+        const QString made = madeFolder(QDir(path + name));
+        if (isNew && !made.isNull())
+            shareLike(path, made);
+        path = made;
+        if (path.isNull())
+            break;
+    }
+    return path;
 }
 
 QString makeHomeFolder()

@@ -117,11 +117,23 @@ void removeLeftOvers(const QString &save)
         WholeFile::removeLeftOvers(days.filePath(day));
 }
 
+// The save folder may be new, and those that it is in.
+bool areNamesOnDisk(const QString &save)
+{
+    for (QDir folder(save); folder.cdUp();) {
+        if (!syncFolder(folder.path())) {
+            noteFileFault("save", folder.path());
+            return false;
+        }
+    }
+    return true;
+}
+
 } // namespace
 
 bool moveCaptures(const QStringList &captures, const QString &working, const QString &save,
                   const std::function<void()> &giveSign)
 {
     removeLeftOvers(save);
-    return moveAll(captures, working, save, giveSign);
+    return areNamesOnDisk(save) && moveAll(captures, working, save, giveSign);
 }
