@@ -1,19 +1,20 @@
 #include "app/qtsingleapplication.h"
 
+#include "app/instancefolder.h"
+#include "util/files/folders.h"
+
 #include <QDataStream>
 #include <QDeadlineTimer>
-#include <QDir>
-#include <QLocalServer>
+#include <QFileInfo>
 #include <QLocalSocket>
-#include <QLockFile>
+#include <QLoggingCategory>
 #include <QStandardPaths>
 #include <QThread>
 
-#include <unistd.h>
-#include <utility>
-
 namespace
 {
+
+Q_LOGGING_CATEGORY(instanceLog, "orvane.instance")
 
 constexpr auto streamVersion = QDataStream::Qt_5_0; // instances of two builds must understand each other
 constexpr qint64 maximumMessageBytes = 65536;       // above any message: no sender may fill the memory
@@ -27,52 +28,52 @@ int remaining(const QDeadlineTimer &deadline)
 
 } // namespace
 
-// The runtime folder is one that only this user can write to; the name tells the users apart anyway.
 QtSingleApplication::QtSingleApplication(const QString &appId, int &argc, char **argv)
-    : QApplication(argc, argv), m_name(appId + "-" + QString::number(geteuid())), m_fallback(QDir::tempPath())
+    : QApplication(argc, argv)
 {
     const QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-    useFolder(runtime.isEmpty() ? std::exchange(m_fallback, QString()) : runtime);
+    const QString folder = runtime + "/" + appId;
+    if (!runtime.isEmpty() && makePrivateFolder(folder))
+        addFolder(folder);
+    const QString working = makeWorkingFolder();
+    if (!working.isEmpty())
+        addFolder(working);
     becomeInstance();
 }
 
 QtSingleApplication::~QtSingleApplication() = default;
 
-void QtSingleApplication::useFolder(const QString &folder)
+void QtSingleApplication::addFolder(const QString &path)
 {
-    m_path = folder + "/" + m_name;
-    m_lock = std::make_unique<QLockFile>(m_path + ".lock");
-    // However long a lesson lasts: only a holder that has ended leaves a lock to be taken over.
-    m_lock->setStaleLockTime(0);
+    m_folders.push_back(std::make_unique<InstanceFolder>(path));
 }
 
-// Every instance comes to the same folder, as what is wrong with the first is so for all of them.
+// All folders or none: whoever has only some of them would keep the instance from the others.
 bool QtSingleApplication::becomeInstance()
 {
-    if (m_server)
+    if (m_isInstance)
         return true;
-    const bool isLocked = m_lock->tryLock();
-    if (!isLocked && m_lock->error() == QLockFile::LockFailedError)
+    m_other = nullptr;
+    for (const auto &folder : m_folders) {
+        if (folder->lock())
+            continue;
+        m_other = folder.get();
+        for (const auto &locked : m_folders)
+            locked->unlock();
         return false;
-    if (isLocked && listen())
-        return true;
-    if (m_fallback.isNull())
-        return true;
-    useFolder(std::exchange(m_fallback, QString()));
-    return becomeInstance();
+    }
+    listen();
+    m_isInstance = true;
+    return true;
 }
 
-// With the lock in hand, a socket that is there is the leftover of an instance that was killed.
-bool QtSingleApplication::listen()
+void QtSingleApplication::listen()
 {
-    auto server = std::make_unique<QLocalServer>();
-    server->setSocketOptions(QLocalServer::UserAccessOption);
-    QLocalServer::removeServer(m_path + ".socket");
-    if (!server->listen(m_path + ".socket"))
-        return false;
-    connect(server.get(), &QLocalServer::newConnection, this, &QtSingleApplication::acceptSender);
-    m_server = std::move(server);
-    return true;
+    for (const auto &folder : m_folders) {
+        if (!folder->listen([this](QLocalSocket *sender) { acceptSender(sender); }))
+            qCWarning(instanceLog, "Later starts are not heard: no socket can be made in %s.",
+                      qUtf8Printable(QFileInfo(folder->socket()).canonicalPath()));
+    }
 }
 
 bool QtSingleApplication::isRunning()
@@ -97,7 +98,7 @@ bool QtSingleApplication::sendMessage(const QString &message, int timeoutMs)
 bool QtSingleApplication::deliver(const QString &message, const QDeadlineTimer &deadline) const
 {
     QLocalSocket socket;
-    socket.connectToServer(m_path + ".socket");
+    socket.connectToServer(m_other->socket());
     if (!socket.waitForConnected(remaining(deadline)))
         return false;
     QDataStream stream(&socket);
@@ -112,14 +113,12 @@ bool QtSingleApplication::deliver(const QString &message, const QDeadlineTimer &
     return socket.waitForReadyRead(remaining(deadline)) && socket.getChar(&answer) && answer == taken;
 }
 
-void QtSingleApplication::acceptSender()
+void QtSingleApplication::acceptSender(QLocalSocket *sender)
 {
-    while (QLocalSocket *sender = m_server->nextPendingConnection()) {
-        sender->setReadBufferSize(maximumMessageBytes);
-        connect(sender, &QLocalSocket::disconnected, sender, &QObject::deleteLater);
-        connect(sender, &QLocalSocket::readyRead, this, [this, sender] { takeMessage(sender); });
-        takeMessage(sender); // it may be there already
-    }
+    sender->setReadBufferSize(maximumMessageBytes);
+    connect(sender, &QLocalSocket::disconnected, sender, &QObject::deleteLater);
+    connect(sender, &QLocalSocket::readyRead, this, [this, sender] { takeMessage(sender); });
+    takeMessage(sender); // it may be there already
 }
 
 void QtSingleApplication::takeMessage(QLocalSocket *sender)

@@ -4,16 +4,17 @@
 #include <QString>
 
 #include <memory>
+#include <vector>
 
+class InstanceFolder;
 class QDeadlineTimer;
-class QLocalServer;
 class QLocalSocket;
-class QLockFile;
 
-// An application of which each user runs one instance. Whoever gets the user's lock is the instance, and
-// listens from then on; everybody else can send it messages. Both stand in the user's runtime folder, or in
-// the system's temporary folder where the first cannot be written to or its path is too long for a socket.
-// Where neither will do, the instance runs all the same, but no other finds it. GUI thread only.
+// An application of which each user runs one instance. It is found in two places: in the user's runtime
+// folder, and in the working folder, where a start with another runtime folder, or with none, finds it too:
+// two instances with one working folder would take each other's captures for left over. Whoever has locked
+// both is the instance, and listens in both from then on; everybody else can send it messages. A place that
+// does not serve is done without. GUI thread only.
 class QtSingleApplication : public QApplication
 {
     Q_OBJECT
@@ -34,16 +35,14 @@ signals:
     void messageReceived(const QString &message);
 
 private:
+    void addFolder(const QString &path);
     bool becomeInstance();
-    void useFolder(const QString &folder);
-    bool listen();
-    void acceptSender();
+    void listen();
+    void acceptSender(QLocalSocket *sender);
     void takeMessage(QLocalSocket *sender);
     bool deliver(const QString &message, const QDeadlineTimer &deadline) const;
 
-    QString m_name;     // of the lock and the socket, without their endings
-    QString m_fallback; // the second folder; null once it is in use
-    QString m_path;     // folder and name
-    std::unique_ptr<QLockFile> m_lock;
-    std::unique_ptr<QLocalServer> m_server; // while this process is the instance; gone before the lock is
+    std::vector<std::unique_ptr<InstanceFolder>> m_folders;
+    const InstanceFolder *m_other = nullptr; // that another process holds; null when none was found
+    bool m_isInstance = false;
 };

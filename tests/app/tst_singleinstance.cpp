@@ -4,6 +4,7 @@
 #include <QLocalSocket>
 
 #include <csignal>
+#include <sys/stat.h>
 
 // Several real starts at once, as an impatient user makes them.
 class TestSingleInstance : public QObject
@@ -37,13 +38,33 @@ private slots:
         QTRY_COMPARE(ended(), 20);
     }
 
+    // Each has the one working folder, and would ask about what the other has taken.
+    void isFoundFromAnyRuntimeFolderByItsUserAlone()
+    {
+        Program first;
+        QVERIFY(first.start(false));
+        const QTemporaryDir other;
+        for (const QString &runtime : {other.path(), QString()}) {
+            Program second;
+            QProcessEnvironment session = QProcessEnvironment::systemEnvironment();
+            session.insert("XDG_RUNTIME_DIR", runtime);
+            second.process().setProcessEnvironment(session);
+            second.process().start(ORVANE_PROGRAM, QStringList());
+            QVERIFY2(second.process().waitForFinished(4000), qPrintable(runtime));
+            QCOMPARE(second.process().exitCode(), 0);
+        }
+        struct stat status = {};
+        QCOMPARE(stat(QFile::encodeName(Program::workingFolder().filePath(".instance")), &status), 0);
+        QCOMPARE(status.st_mode & (S_IRWXG | S_IRWXO), 0U);
+    }
+
     void neitherAHangNorGarbageHoldsAStart()
     {
         Program first;
         QVERIFY(first.start(false));
         QLocalSocket socket;
         const QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-        socket.connectToServer(runtime + "/Orvane-" + QString::number(geteuid()) + ".socket");
+        socket.connectToServer(runtime + "/Orvane/.instance");
         QVERIFY(socket.waitForConnected(5000));
         socket.write(QByteArray(1 << 20, '\x7f'));
         socket.flush();
