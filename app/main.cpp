@@ -1,3 +1,4 @@
+#include "app/displaywatch.h"
 #include "app/qtsingleapplication.h"
 #include "app/terminationsignals.h"
 #include "app/translate.h"
@@ -24,6 +25,7 @@ int main(int argc, char **argv)
     if (application.sendMessage("Wake up!", wakeUpTimeoutMs))
         return 0;
     application.isRunning();
+    const DisplayWatch displayWatch;
 
     const QDir directory(QDir::currentPath());
     QCoreApplication::addLibraryPath(directory.absolutePath() + "/plugins/");
