@@ -54,6 +54,18 @@ public:
         return false;
     }
 
+    QStringList threads() const
+    {
+        QStringList names;
+        const QDir tasks(QString("/proc/%1/task").arg(m_process.processId()));
+        for (const QString &task : tasks.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+            QFile name(tasks.filePath(task + "/comm"));
+            if (name.open(QIODevice::ReadOnly))
+                names += QString(name.readAll()).trimmed();
+        }
+        return names;
+    }
+
     // The program's windows that can be seen, its dialogs among them; by the beginning of their title.
     static int windows(const QString &title = "Orvane")
     {

@@ -29,6 +29,7 @@ private slots:
     void leavingOtherwiseAsksOrSaves();
     void theSessionEnds();
     void theScreenChanges();
+    void theXServerDies();
 
 private:
     static void answerMessage();
@@ -301,6 +302,29 @@ void TestTrouble::theScreenChanges()
     panel.show();
     QTRY_COMPARE(Program::look(Program::screen(), Program::exitButton() - QPoint(0, height)), 'E');
     QTRY_COMPARE(Program::look(Program::screen(), Program::liveRow(0) - QPoint(0, height)), 'E');
+}
+
+// While a movie is shown, when most would be taken down.
+void TestTrouble::theXServerDies()
+{
+    QProcess server;
+    server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1024x768x24", "-nolisten", "tcp", "-noreset"});
+    QVERIFY(server.waitForReadyRead(10000));
+    const QByteArray display = qgetenv("DISPLAY");
+    qputenv("DISPLAY", ':' + server.readLine().trimmed());
+    const auto back = qScopeGuard([&display] { qputenv("DISPLAY", display); });
+    Program program;
+    QVERIFY(program.start(false));
+    for (int press = 0; press < 2; ++press) {
+        Program::click(Program::liveRow(3));
+        QTRY_COMPARE(Program::captures({"movie*"}).size(), 2);
+    }
+    QTRY_VERIFY(program.threads().contains("qtdemux0:sink"));
+    server.kill();
+    QVERIFY(program.process().waitForFinished(5000));
+    QCOMPARE(program.process().exitStatus(), QProcess::NormalExit);
+    QCOMPARE(Program::captures({"movie*"}).size(), 2);
+    QVERIFY(server.waitForFinished());
 }
 
 QTEST_MAIN(TestTrouble)
