@@ -4,15 +4,39 @@
 
 #include "capture/livecapture.h"
 #include "capture/livewaiting.h"
+#include "util/files/alivewait.h"
+#include "util/files/diskanswer.h"
 #include "util/webcamutil.h"
 
 #include <QFileInfo>
 #include <QTimer>
 
+#include <functional>
+#include <utility>
+
 namespace
 {
 
 constexpr int seriesPeriod = 5000; // milliseconds
+
+bool isTaken(const QString &path)
+{
+    return askDisk("isTaken", path, false, [path] { return QFileInfo::exists(path); });
+}
+
+// Of a capture that is begun now. Stamps repeat within their moment, and when the clock is set back: the
+// first is waited for that neither a capture has yet, nor the preview of one.
+QString untakenPath(const std::function<QString()> &create)
+{
+    QString path;
+    const auto isUntaken = [&] {
+        const QString last = std::exchange(path, create());
+        return path != last && !isTaken(path) && !isTaken(WebcamUtil::previewName(path));
+    };
+    if (!isUntaken())
+        static_cast<void>(waitAlive(isUntaken, noLimit, Input::KeptThroughout));
+    return path;
+}
 
 } // namespace
 
@@ -32,11 +56,13 @@ QString LiveVideoWidget::SaveBmp()
         m_capture->facts.change([why](Facts &now) { now.photo = {PhotoState::Failed, why, {}, {}}; });
         return {};
     }
-    const QString name = WebcamUtil::CreatePhotofilename();
+    const QString path =
+        untakenPath([&]() -> QString { return folder + "/" + WebcamUtil::CreatePhotofilename(); });
+    const QString name = QFileInfo(path).fileName();
     m_capture->facts.change([&name](Facts &now) {
         now.photo = {PhotoState::Pending, Cause::None, name, {}};
     });
-    const bool isSaved = m_capture->data.SaveBitmap(folder + QLatin1Char('/') + name);
+    const bool isSaved = m_capture->data.SaveBitmap(path);
     const Cause why = isSaved ? Cause::None : causeOf(m_capture->data.lastPhotoFault());
     m_capture->facts.change([&](Facts &now) {
         now.photo.state = isSaved ? PhotoState::Done : PhotoState::Failed;
@@ -103,7 +129,9 @@ bool LiveVideoWidget::Record()
 Cause LiveVideoWidget::startMovie(QString *warning)
 {
     const Waiting waiting(this);
-    const QString path = WebcamUtil::CreateMoviefilename();
+    if (WebcamUtil::getTemporaryPath().isEmpty())
+        return Cause::Disk;
+    const QString path = untakenPath(WebcamUtil::CreateMoviefilename);
     m_capture->data.Record(path);
     *warning = invalidDevicesText();
     if (warning->isEmpty() && m_capture->data.lacksPicture())
@@ -118,8 +146,6 @@ Cause LiveVideoWidget::startMovie(QString *warning)
         now.movie = {MovieState::Recording, Cause::None, path, false, now.movie.isBroken};
         now.sound = SoundState::There;
     });
-    // A movie of the same second is replaced, and so is its preview.
-    WebcamUtil::deletetmpfile(WebcamUtil::previewName(path));
     savePreview();
     return Cause::None;
 }

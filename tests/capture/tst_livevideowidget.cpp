@@ -7,6 +7,20 @@
 #include <QLabel>
 #include <QtTest>
 
+#include <ctime>
+#include <sys/time.h>
+
+// Where the clock stands still, in milliseconds since 1970; else it goes. Found before the C library's.
+static qint64 stoppedClock = 0;
+extern "C" int gettimeofday(timeval *now, void *) noexcept
+{
+    timespec real = {};
+    clock_gettime(CLOCK_REALTIME, &real);
+    *now = stoppedClock != 0 ? timeval{stoppedClock / 1000, stoppedClock % 1000 * 1000}
+                             : timeval{real.tv_sec, real.tv_nsec / 1000};
+    return 0;
+}
+
 class TestLiveVideoWidget : public QObject
 {
     Q_OBJECT
@@ -17,6 +31,7 @@ private slots:
     void livesWithoutACamera();
     void takesAPhotoIntoTheWorkingFolder();
     void recordsWithAPreview();
+    void nothingTakesTheNameOfAnother();
     void warnsOfDevicesThatAreMissing();
     void factsFollowTheCamera();
     void zoomsByClearSteps();
@@ -93,6 +108,29 @@ void TestLiveVideoWidget::recordsWithAPreview()
     QStringList expected({movie, QString(movie).replace(".mov", "tmp.png")});
     expected.sort();
     QCOMPARE(workingFiles(), expected);
+}
+
+// Within one moment, at midnight; and when the clock is set back to it, as it was in the middle of a movie.
+void TestLiveVideoWidget::nothingTakesTheNameOfAnother()
+{
+    const auto goOn = qScopeGuard([] { stoppedClock = 0; });
+    QTimer clock;
+    QObject::connect(&clock, &QTimer::timeout, [] { stoppedClock += 250; });
+    m_view->Create();
+    m_view->Start();
+    for (int taken = 0; taken < 4; ++taken) {
+        if (taken % 2 == 0)
+            stoppedClock = QDateTime(QDate(2030, 3, 1), QTime(0, 0)).toMSecsSinceEpoch() - 1;
+        else
+            clock.start(100);
+        QVERIFY(!m_view->SaveBmp().isEmpty() && m_view->Record());
+        stoppedClock -= taken == 1 ? 86400000 : 0;
+        m_view->RecordStop();
+    }
+    const QStringList files = workingFiles();
+    QVERIFY(files.contains("photo20300228235959999.png") && files.contains("movie20300301000000.mov"));
+    for (const char *kind : {"^photo", "mov$", "tmp.png$"})
+        QCOMPARE(files.filter(QRegularExpression(kind)).size(), 4);
 }
 
 void TestLiveVideoWidget::warnsOfDevicesThatAreMissing()

@@ -29,6 +29,7 @@ private slots:
     void seriesByHand();
     void seriesByTime();
     void fullDiskRefuses();
+    void foreignFolderIsRefused();
     void lossInEveryScreen();
 
 private:
@@ -98,6 +99,19 @@ void TestCaptureCommands::fullDiskRefuses()
         QCOMPARE(main.buttons(), QString(liveRow));
     }
     QCOMPARE(MainWindow::captures(), QStringList());
+}
+
+void TestCaptureCommands::foreignFolderIsRefused()
+{
+    MainWindow main;
+    const QString folder = working().chopped(1);
+    QVERIFY(QDir().rmdir(folder) && QFile::link(QDir::homePath(), folder));
+    const auto makeWay = qScopeGuard([&folder] { QFile::remove(folder); });
+    Answers answers({"OK", "OK"});
+    main.press("Photo");
+    QCOMPARE(answers.told().size(), 1);
+    QVERIFY2(answers.told()[0].startsWith("Nothing can be taken while this folder is a link"),
+             qPrintable(answers.told()[0]));
 }
 
 void TestCaptureCommands::lossInEveryScreen()
