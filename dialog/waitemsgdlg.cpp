@@ -32,7 +32,7 @@ CWaiteMsgDlg::CWaiteMsgDlg(QWidget *parent)
     connect(m_ok, &QPushButton::clicked, this, &QWidget::close);
     m_starter->setSingleShot(true);
     m_starter->setInterval(startDelayMilliseconds);
-    connect(m_starter, &QTimer::timeout, this, &CWaiteMsgDlg::OnShow);
+    connect(m_starter, &QTimer::timeout, this, &CWaiteMsgDlg::start);
 
     m_work->setRange(0, 0); // moves for as long as the program is alive
     m_work->setTextVisible(false);
@@ -75,7 +75,15 @@ void CWaiteMsgDlg::showEvent(QShowEvent *event)
     adjustPosition(parentWidget());
     m_ok->hide();
     m_work->show();
+    m_isStopWished = false;
     m_starter->start();
+}
+
+void CWaiteMsgDlg::start()
+{
+    emit OnShow();
+    if (m_isStopWished)
+        emit stopRequested();
 }
 
 void CWaiteMsgDlg::comp(bool ok)
@@ -102,6 +110,8 @@ void CWaiteMsgDlg::reject()
 {
     if (!m_ok->isHidden())
         QDialog::reject();
+    else if (m_starter->isActive())
+        m_isStopWished = true; // nobody would hear it yet
     else
         emit stopRequested();
 }

@@ -39,6 +39,7 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
+    void start();
     void showText(const QString &text, const QString &description);
 
     QString m_wait;
@@ -48,4 +49,5 @@ private:
     SpokenLabel *m_text;
     QProgressBar *m_work; // shown until the end
     QTimer *m_starter;
+    bool m_isStopWished = false; // before the work has started
 };

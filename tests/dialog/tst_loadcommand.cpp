@@ -101,9 +101,15 @@ void TestLoadCommand::windowLivesThroughALargeLoad()
     QFile large(earlier + "/" + names.last());
     QVERIFY(large.open(QIODevice::WriteOnly) && large.resize(1 << 30));
     main.press("List");
+    auto *dialog = main.view<CWaiteMsgDlg>();
+    load(main, earlier);
+    QTest::keyClick(dialog, Qt::Key_Escape); // before the work has begun
+    {
+        Answers answers({"OK"});
+        QTRY_COMPARE(answers.told(), QStringList("Failed."));
+    }
     load(main, earlier);
 
-    auto *dialog = main.view<CWaiteMsgDlg>();
     auto *bar = dialog->findChild<QProgressBar *>();
     QSet<QByteArray> looks; // of the bar on the screen
     qint64 longestGap = 0;
