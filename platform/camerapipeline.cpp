@@ -8,6 +8,9 @@
 namespace
 {
 
+// Older ones do not come even out of a busy machine's queues.
+constexpr GstClockTime oldestFrame = 3 * GST_SECOND;
+
 // Has a camera keep its rate in a dim room, where it would else take longer for each frame. The names that
 // the kernel has had for it; a driver without them, or a source that is none of the kernel's, stays as it is.
 void keepRate(GstElement *source)
@@ -105,16 +108,21 @@ FramePtr CameraPipeline::nextFrame(std::chrono::milliseconds wait)
     frame->isDamaged = GST_BUFFER_FLAG_IS_SET(buffer, GST_BUFFER_FLAG_CORRUPTED);
     // The driver's buffers for JPEG are as large as raw pictures, and few. Copied, a frame may be kept.
     frame->picture = frame->isJpeg() ? BufferHandle(gst_buffer_copy_deep(buffer)) : retain(buffer);
-    const GstClockTime time = GST_BUFFER_PTS(buffer);
-    if (GST_CLOCK_TIME_IS_VALID(time)) {
-        frame->clockTime =
-            gst_element_get_base_time(m_pipeline.get()) +
-            gst_segment_to_running_time(gst_sample_get_segment(sample.get()), GST_FORMAT_TIME, time);
-    } else {
-        const ClockHandle clock(gst_system_clock_obtain());
-        frame->clockTime = gst_clock_get_time(clock.get());
-    }
+    frame->clockTime = captureTime(sample.get());
     return frame;
+}
+
+// Of a frame without a time, or with one that cannot be, when it came.
+GstClockTime CameraPipeline::captureTime(GstSample *sample) const
+{
+    const ClockHandle clock(gst_system_clock_obtain());
+    const GstClockTime now = gst_clock_get_time(clock.get());
+    const GstClockTime runningTime = gst_segment_to_running_time(
+        gst_sample_get_segment(sample), GST_FORMAT_TIME, GST_BUFFER_PTS(gst_sample_get_buffer(sample)));
+    if (!GST_CLOCK_TIME_IS_VALID(runningTime))
+        return now;
+    const GstClockTime time = gst_element_get_base_time(m_pipeline.get()) + runningTime;
+    return time <= now && now - time < oldestFrame ? time : now;
 }
 
 bool CameraPipeline::hasFailed()

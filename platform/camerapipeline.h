@@ -39,6 +39,7 @@ private:
     bool addH264Decoder(GstElement **last);
     GstElement *add(const char *element);
     void fail(CameraFailure failure);
+    GstClockTime captureTime(GstSample *sample) const;
 
     ElementHandle m_pipeline;
     BusHandle m_bus;

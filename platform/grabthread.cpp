@@ -23,6 +23,12 @@ qint64 now()
         .count();
 }
 
+// A camera that has changed its pictures without telling may send none that can, until it is opened anew.
+bool canBeRead(const CapturedFrame &frame)
+{
+    return frame.isJpeg() || MappedFrame(frame.info, frame.picture.get(), GST_MAP_READ).isValid();
+}
+
 // An image over the matrix's pixels, which it keeps alive.
 QImage imageOver(const cv::Mat &pixels)
 {
@@ -155,7 +161,8 @@ FramePtr GrabThread::grabAllWaiting(CameraPipeline &pipeline)
 
 void GrabThread::deliver(const FramePtr &frame)
 {
-    noteSignOfLife();
+    if (canBeRead(*frame))
+        noteSignOfLife();
     m_frames->put(frame);
     if (!m_isLive.exchange(true))
         QMetaObject::invokeMethod(this, &GrabThread::tellLive, Qt::QueuedConnection);

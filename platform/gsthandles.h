@@ -70,7 +70,8 @@ class MappedFrame
 public:
     MappedFrame(const GstVideoInfo &info, GstBuffer *buffer, GstMapFlags flags)
     {
-        m_mapped = gst_video_frame_map(&m_frame, &info, buffer, flags);
+        m_mapped = agrees(info, gst_buffer_get_video_meta(buffer)) &&
+                   gst_video_frame_map(&m_frame, &info, buffer, flags);
     }
     ~MappedFrame()
     {
@@ -84,6 +85,14 @@ public:
     GstVideoFrame *get() { return &m_frame; }
 
 private:
+    // A camera's frame may be of another size or format than it has told.
+    static bool agrees(const GstVideoInfo &info, const GstVideoMeta *meta)
+    {
+        return !meta || (GST_VIDEO_INFO_FORMAT(&info) == meta->format &&
+                         guint(GST_VIDEO_INFO_WIDTH(&info)) <= meta->width &&
+                         guint(GST_VIDEO_INFO_HEIGHT(&info)) <= meta->height);
+    }
+
     GstVideoFrame m_frame{};
     bool m_mapped = false;
 };

@@ -213,7 +213,7 @@ bool MovieRecorder::isBehind() const
 void MovieRecorder::push(Picture picture)
 {
     GstBuffer *pixels = picture.pixels.get();
-    if (!pixels || picture.clockTime < m_nextTime)
+    if (!pixels || picture.clockTime < m_nextTime || !hasIndexFor(picture.clockTime))
         return;
     m_nextTime = picture.clockTime + 1;
     GST_BUFFER_PTS(pixels) = picture.clockTime - m_startTime;
@@ -221,6 +221,18 @@ void MovieRecorder::push(Picture picture)
     GST_BUFFER_DURATION(pixels) = GST_CLOCK_TIME_NONE;
     gst_app_src_push_buffer(GST_APP_SRC(m_movie.pictures), picture.pixels.release());
     paceIndex(m_movie);
+}
+
+// A camera may send more frames than it has told, as it does after an interruption. Two seconds' worth of
+// them are taken at once, and twice its rate for ever.
+bool MovieRecorder::hasIndexFor(GstClockTime time)
+{
+    const GstClockTime share = GST_SECOND / guint64(2 * m_settings.framesPerSecond);
+    const GstClockTime used = qMax(m_indexUsedUpTo, time) + share;
+    if (used > time + GST_SECOND)
+        return false;
+    m_indexUsedUpTo = used;
+    return true;
 }
 
 MovieEnd MovieRecorder::fileFault() const

@@ -76,6 +76,7 @@ private:
     void fail(MovieEnd why, const QString &line);
     bool isBehind() const;
     void push(Picture picture);
+    bool hasIndexFor(GstClockTime time);
     void tellShortRoom() const;
     void watch();
     void lookForLife();
@@ -88,8 +89,9 @@ private:
     MoviePipeline m_movie; // made by start()
     std::unique_ptr<MovieSound> m_sound;
     std::chrono::steady_clock::time_point m_startedAt;
-    GstClockTime m_startTime = 0; // capture time of the first frame, on GStreamer's system clock
-    GstClockTime m_nextTime = 0;  // the next frame is not older: the first may come twice
+    GstClockTime m_startTime = 0;     // capture time of the first frame, on GStreamer's system clock
+    GstClockTime m_indexUsedUpTo = 0; // if each frame were half of a frame's time after the one before
+    GstClockTime m_nextTime = 0;      // the next frame is not older: the first may come twice
 
     std::chrono::steady_clock::time_point m_lastInTime = std::chrono::steady_clock::now(); // of a frame
     std::atomic<std::chrono::steady_clock::time_point> m_lastLook{

@@ -25,6 +25,7 @@ void TestLoss::tellsALossOnce()
                  {"removed-only", "unplugged", CameraFault::Unplugged},
                  {"error-only", "unplugged", CameraFault::Unplugged},
                  {"error-first", "stall", CameraFault::Silent},
+                 {"error-first", "other-size", CameraFault::Silent},
                  {"error-first", "read-error", CameraFault::Failed},
                  {"error-first", "ends", CameraFault::Failed}};
     for (const auto &row : table) {

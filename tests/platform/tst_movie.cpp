@@ -43,6 +43,7 @@ private slots:
     void endsOnAFullDisk();
     void isFinishedWhenTheCameraIsClosed();
     void losesNothingToASlowDisk();
+    void outlivesACameraThatLies();
 
 private:
     QString path() const { return m_folder->filePath("movie.mov"); }
@@ -500,6 +501,53 @@ void TestMovie::losesNothingToASlowDisk()
     const MovieContents movie = readMovie(path());
     QVERIFY(std::abs(movie.length() - 6) < 0.3 && std::abs(movie.soundLength - 6) < 0.3);
     QVERIFY(movie.frames.size() > 120);
+}
+
+// Pictures that change in mid-stream, or that cannot be.
+void TestMovie::outlivesACameraThatLies()
+{
+    for (const char *coding : {"YUY2", "JPEG"}) {
+        for (const char *fault : {"other-size", "other-format", "short", "long", "wild-times", "flood"}) {
+            const QByteArray name = QByteArray(coding) + ", " + fault;
+            const QTemporaryDir folder;
+            TestDevices devices;
+            const QString formats = QString("%1 640x480 30;%1 320x240 30").arg(coding);
+            devices.camera("cam").formats(formats).content("counter").name(name);
+            devices.microphone("mic");
+            devices.write();
+            CameraWindow camera;
+            QVERIFY2(camera.lists({name}) && camera.start(), name);
+            QTRY_VERIFY(camera.capture.IsValidAudioDevice());
+            const QString movie = folder.filePath("movie.mov");
+            camera.capture.Record(movie);
+            QElapsedTimer length;
+            length.start();
+            QTest::qWait(300);
+            devices.setFault("cam", fault);
+            QTest::qWait(700);
+            const bool isTaken = camera.capture.SaveBitmap(folder.filePath("1.png")); // where it still can be
+            QVERIFY2(isTaken != QImage(folder.filePath("1.png")).isNull(), name);
+            devices.setFault("cam", "");
+
+            // What the stream tells of ends it, and the movie; the camera can be opened again.
+            const qint64 cleared = nowMicroseconds();
+            const bool isLost = QByteArray(fault) == "other-format";
+            QVERIFY2(camera.lost.count() == int(isLost), name);
+            if (isLost) {
+                camera.capture.Release();
+                QVERIFY2(camera.start(), name);
+            }
+            QTRY_VERIFY2(camera.shownSince() > cleared, name);
+            QVERIFY2(camera.capture.SaveBitmap(folder.filePath("2.png")), name);
+            camera.capture.RecordStop();
+            const double seconds = double(length.elapsed()) / 1000;
+            QTRY_VERIFY(!camera.capture.isFinishingMovie());
+            const MovieContents contents = readMovie(movie);
+            QVERIFY2(contents.isReadToItsEnd && contents.frames.size() > 8, name);
+            QVERIFY2(contents.frames.size() < 60 + size_t(seconds * 60), name);
+            QVERIFY2(isLost || std::abs(contents.length() - seconds) < 0.4, name);
+        }
+    }
 }
 
 QTEST_MAIN(TestMovie)

@@ -14,7 +14,11 @@
 //   opens-after  milliseconds that opening takes; none if left out
 //   fault     stall (gives nothing more and tells nothing), hang-open, hang-close (blocks there as long as
 //             this stands), busy, no-permission (cannot be opened), no-bandwidth (opens, but its stream does
-//             not start), read-error (the next frame is an error), ends (the stream ends without an error)
+//             not start), read-error (the next frame is an error), ends (the stream ends without an error);
+//             of a camera also other-size (pictures of half the size, which nothing tells), other-format (the
+//             last of its formats, which the stream tells), short and long (frames that lack bytes or have
+//             too many), wild-times (time stamps that go back in turn to the stream's beginning and ahead by
+//             an hour), flood (10,000 frames a second)
 //   order     how it is told that a running device has gone: error-first (by the stream, then by the
 //             provider), removed-first, removed-only, error-only
 // A section "provider a" or "provider b" has the key

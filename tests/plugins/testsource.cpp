@@ -19,8 +19,11 @@ constexpr int64_t backlog = 1;
 
 struct SourceState {
     std::string section;
-    DeviceSettings device; // as last seen
+    DeviceSettings device;   // as last seen
+    GstCaps *caps = nullptr; // owned; as agreed upon, and never null while it runs
     std::unique_ptr<Producer> producer;
+    std::string pictureFault; // that the producer was made for
+    bool isFlooding = false;
     int rate = 30; // frames in so many seconds
     int seconds = 1;
     int64_t firstFrame = -1; // frames are counted from the monotonic clock's zero, so that all devices agree
@@ -56,6 +59,24 @@ int64_t frameAt(const SourceState &state, int64_t time)
     return int64_t(gst_util_uint64_scale(guint64(time), guint64(state.rate), GST_SECOND * state.seconds));
 }
 
+GstCaps *halved(const GstCaps *caps)
+{
+    GstCaps *half = gst_caps_copy(caps);
+    for (const char *side : {"width", "height"}) {
+        int pixels = 0;
+        gst_structure_get_int(gst_caps_get_structure(half, 0), side, &pixels);
+        gst_caps_set_simple(half, side, G_TYPE_INT, pixels / 2, nullptr);
+    }
+    return half;
+}
+
+GstCaps *lastOf(GstCaps *caps)
+{
+    GstCaps *last = gst_caps_copy_nth(caps, gst_caps_get_size(caps) - 1);
+    gst_caps_unref(caps);
+    return last;
+}
+
 int64_t periodOf(const SourceState &state)
 {
     return timeOf(state, 1);
@@ -77,6 +98,7 @@ void setProperty(GObject *object, guint, const GValue *value, GParamSpec *)
 
 void finalize(GObject *object)
 {
+    gst_clear_caps(&stateOf(object)->caps);
     delete stateOf(object);
     G_OBJECT_CLASS(orvane_test_source_parent_class)->finalize(object);
 }
@@ -105,6 +127,25 @@ GstCaps *getCaps(GstBaseSrc *source, GstCaps *filter)
     return both;
 }
 
+void takeRate(SourceState *state, const GstCaps *caps)
+{
+    gst_structure_get_fraction(gst_caps_get_structure(caps, 0), "framerate", &state->rate, &state->seconds);
+    state->firstFrame = state->lastFrame = -1;
+}
+
+void changeRate(SourceState *state)
+{
+    const bool isFlood = state->device.value("fault") == "flood";
+    if (isFlood == state->isFlooding)
+        return;
+    state->isFlooding = isFlood;
+    takeRate(state, state->caps);
+    if (isFlood) {
+        state->rate = 10000;
+        state->seconds = 1;
+    }
+}
+
 gboolean setCaps(GstBaseSrc *source, GstCaps *caps)
 {
     SourceState *state = stateOf(source);
@@ -113,11 +154,48 @@ gboolean setCaps(GstBaseSrc *source, GstCaps *caps)
                           ("Buffer pool activation failed"));
         return FALSE;
     }
-    gst_structure_get_fraction(gst_caps_get_structure(caps, 0), "framerate", &state->rate, &state->seconds);
-    state->firstFrame = state->lastFrame = -1;
+    state->isFlooding = false;
+    takeRate(state, caps);
     state->goneSince = 0;
     state->producer = Producer::ofCamera(state->device, caps);
+    state->pictureFault.clear();
+    gst_caps_replace(&state->caps, caps);
     return state->producer != nullptr;
+}
+
+// In mid-stream, when such a fault begins or ends.
+void changePicture(GstPushSrc *source, SourceState *state)
+{
+    std::string fault = state->device.value("fault");
+    if (fault != "other-size" && fault != "other-format")
+        fault.clear();
+    if (fault == state->pictureFault)
+        return;
+    const bool isTold = fault == "other-format" || state->pictureFault == "other-format";
+    state->pictureFault = fault;
+    GstCaps *caps = fault.empty()           ? gst_caps_ref(state->caps)
+                    : fault == "other-size" ? halved(state->caps)
+                                            : lastOf(deviceCaps(state->section, state->device));
+    state->producer = Producer::ofCamera(state->device, caps);
+    if (isTold)
+        gst_pad_push_event(GST_BASE_SRC_PAD(source), gst_event_new_caps(caps));
+    gst_caps_unref(caps);
+}
+
+GstBuffer *ofOtherLength(GstBuffer *frame, const std::string &fault)
+{
+    const gsize size = gst_buffer_get_size(frame);
+    GstBuffer *other =
+        gst_buffer_copy_region(frame, GST_BUFFER_COPY_ALL, 0, fault == "short" ? size / 2 : size);
+    if (fault == "long")
+        other = gst_buffer_append(other, gst_buffer_new_allocate(nullptr, size / 4, nullptr));
+    gst_buffer_unref(frame);
+    return other;
+}
+
+int64_t wildTime(int64_t frame, int64_t time)
+{
+    return frame % 4 == 1 ? 0 : frame % 4 == 3 ? time + 3600 * int64_t(GST_SECOND) : time;
 }
 
 gboolean query(GstBaseSrc *source, GstQuery *query)
@@ -181,6 +259,7 @@ int64_t nextFrame(const SourceState &state)
 GstFlowReturn create(GstPushSrc *source, GstBuffer **buffer)
 {
     SourceState *state = stateOf(source);
+    changeRate(state);
     const GstFlowReturn waited = waitUntil(state, timeOf(*state, nextFrame(*state)));
     if (waited == GST_FLOW_ERROR)
         tellReadError(GST_ELEMENT(source), state->goneSince != 0);
@@ -192,10 +271,15 @@ GstFlowReturn create(GstPushSrc *source, GstBuffer **buffer)
     if (state->lastFrame < 0)
         state->firstFrame = frame;
     const Moment moment = {frame - state->firstFrame, timeOf(*state, frame), periodOf(*state)};
+    changePicture(source, state);
     *buffer = state->producer->make(moment, state->device);
+    const std::string fault = state->device.value("fault");
+    if (fault == "short" || fault == "long")
+        *buffer = ofOtherLength(*buffer, fault);
     const auto baseTime = int64_t(gst_element_get_base_time(GST_ELEMENT(source)));
     // The pipelines' clock is the system's, which is the monotonic one.
-    GST_BUFFER_PTS(*buffer) = GstClockTime(std::max<int64_t>(moment.captured - baseTime, 0));
+    const int64_t time = fault == "wild-times" ? wildTime(frame, moment.captured) : moment.captured;
+    GST_BUFFER_PTS(*buffer) = GstClockTime(std::max<int64_t>(time - baseTime, 0));
     GST_BUFFER_DURATION(*buffer) = GstClockTime(moment.period);
     if (frame != state->lastFrame + 1)
         GST_BUFFER_FLAG_SET(*buffer, GST_BUFFER_FLAG_DISCONT);
