@@ -154,6 +154,7 @@ void TestStill::givesUpADiskThatHangs()
     devices.write();
     CameraWindow camera;
     QVERIFY(camera.start());
+    const auto answer = qScopeGuard([] { diskHangs = false; });
     diskHangs = true;
     Heartbeat heart;
     QElapsedTimer clock;
