@@ -3,6 +3,7 @@
 #include "util/desktop/fonts.h"
 
 #include <QLabel>
+#include <QLoggingCategory>
 #include <QShowEvent>
 #include <QTimer>
 #include <QUrl>
@@ -20,6 +21,8 @@ constexpr int firstPictureMilliseconds = 100;
 // Movies seldom take as long to begin.
 constexpr int standstillMilliseconds = 1000;
 constexpr int mostRestarts = 3;
+
+Q_LOGGING_CATEGORY(playerLog, "orvane.player")
 } // namespace
 
 MovieWidget::MovieWidget(QWidget *parent)
@@ -95,13 +98,26 @@ void MovieWidget::start()
 }
 
 // Now and then the player comes to a standstill while it is starting, which only stopping ends, or forgets
-// that it was told to, as after movies that it could not play. What it cannot play stays where it is.
+// that it was told to, as after movies that it could not play.
 void MovieWidget::restart()
 {
-    if (++m_restarts < mostRestarts)
-        m_standstill->start(standstillMilliseconds << m_restarts); // it may only have been slow
+    if (++m_restarts > mostRestarts) {
+        noteBreakdown();
+        return;
+    }
+    m_standstill->start(standstillMilliseconds << m_restarts); // it may only have been slow
     stop();
     play();
+}
+
+// Its sound server has gone, or it has no machinery to play with. It may play when it is told to again.
+void MovieWidget::noteBreakdown()
+{
+    qCWarning(playerLog, "%s: The player does not play it. %s", qUtf8Printable(m_path),
+              qUtf8Printable(mediaObject()->errorString()));
+    endStart();
+    forgetWish();
+    emit finished();
 }
 
 void MovieWidget::endStart()
@@ -165,6 +181,8 @@ void MovieWidget::followWish()
 {
     if (isPlaying())
         endStart();
+    else if (m_isPlayWanted && !m_isStarting && mediaObject()->state() == Phonon::StoppedState)
+        noteBreakdown();
     rewind();
     if (m_isPlayWanted && !m_isStarting && isPaused())
         start();

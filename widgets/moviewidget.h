@@ -20,7 +20,8 @@ public:
     QString path() const { return m_path; }
 
     // Whether the movie was told to play, and neither to wait nor to stop since, nor came to its end: what
-    // the player does follows a moment later.
+    // the player does follows a moment later. A player that breaks down counts as having come to the end,
+    // with finished() and a line on stderr.
     bool isPlayWanted() const { return m_isPlayWanted; }
 
     // As disp(): the player's own would not know of the wish.
@@ -45,6 +46,7 @@ private:
     void showFirstPicture();
     void start();
     void restart();
+    void noteBreakdown();
     void endStart();
     void rewind();
     void followWish();

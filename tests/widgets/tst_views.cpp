@@ -7,6 +7,8 @@
 #include <QScreen>
 #include <QtTest>
 
+#include <phonon/MediaObject>
+
 // What the main window is made of: its buttons, its pictures and its movies.
 class TestViews : public QObject
 {
@@ -157,6 +159,15 @@ private slots:
                      qPrintable(QString("at %1").arg(movie.currentTime())));
         movie.Play();
         QVERIFY(finished.wait(10000));
+
+        // The player stops in the middle, as when its sound server dies: it can be told to play again.
+        movie.Play();
+        QTRY_VERIFY(movie.isPlaying() && movie.currentTime() > 100);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("does not play"));
+        movie.mediaObject()->stop();
+        QVERIFY(finished.wait(5000) && !movie.isPlayWanted());
+        movie.Play();
+        QTRY_VERIFY(movie.isPlaying());
     }
 
     // Before the player knows the movie, while it shows the first picture, and later: the last word counts.
