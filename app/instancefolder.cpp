@@ -4,26 +4,27 @@
 #include <QLocalServer>
 #include <QLocalSocket>
 
-#include <cerrno>
 #include <fcntl.h>
-#include <sys/file.h>
 #include <utility>
 
 InstanceFolder::InstanceFolder(const QString &path)
-    : m_folder(open(QFile::encodeName(path), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC))
+    : m_folder(open(QFile::encodeName(path), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC)),
+      m_lock(path + "/.instance.lock")
 {
+    // However long a lesson lasts: only a holder that has ended leaves a lock to be taken over.
+    m_lock.setStaleLockTime(0);
 }
 
 InstanceFolder::~InstanceFolder() = default;
 
 bool InstanceFolder::lock()
 {
-    return flock(m_folder, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+    return m_lock.tryLock() || m_lock.error() != QLockFile::LockFailedError;
 }
 
 void InstanceFolder::unlock()
 {
-    flock(m_folder, LOCK_UN);
+    m_lock.unlock();
 }
 
 bool InstanceFolder::listen(std::function<void(QLocalSocket *)> take)

@@ -2,6 +2,7 @@
 
 #include "util/files/descriptor.h"
 
+#include <QLockFile>
 #include <QString>
 
 #include <functional>
@@ -10,9 +11,7 @@
 class QLocalServer;
 class QLocalSocket;
 
-// A private folder in which one process at a time is the instance and listens for others. The folder itself
-// is locked, which leaves nothing behind when the process ends, however it does, and is heeded by those who
-// clear temporary folders. GUI thread only.
+// A private folder in which one process at a time is the instance and listens for others. GUI thread only.
 class InstanceFolder
 {
 public:
@@ -20,7 +19,7 @@ public:
     explicit InstanceFolder(const QString &path);
     ~InstanceFolder();
 
-    // False when another process holds it. True also where there are no locks.
+    // False when another process holds it. True also where no lock can be made.
     bool lock();
     void unlock();
 
@@ -33,5 +32,6 @@ public:
 
 private:
     Descriptor m_folder;
+    QLockFile m_lock;
     std::unique_ptr<QLocalServer> m_server; // gone before the lock is
 };

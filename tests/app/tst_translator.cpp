@@ -49,7 +49,7 @@ private slots:
         translate();
         QCoreApplication::processEvents();
         QCOMPARE(QCoreApplication::translate("SaveConfirmDlg", "Yes"), QString("نعم"));
-        QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QString("ألغِ")); // Qt's own
+        QVERIFY(QCoreApplication::translate("QFileDialog", "Files of type:") != "Files of type:"); // Qt's own
         QCOMPARE(QApplication::layoutDirection(), Qt::RightToLeft);
     }
 };
