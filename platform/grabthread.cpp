@@ -180,9 +180,21 @@ void GrabThread::record(const FramePtr &frame)
     }
     if (!sink)
         return;
+    if (!sink->wants(frame->clockTime)) {
+        letGo(sink);
+        return;
+    }
     // Zoomed and turned by then.
     if (const FramePtr picture = m_moviePictures.make(frame, &m_planes, framing, sink->pictureInfo()))
         sink->take(picture);
+}
+
+// Unless there is another one by now.
+void GrabThread::letGo(const std::shared_ptr<FrameSink> &sink)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (m_sink == sink)
+        m_sink.reset();
 }
 
 void GrabThread::tellLive()

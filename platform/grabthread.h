@@ -40,7 +40,8 @@ public:
     void setView(const QSize &box, const Framing &framing);
     // Has this called once, on the thread of this object, when the first frame has come; null ends that.
     void setLiveHandler(std::function<void()> handler);
-    // Hands every further whole frame to the sink, as a movie's picture of what is shown; null ends that.
+    // Hands every further whole frame to the sink, as a movie's picture of what is shown, in place of the
+    // sink before it, until it wants no more.
     void setSink(std::shared_ptr<FrameSink> sink);
 
     // The latest picture for the window; null before the first. Shares its pixels.
@@ -81,6 +82,7 @@ private:
     FramePtr grabAllWaiting(CameraPipeline &pipeline);
     void deliver(const FramePtr &frame);
     void record(const FramePtr &frame);
+    void letGo(const std::shared_ptr<FrameSink> &sink);
     void tellLive();
     void show(const FramePtr &frame, const View &view);
     View view() const;

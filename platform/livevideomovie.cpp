@@ -92,7 +92,6 @@ void LiveVideoData::startMovie(const QString &path)
     if (!outcome)
         qCWarning(movieLog).noquote().nospace()
             << path << ": The movie is given up, since the disk has not opened its file within five seconds.";
-    m_grabThread->setSink(nullptr);
     movie->discard();
 }
 
@@ -129,8 +128,6 @@ void LiveVideoData::endMovie(MovieEnd why)
 std::shared_ptr<MovieRecorder> LiveVideoData::stopMovie()
 {
     m_startingMovie.reset();
-    if (m_grabThread)
-        m_grabThread->setSink(nullptr);
     std::shared_ptr<MovieRecorder> movie = std::exchange(m_movie, nullptr);
     if (!movie)
         return movie;

@@ -24,6 +24,9 @@ constexpr gsize mostWaitingBytes = gsize(128) << 20;
 // With more than these waiting, what waits is a copy: a driver has few buffers.
 constexpr guint64 mostBorrowedFrames = 2;
 
+// Frames are on their way for one or two of their periods; a camera that was closed sends none any more.
+constexpr auto lastFrameLimit = 300ms;
+
 // How long a slow disk may take nothing of what is left of a movie before it is given up.
 constexpr auto closingLimit = 10s;
 
@@ -150,6 +153,18 @@ void MovieRecorder::fail(MovieEnd why, const QString &line)
     qCWarning(movieLog).noquote().nospace() << m_settings.path << ": " << line;
 }
 
+bool MovieRecorder::wants(GstClockTime captured)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    const bool isOver = m_isDiscarded || m_end != MovieEnd::None || m_hasAllFrames ||
+                        (m_state == State::Finishing && captured > m_stopTime);
+    if (isOver) {
+        m_hasAllFrames = true;
+        m_changed.notify_all();
+    }
+    return !isOver;
+}
+
 void MovieRecorder::take(const FramePtr &frame)
 {
     if (!gst_video_info_is_equal(&frame->info, &m_settings.picture))
@@ -160,7 +175,7 @@ void MovieRecorder::take(const FramePtr &frame)
             keep(frame);
             m_lastInTime = std::chrono::steady_clock::now();
         }
-        if (m_state != State::Recording)
+        if (m_state != State::Recording && (m_state != State::Finishing || m_hasAllFrames))
             return;
     }
     if (!isBehind())
@@ -312,6 +327,7 @@ bool MovieRecorder::waitForFile(std::chrono::milliseconds limit)
 
 void MovieRecorder::close()
 {
+    waitForLastFrames();
     gst_app_src_end_of_stream(GST_APP_SRC(m_movie.pictures));
     m_sound->end(m_stopTime);
     waitForEndOfStreams();
@@ -326,6 +342,14 @@ void MovieRecorder::close()
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_state = State::Finished;
     m_changed.notify_all();
+}
+
+// The first frame that came to be after the stop tells that there are no more of those before it.
+void MovieRecorder::waitForLastFrames()
+{
+    std::unique_lock<std::mutex> lock(m_mutex);
+    m_changed.wait_for(lock, lastFrameLimit, [this] { return m_hasAllFrames; });
+    m_hasAllFrames = true;
 }
 
 // As long as the disk takes something.

@@ -28,6 +28,8 @@ public:
     // the disk does to open the file. Any thread, once.
     bool start(const FramePtr &first);
 
+    // Those captured up to the call of finish(), or none once the movie was discarded or has failed.
+    bool wants(GstClockTime captured) override;
     // Adds a picture of the kind told at the start. While the start, or then the encoder, is behind by a
     // second or by 128 MB frames are left out rather than kept waiting.
     void take(const FramePtr &frame) override;
@@ -46,7 +48,8 @@ public:
     // The longest time without sound of a microphone, up to now.
     std::chrono::milliseconds longestSoundGap() const { return m_sound->longestGap(); }
 
-    // Begins to finish the file, in the background. Also when recording has failed.
+    // Begins to finish the file, in the background; what was captured by now and is still on its way goes in
+    // first. Also when recording has failed.
     void finish();
     // As finish(), of a movie that nobody wants any more, started or not: the file is removed in the end.
     void discard();
@@ -82,6 +85,7 @@ private:
     void lookForLife();
     void lookAtRoom();
     void close();
+    void waitForLastFrames();
     void waitForEndOfStreams();
 
     const MovieSettings m_settings;
@@ -106,5 +110,6 @@ private:
     MovieEnd m_end = MovieEnd::None;
     MovieEnd m_fileFault = MovieEnd::None;
     bool m_isDiscarded = false;
+    bool m_hasAllFrames = false;
     bool m_isFileComplete = false;
 };

@@ -6,6 +6,7 @@
 //   formats   of a camera, as "YUY2 1920x1080 30;JPEG 640x480 30"; "interlaced" may stand behind a raw one
 //   content   of a camera: page, flash, counter, quarters, rows (red and blue ones in turn), or a colour as
 //             RRGGBB
+//   under-way  of a camera's frame: milliseconds from its capture until it comes; none if left out
 //   padding   of a raw camera's rows: so many bytes more than they need
 //   damaged   of a JPEG camera: every so manieth frame is
 //   sound     of a microphone: silence, tone or beep

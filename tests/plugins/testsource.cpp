@@ -249,24 +249,36 @@ GstFlowReturn waitUntil(SourceState *state, int64_t due)
     return GST_FLOW_FLUSHING;
 }
 
-// The frame after the last one, or the oldest that is still kept.
+int64_t underWay(const SourceState &state)
+{
+    return std::stoi(state.device.value("under-way", "0")) * int64_t(1'000'000);
+}
+
+// That has come by now.
+int64_t newestFrame(const SourceState &state)
+{
+    return frameAt(state, monotonicNow() - underWay(state));
+}
+
+// The first that is captured from now on, the frame after the last one, or the oldest that is still kept.
 int64_t nextFrame(const SourceState &state)
 {
-    const int64_t newest = frameAt(state, monotonicNow());
-    return state.lastFrame < 0 ? newest + 1 : std::max(state.lastFrame + 1, newest - backlog + 1);
+    if (state.lastFrame < 0)
+        return frameAt(state, monotonicNow()) + 1;
+    return std::max(state.lastFrame + 1, newestFrame(state) - backlog + 1);
 }
 
 GstFlowReturn create(GstPushSrc *source, GstBuffer **buffer)
 {
     SourceState *state = stateOf(source);
     changeRate(state);
-    const GstFlowReturn waited = waitUntil(state, timeOf(*state, nextFrame(*state)));
+    const GstFlowReturn waited = waitUntil(state, timeOf(*state, nextFrame(*state)) + underWay(*state));
     if (waited == GST_FLOW_ERROR)
         tellReadError(GST_ELEMENT(source), state->goneSince != 0);
     if (waited != GST_FLOW_OK)
         return waited;
     // The wait may have been a stall.
-    const int64_t newest = frameAt(*state, monotonicNow());
+    const int64_t newest = newestFrame(*state);
     const int64_t frame = state->lastFrame < 0 ? newest : std::min(nextFrame(*state), newest);
     if (state->lastFrame < 0)
         state->firstFrame = frame;
