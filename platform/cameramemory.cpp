@@ -23,12 +23,24 @@ const CaptureDevice *CameraMemory::pick(const std::vector<CaptureDevice> &listed
     return picked;
 }
 
+void CameraMemory::follow(const std::vector<CaptureDevice> &listed)
+{
+    std::vector<CaptureDevice> still;
+    std::copy_if(
+        listed.begin(), listed.end(), std::back_inserter(still), [this](const CaptureDevice &camera) {
+            return std::any_of(m_beside.begin(), m_beside.end(), [&camera](const CaptureDevice &beside) {
+                return isSameDevice(camera, beside);
+            });
+        });
+    m_beside = std::move(still);
+}
+
 void CameraMemory::noteLoss(CameraFault why, const std::vector<CaptureDevice> &listed)
 {
     m_beside.clear();
     for (const CaptureDevice &camera : listed) {
         if (camera.device != m_last.device)
-            m_beside.push_back(camera.device);
+            m_beside.push_back(camera);
     }
     if (why == CameraFault::Unplugged)
         m_gone = m_last.device;
@@ -66,5 +78,6 @@ const CaptureDevice *CameraMemory::again(const std::vector<CaptureDevice> &liste
 
 bool CameraMemory::wasBeside(const CaptureDevice &camera) const
 {
-    return std::find(m_beside.begin(), m_beside.end(), camera.device) != m_beside.end();
+    return std::any_of(m_beside.begin(), m_beside.end(),
+                       [&camera](const CaptureDevice &beside) { return beside.device == camera.device; });
 }

@@ -18,6 +18,9 @@ public:
     // first. Null when there is none. What it answers becomes the one that was open last.
     const CaptureDevice *pick(const std::vector<CaptureDevice> &listed);
 
+    // These are listed now: what a provider that was started afresh lists anew is known to be the same.
+    void follow(const std::vector<CaptureDevice> &listed);
+
     // The camera that was open was lost while these were listed.
     void noteLoss(CameraFault why, const std::vector<CaptureDevice> &listed);
 
@@ -29,8 +32,8 @@ private:
     const CaptureDevice *again(const std::vector<CaptureDevice> &listed, const CaptureDevice &camera) const;
     bool wasBeside(const CaptureDevice &camera) const;
 
-    CaptureDevice m_chosen;                           // without a device before a choice
-    CaptureDevice m_last;                             // without a device before the first
-    std::vector<std::shared_ptr<GstDevice>> m_beside; // others that were there when the last one was lost
-    std::shared_ptr<GstDevice> m_gone; // the lost one's place in the list, once it was unplugged
+    CaptureDevice m_chosen;              // without a device before a choice
+    CaptureDevice m_last;                // without a device before the first
+    std::vector<CaptureDevice> m_beside; // others that have been there since the last one was lost
+    std::shared_ptr<GstDevice> m_gone;   // the lost one's place in the list, once it was unplugged
 };

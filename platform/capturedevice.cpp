@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <tuple>
 
 namespace
 {
@@ -195,7 +196,8 @@ const CaptureDevice *findAgain(const std::vector<CaptureDevice> &listed, const C
             continue;
         ++countOfMake;
         ofSameMake = &device;
-        if (device.busPath == chosen.busPath && !inSameSocket)
+        const bool isSameNode = !device.node.isEmpty() && device.node == chosen.node;
+        if (device.busPath == chosen.busPath && (!inSameSocket || isSameNode))
             inSameSocket = &device;
     }
     if (inSameSocket)
@@ -224,8 +226,9 @@ QStringList choiceNames(const std::vector<CaptureDevice> &cameras)
 {
     std::vector<size_t> byPort(cameras.size());
     std::iota(byPort.begin(), byPort.end(), 0);
+    const auto portOf = [&cameras](size_t i) { return std::tie(cameras[i].busPath, cameras[i].node); };
     std::stable_sort(byPort.begin(), byPort.end(),
-                     [&](size_t a, size_t b) { return cameras[a].busPath < cameras[b].busPath; });
+                     [&portOf](size_t a, size_t b) { return portOf(a) < portOf(b); });
     QHash<QString, int> counts;
     std::vector<QString> names(cameras.size());
     for (const size_t i : byPort) {

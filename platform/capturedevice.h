@@ -34,8 +34,9 @@ bool isUsableCamera(const CaptureDevice &device);
 bool isSameDevice(const CaptureDevice &a, const CaptureDevice &b);
 
 // The camera of the list that was chosen once: that very device; else the one of the same make and serial
-// number in the same socket, since a camera that was pulled out and put back may have another node; else the
-// only one of that make and number, in whatever socket. Null when it is not there.
+// number in the same socket, since a camera that was pulled out and put back may have another node; where
+// several tell the same socket or none, the one of the same node, or the first; else the only one of that
+// make and number, in whatever socket. Null when it is not there.
 const CaptureDevice *findAgain(const std::vector<CaptureDevice> &listed, const CaptureDevice &chosen);
 
 // The cameras of all providers, in the order given, each piece of hardware once. Where the kernel's own
@@ -43,7 +44,7 @@ const CaptureDevice *findAgain(const std::vector<CaptureDevice> &listed, const C
 std::vector<CaptureDevice> mergeCameras(const std::vector<CaptureDevice> &listed);
 
 // What the user reads of these cameras, in their order. Where several have one name, a number behind it tells
-// them apart, from the second on, in the order of their ports.
+// them apart, from the second on, in the order of their ports, else of their nodes.
 QStringList choiceNames(const std::vector<CaptureDevice> &cameras);
 
 // The microphone that a movie is recorded with: the user's default, else the first of the sound servers,

@@ -298,6 +298,7 @@ void LiveVideoData::grab()
 void LiveVideoData::noteDevices()
 {
     const QPointer<LiveVideoData> self(this);
+    m_memory.follow(DeviceWatch::instance().cameras());
     device();
     if (self && m_listener)
         m_listener->devicesChanged();

@@ -1,17 +1,29 @@
 #include "tests/platform/camerawindow.h"
 
+#include <QSaveFile>
+
 class TestDeviceLists : public QObject
 {
     Q_OBJECT
 
 private slots:
     void startsAProviderAgain();
+    void knowsTwinsThatAreListedAnew();
     void listsEachCameraOnceAndNothingElse();
     void knowsMicrophonesFromMonitors();
     void keepsTheChoice();
     void opensTheFirstWhileTheChosenOneIsAway();
     void takesTheSameCameraAgain();
 };
+
+// It says so by new files in the user's run folder.
+static void startServer()
+{
+    const QDir folder(qEnvironmentVariable("XDG_RUNTIME_DIR"));
+    folder.mkpath("pulse");
+    QSaveFile server(folder.filePath("pulse/pid"));
+    QVERIFY(server.open(QIODevice::WriteOnly) && server.commit());
+}
 
 // The first of all tests, as providers are followed for as long as the process runs.
 void TestDeviceLists::startsAProviderAgain()
@@ -25,19 +37,43 @@ void TestDeviceLists::startsAProviderAgain()
     QVERIFY(camera.lists({"Direct"}));
     devices.setFault("b", "");
     QVERIFY(camera.lists({"Direct", "Served"}));
-    // Its server ends, and a new one says so in the user's run folder.
+    // Its server ends, and a new one begins.
     devices.setFault("b", "dead");
     devices.camera("new").name("New").provider("b");
     devices.pull("served");
     QTest::qWait(100);
     QVERIFY(camera.lists({"Direct", "Served"}));
     devices.setFault("b", "");
-    const QDir folder(qEnvironmentVariable("XDG_RUNTIME_DIR"));
-    QVERIFY(folder.mkpath("pulse"));
-    QFile server(folder.filePath("pulse/pid"));
-    QVERIFY(server.open(QIODevice::WriteOnly));
+    startServer();
     QVERIFY(camera.lists({"Direct", "New"}));
-    QVERIFY(server.remove());
+}
+
+// By a server that tells of their nodes alone.
+void TestDeviceLists::knowsTwinsThatAreListedAnew()
+{
+    TestDevices devices;
+    devices.camera("a").name("Twin").property("api.v4l2.path", "/dev/video8");
+    devices.camera("b").name("Twin").property("api.v4l2.path", "/dev/video9").formats("YUY2 320x240 30");
+    devices.write();
+    CameraWindow camera;
+    QVERIFY(camera.lists({"Twin", "Twin 2"}));
+    camera.choose("Twin 2");
+    QVERIFY(camera.start());
+    int changes = camera.told.changes;
+    const auto isListedAnew = [&] { return camera.told.changes > changes; };
+    startServer();
+    QTRY_VERIFY(isListedAnew());
+    camera.capture.Release();
+    QVERIFY(camera.start());
+    QCOMPARE(camera.capture.nativeWidth, 320);
+    devices.pull("b");
+    QTRY_COMPARE(camera.lost.count(), 1);
+    camera.capture.Release();
+    QVERIFY(camera.lists({"Twin"}));
+    changes = camera.told.changes;
+    startServer();
+    QTRY_VERIFY(isListedAnew());
+    QVERIFY(!camera.capture.canReopen());
 }
 
 void TestDeviceLists::listsEachCameraOnceAndNothingElse()
