@@ -23,6 +23,7 @@ struct MovieContents {
     double lastLoud = -1;            // -1 without any sound
     double longestQuiet = 0;         // between loud sounds
     double soundLength = 0;
+    QByteArray colours; // as the file tells them beside the pictures
     bool isReadToItsEnd = false;
 
     double length() const { return frames.empty() ? 0 : frames.back().time; }

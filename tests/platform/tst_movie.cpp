@@ -59,11 +59,22 @@ static bool playsInAnotherPlayer(const QString &path)
     return player.waitForFinished() && player.exitCode() == 0 && player.readAllStandardError().isEmpty();
 }
 
+// As its encoder wrote them into the pictures themselves.
+static QByteArray coloursInAnotherPlayer(const QString &path)
+{
+    QProcess player;
+    player.start("ffprobe", {"-v", "error", "-select_streams", "v", "-of", "csv=p=0", "-show_entries",
+                             "stream=color_range,color_space,color_transfer,color_primaries", path});
+    player.waitForFinished();
+    return player.readAllStandardOutput().trimmed();
+}
+
 void TestMovie::recordsPictureAndSoundInSync()
 {
     for (const char *format : {"YUY2 640x480 30", "JPEG 640x480 30"}) {
         TestDevices devices;
         devices.camera("cam").formats(format).content("flash").name(format);
+        devices.camera("cam").set("dim-room", "exposure_auto_priority");
         devices.microphone("mic").sound("beep");
         devices.write();
         CameraWindow camera;
@@ -80,7 +91,9 @@ void TestMovie::recordsPictureAndSoundInSync()
         camera.capture.RecordStop();
 
         QVERIFY2(playsInAnotherPlayer(path()), format);
+        QCOMPARE(coloursInAnotherPlayer(path()), QByteArray("tv,bt709,bt709,bt709"));
         const MovieContents movie = readMovie(path());
+        QCOMPARE(movie.colours, QByteArray("bt709"));
         QVERIFY2(std::abs(movie.length() - 4.3) < 0.3 && std::abs(movie.soundLength - 4.3) < 0.3, format);
         QVERIFY2(movie.frames.size() >= 125, format);
         const std::vector<double> late = latenesses(movie);
@@ -96,6 +109,7 @@ void TestMovie::holdsEveryFrameFromThePressOn()
     constexpr qint64 period = 1000000 / 15;
     TestDevices devices;
     devices.camera("cam").formats("YUY2 640x480 15").content("counter").set("under-way", "70");
+    devices.camera("cam").set("dim-room", "exposure_dynamic_framerate");
     devices.microphone("mic");
     devices.write();
     CameraWindow camera;

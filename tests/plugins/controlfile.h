@@ -7,6 +7,7 @@
 //   content   of a camera: page, flash, counter, quarters, rows (red and blue ones in turn), or a colour as
 //             RRGGBB
 //   under-way  of a camera's frame: milliseconds from its capture until it comes; none if left out
+//   dim-room  of a camera: the control by which it gives every second frame only, unless it is switched off
 //   padding   of a raw camera's rows: so many bytes more than they need
 //   damaged   of a JPEG camera: every so manieth frame is
 //   sound     of a microphone: silence, tone or beep

@@ -7,11 +7,15 @@
 
 #include <algorithm>
 #include <condition_variable>
+#include <set>
 #include <sstream>
 #include <thread>
 
 namespace
 {
+
+constexpr guint deviceProperty = 1;
+constexpr guint controlsProperty = 2;
 
 // What a camera keeps for a reader that is late; older frames are lost. A driver fills one frame while the
 // reader works on the one before.
@@ -19,8 +23,9 @@ constexpr int64_t backlog = 1;
 
 struct SourceState {
     std::string section;
-    DeviceSettings device;   // as last seen
-    GstCaps *caps = nullptr; // owned; as agreed upon, and never null while it runs
+    DeviceSettings device;             // as last seen
+    std::set<std::string> switchedOff; // controls
+    GstCaps *caps = nullptr;           // owned; as agreed upon, and never null while it runs
     std::unique_ptr<Producer> producer;
     std::string pictureFault; // that the producer was made for
     bool isFlooding = false;
@@ -89,8 +94,19 @@ G_DEFINE_TYPE(OrvaneTestSource, orvane_test_source, GST_TYPE_PUSH_SRC)
 namespace
 {
 
-void setProperty(GObject *object, guint, const GValue *value, GParamSpec *)
+gboolean noteControl(GQuark name, const GValue *value, gpointer state)
 {
+    if (G_VALUE_HOLDS_INT(value) && g_value_get_int(value) == 0)
+        static_cast<SourceState *>(state)->switchedOff.insert(g_quark_to_string(name));
+    return TRUE;
+}
+
+void setProperty(GObject *object, guint property, const GValue *value, GParamSpec *)
+{
+    if (property == controlsProperty) {
+        gst_structure_foreach(gst_value_get_structure(value), noteControl, stateOf(object));
+        return;
+    }
     stateOf(object)->section = g_value_get_string(value);
     // Formats are asked for before the device is opened.
     look(stateOf(object)->section, &stateOf(object)->device);
@@ -265,7 +281,9 @@ int64_t nextFrame(const SourceState &state)
 {
     if (state.lastFrame < 0)
         return frameAt(state, monotonicNow()) + 1;
-    return std::max(state.lastFrame + 1, newestFrame(state) - backlog + 1);
+    const std::string slowing = state.device.value("dim-room");
+    const int step = slowing.empty() || state.switchedOff.count(slowing) ? 1 : 2;
+    return std::max(state.lastFrame + step, newestFrame(state) - backlog + 1);
 }
 
 GstFlowReturn create(GstPushSrc *source, GstBuffer **buffer)
@@ -313,9 +331,14 @@ static void orvane_test_source_class_init(OrvaneTestSourceClass *klass)
     G_OBJECT_CLASS(klass)->set_property = setProperty;
     G_OBJECT_CLASS(klass)->finalize = finalize;
     g_object_class_install_property(
-        G_OBJECT_CLASS(klass), 1,
+        G_OBJECT_CLASS(klass), deviceProperty,
         g_param_spec_string("device", "Device", "Its section in the control file", "",
                             GParamFlags(G_PARAM_WRITABLE | G_PARAM_STATIC_STRINGS)));
+    // As the usual camera source has it.
+    g_object_class_install_property(
+        G_OBJECT_CLASS(klass), controlsProperty,
+        g_param_spec_boxed("extra-controls", "Controls", "Set when it is opened", GST_TYPE_STRUCTURE,
+                           GParamFlags(G_PARAM_WRITABLE | G_PARAM_STATIC_STRINGS)));
     GST_ELEMENT_CLASS(klass)->change_state = changeState;
     gst_element_class_set_static_metadata(GST_ELEMENT_CLASS(klass), "Test source", "Source/Video",
                                           "A camera of the control file", "Orvane");
