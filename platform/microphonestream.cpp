@@ -125,9 +125,6 @@ bool MicrophoneStream::build(const CaptureDevice &device)
     GstElement *source = gst_device_create_element(device.device.get(), nullptr);
     if (!source)
         return false;
-    // The list is not told of another default; without a name the server gives the one of now.
-    if (device.isDefault && device.provider == QLatin1String("pulsedeviceprovider"))
-        g_object_set(source, "device", nullptr, nullptr);
     auto *bin = GST_BIN(m_pipeline.get());
     gst_bin_add(bin, source);
     // Its stamps shall count its samples and nothing else: the track sees to the clocks.
