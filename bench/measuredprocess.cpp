@@ -2,6 +2,7 @@
 
 #include <QElapsedTimer>
 #include <QFile>
+#include <QMap>
 #include <QRegularExpression>
 
 #include <X11/Xlib.h>
@@ -55,12 +56,20 @@ MeasuredProcess::~MeasuredProcess()
 
 double MeasuredProcess::memory() const
 {
-    static const QRegularExpression share("\nPss:\\s+(\\d+) kB");
-    QFile file(QString("/proc/%1/smaps_rollup").arg(m_process.processId()));
-    const auto match = share.match(file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray());
-    if (!match.hasMatch())
+    QFile file(QString("/proc/%1/smaps").arg(m_process.processId()));
+    if (!file.open(QIODevice::ReadOnly))
         qFatal("the memory of %s cannot be measured", qPrintable(m_process.program()));
-    return match.captured(1).toDouble() / 1024;
+    QMap<QByteArray, double> mapping; // in kilobytes
+    double kilobytes = 0;
+    for (const QByteArray &line : file.readAll().split('\n')) {
+        const QList<QByteArray> words = line.simplified().split(' ');
+        // What a driver has mapped past the kernel's count of pages has a size and no share.
+        if (words.first() == "VmFlags:")
+            kilobytes += mapping[words.contains("pf") ? "Size:" : "Pss:"];
+        else if (words.size() > 1)
+            mapping[words.first()] = words[1].toDouble();
+    }
+    return kilobytes / 1024;
 }
 
 int MeasuredProcess::nextRendered()

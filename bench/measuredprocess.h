@@ -24,7 +24,8 @@ public:
 
     double processorTime() const { return processorSeconds(m_process.processId()); }
 
-    // Megabytes that it holds now, its share of what it has in common with others.
+    // Megabytes that it holds now, its share of what it has in common with others. Of the kernel's buffers
+    // those that it has mapped, as a camera's are; not what only a driver or a graphics card sees.
     double memory() const;
 
     // The number behind the next "rendered: " of what the program prints. Ends the whole benchmark when none
