@@ -1,7 +1,6 @@
 #include "platform/camerapipeline.h"
 
 #include "platform/optionalproperty.h"
-#include "platform/requiredelements.h"
 
 #include <gst/app/gstappsink.h>
 
@@ -74,12 +73,11 @@ bool CameraPipeline::build(GstDevice *device, const CaptureMode &mode)
 bool CameraPipeline::addH264Decoder(GstElement **last)
 {
     GstElement *parser = add("h264parse");
-    const QByteArray name = RequiredElements::h264Decoder();
-    GstElement *decoder = name.isEmpty() ? nullptr : add(name.constData());
+    GstElement *decoder = add("avdec_h264");
     if (!parser || !decoder || !gst_element_link_many(*last, parser, decoder, nullptr))
         return false;
     // Threads that each decode a frame would keep the picture back by as many frames.
-    setIfPresent(decoder, "thread-type", "slice");
+    gst_util_set_object_arg(G_OBJECT(decoder), "thread-type", "slice");
     *last = decoder;
     return true;
 }

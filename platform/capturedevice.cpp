@@ -1,8 +1,5 @@
 #include "platform/capturedevice.h"
 
-#include "platform/capturemode.h"
-#include "platform/requiredelements.h"
-
 #include <QHash>
 #include <QRegularExpression>
 
@@ -34,11 +31,11 @@ QString firstProperty(const GstStructure *properties, std::initializer_list<cons
     return {};
 }
 
-// PipeWire names the kernel's node as "v4l2:/dev/video0".
-QString withoutScheme(const QString &path)
+// PipeWire names the kernel's node as "v4l2:/dev/video0", and others by what is no node.
+QString kernelsNode(const QString &path)
 {
-    const int slash = path.indexOf(QLatin1Char('/'));
-    return slash > 0 ? path.mid(slash) : path;
+    const int start = path.indexOf(QLatin1String("/dev/"));
+    return start < 0 ? QString() : path.mid(start);
 }
 
 // Some providers write a hexadecimal number with its mark, some without.
@@ -87,18 +84,6 @@ bool isTrue(const GstStructure *properties, const char *name)
     return value == QLatin1String("true") || value == QLatin1String("TRUE") || value == QLatin1String("1");
 }
 
-bool isGreyOnly(const GstCaps *caps)
-{
-    for (guint i = 0; i < gst_caps_get_size(caps); ++i) {
-        const GstStructure *structure = gst_caps_get_structure(caps, i);
-        const QString format = property(structure, "format");
-        if (!gst_structure_has_name(structure, "video/x-raw") || !format.contains(QLatin1String("GRAY8")) ||
-            format.contains(QLatin1Char(',')))
-            return false;
-    }
-    return true;
-}
-
 bool namesInfrared(const QString &name)
 {
     return name.endsWith(QLatin1String(" IR")) || name.contains(QLatin1String(" IR "));
@@ -142,7 +127,7 @@ CaptureDevice describeDevice(GstDevice *device, const QString &provider)
     described.isDirect = !ownNode.isEmpty();
     described.node = described.isDirect
                          ? ownNode
-                         : withoutScheme(firstProperty(properties, {"api.v4l2.path", "object.path"}));
+                         : kernelsNode(firstProperty(properties, {"api.v4l2.path", "object.path"}));
     if (provider == QLatin1String("alsadeviceprovider"))
         described.node = soundCardNode(device);
     described.vendor = withoutMark(firstProperty(properties, {"device.vendor.id", "device.vendor.name"}));
@@ -158,12 +143,15 @@ CaptureDevice describeDevice(GstDevice *device, const QString &provider)
     return described;
 }
 
+std::vector<CaptureMode> modesOf(const CaptureDevice &camera)
+{
+    const CapsHandle caps(gst_device_get_caps(camera.device.get()));
+    return captureModes(caps.get());
+}
+
 bool isUsableCamera(const CaptureDevice &device)
 {
-    const CapsHandle caps(gst_device_get_caps(device.device.get()));
-    if (!caps || gst_caps_is_any(caps.get()) || isGreyOnly(caps.get()) || namesInfrared(device.name))
-        return false;
-    return !captureModes(caps.get(), !RequiredElements::h264Decoder().isEmpty()).empty();
+    return !namesInfrared(device.name) && !modesOf(device).empty();
 }
 
 bool isSameDevice(const CaptureDevice &a, const CaptureDevice &b)

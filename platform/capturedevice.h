@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/gsthandles.h"
+#include "platform/capturemode.h"
 
 #include <QString>
 #include <QStringList>
@@ -26,6 +26,9 @@ struct CaptureDevice {
 
 // Reads what the provider tells of a device; every property may be missing.
 CaptureDevice describeDevice(GstDevice *device, const QString &provider);
+
+// The modes of a camera; empty when it is none, or none that a picture can be taken from.
+std::vector<CaptureMode> modesOf(const CaptureDevice &camera);
 
 // Whether a picture for a lesson can come from it: neither a node that gives no picture nor an infrared twin.
 bool isUsableCamera(const CaptureDevice &device);

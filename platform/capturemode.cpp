@@ -167,7 +167,7 @@ bool inSystemMemory(const GstCaps *caps, guint index)
     return !features || gst_caps_features_is_equal(features, GST_CAPS_FEATURES_MEMORY_SYSTEM_MEMORY);
 }
 
-bool describeCoding(const GstStructure *structure, bool h264Decodes, CaptureMode *mode)
+bool describeCoding(const GstStructure *structure, CaptureMode *mode)
 {
     if (gst_structure_has_name(structure, "video/x-raw")) {
         mode->coding = CaptureMode::Coding::Raw;
@@ -179,7 +179,7 @@ bool describeCoding(const GstStructure *structure, bool h264Decodes, CaptureMode
         return true;
     }
     mode->coding = CaptureMode::Coding::H264;
-    return h264Decodes && gst_structure_has_name(structure, "video/x-h264");
+    return gst_structure_has_name(structure, "video/x-h264");
 }
 
 bool isSmooth(const CaptureMode &mode)
@@ -226,13 +226,13 @@ bool betterNative(const CaptureMode &a, const CaptureMode &b)
 
 } // namespace
 
-std::vector<CaptureMode> captureModes(const GstCaps *caps, bool h264Decodes)
+std::vector<CaptureMode> captureModes(const GstCaps *caps)
 {
     std::vector<CaptureMode> modes;
     for (guint i = 0; caps && i < gst_caps_get_size(caps); ++i) {
         const GstStructure *structure = gst_caps_get_structure(caps, i);
         CaptureMode mode;
-        if (!inSystemMemory(caps, i) || !describeCoding(structure, h264Decodes, &mode))
+        if (!inSystemMemory(caps, i) || !describeCoding(structure, &mode))
             continue;
         const Rate rate = suitedRate(structure);
         mode.rateNumerator = rate.numerator;

@@ -24,9 +24,9 @@ struct CaptureMode {
 
 // Every mode of the caps that this program can take a picture from, one a size of each entry, each with the
 // frame rate that suits it: 30 a second, else the next above, else the fastest that is offered. Modes in
-// another memory than the system's, grey-only ones (infrared) and, unless h264Decodes, H.264 ones are left
-// out. Ranges of sizes give the usual sizes in them.
-std::vector<CaptureMode> captureModes(const GstCaps *caps, bool h264Decodes);
+// another memory than the system's and grey-only ones (infrared) are left out. Ranges of sizes give the usual
+// sizes in them.
+std::vector<CaptureMode> captureModes(const GstCaps *caps);
 
 // The mode in which to open a camera: the largest picture at 24 frames a second or more, else the largest;
 // where that is no larger than 640x480, the largest from 1280x720 on at 10 frames or more, if there is one.

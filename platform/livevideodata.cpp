@@ -38,12 +38,6 @@ QStringList missingParts()
     return RequiredElements::missing();
 }
 
-std::vector<CaptureMode> modesOf(const CaptureDevice &camera)
-{
-    const CapsHandle caps(gst_device_get_caps(camera.device.get()));
-    return captureModes(caps.get(), !RequiredElements::h264Decoder().isEmpty());
-}
-
 } // namespace
 
 void LiveVideoData::prepare()

@@ -1,7 +1,6 @@
 #include "platform/moviepipeline.h"
 
 #include "platform/movielimits.h"
-#include "platform/requiredelements.h"
 #include "platform/soundformat.h"
 
 #include <QFile>
@@ -51,13 +50,6 @@ public:
             gst_bin_add(GST_BIN(m_pipeline.get()), made);
         m_isComplete = m_isComplete && made;
         return made;
-    }
-    GstElement *addFilter(const char *caps)
-    {
-        GstElement *filter = add("capsfilter");
-        if (filter)
-            gst_util_set_object_arg(G_OBJECT(filter), "caps", caps);
-        return filter;
     }
     void chain(std::initializer_list<GstElement *> elements)
     {
@@ -161,15 +153,16 @@ MoviePipeline buildMoviePipeline(const MovieSettings &settings)
 
     movie.pictures = addPictures(assembly, settings);
     movie.pictureQueue = addMuxQueue(assembly);
+    // The parser tells how long each frame lasts. Without that the last one would not be seen.
     assembly.chain({movie.pictures, addVideoEncoder(assembly, settings), assembly.add("h264parse"),
                     movie.pictureQueue, movie.muxer});
 
     const CapsHandle caps(gst_caps_from_string(soundCaps));
     movie.sound = addSource(assembly, caps.get());
     movie.soundQueue = addMuxQueue(assembly);
-    GstElement *encoder = assembly.add(RequiredElements::aacEncoder().constData());
-    assembly.chain({movie.sound, assembly.add("audioconvert"), encoder, assembly.add("aacparse"),
-                    movie.soundQueue, movie.muxer});
+    // No other one: soundDelay() is what this one was measured to take.
+    GstElement *encoder = assembly.add("avenc_aac");
+    assembly.chain({movie.sound, assembly.add("audioconvert"), encoder, movie.soundQueue, movie.muxer});
     if (!assembly.isComplete())
         return {};
     g_object_set(encoder, "bitrate", soundBitRate, nullptr);

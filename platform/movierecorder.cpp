@@ -21,8 +21,6 @@ using namespace std::chrono_literals;
 // What may wait for the start or for the encoder, beside a second's worth of frames; with more of them the
 // end of a movie would take too long.
 constexpr gsize mostWaitingBytes = gsize(128) << 20;
-// With more than these waiting, what waits is a copy: a driver has few buffers.
-constexpr guint64 mostBorrowedFrames = 2;
 
 // Frames are on their way for one or two of their periods; a camera that was closed sends none any more.
 constexpr auto lastFrameLimit = 300ms;

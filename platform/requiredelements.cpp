@@ -5,33 +5,28 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
-#include <vector>
-
 namespace
 {
 
 struct Requirement {
-    std::vector<const char *> elements; // any one of them will do, the first that is there is used
+    const char *element;
     const char *package;
 };
 
-const Requirement h264Decoding{{"avdec_h264", "openh264dec"}, "gstreamer1.0-libav"};
-const Requirement aacEncoding{{"avenc_aac", "fdkaacenc", "voaacenc"}, "gstreamer1.0-libav"};
-
 const Requirement requirements[] = {
-    {{"v4l2src"}, "gstreamer1.0-plugins-good"},
-    {{"capsfilter"}, "libgstreamer1.0-0"},
-    {{"queue"}, "libgstreamer1.0-0"},
-    {{"filesink"}, "libgstreamer1.0-0"},
-    {{"appsink"}, "gstreamer1.0-plugins-base"},
-    {{"appsrc"}, "gstreamer1.0-plugins-base"},
-    {{"audioconvert"}, "gstreamer1.0-plugins-base"},
-    {{"audioresample"}, "gstreamer1.0-plugins-base"},
-    {{"x264enc"}, "gstreamer1.0-plugins-ugly"},
-    {{"h264parse"}, "gstreamer1.0-plugins-bad"},
-    aacEncoding,
-    {{"aacparse"}, "gstreamer1.0-plugins-good"},
-    {{"qtmux"}, "gstreamer1.0-plugins-good"},
+    {"v4l2src", "gstreamer1.0-plugins-good"},
+    {"capsfilter", "libgstreamer1.0-0"},
+    {"queue", "libgstreamer1.0-0"},
+    {"filesink", "libgstreamer1.0-0"},
+    {"appsink", "gstreamer1.0-plugins-base"},
+    {"appsrc", "gstreamer1.0-plugins-base"},
+    {"audioconvert", "gstreamer1.0-plugins-base"},
+    {"audioresample", "gstreamer1.0-plugins-base"},
+    {"x264enc", "gstreamer1.0-plugins-ugly"},
+    {"h264parse", "gstreamer1.0-plugins-bad"},
+    {"avdec_h264", "gstreamer1.0-libav"},
+    {"avenc_aac", "gstreamer1.0-libav"},
+    {"qtmux", "gstreamer1.0-plugins-good"},
 };
 
 // Of the sound servers, the one that is asked first where both run; by its socket in the user's run folder.
@@ -39,24 +34,15 @@ const struct {
     const char *socket;
     Requirement plugIn;
 } soundServers[] = {
-    {"/pulse/native", {{"pulsesrc"}, "gstreamer1.0-pulseaudio"}},
-    {"/pipewire-0", {{"pipewiresrc"}, "gstreamer1.0-pipewire"}},
+    {"/pulse/native", {"pulsesrc", "gstreamer1.0-pulseaudio"}},
+    {"/pipewire-0", {"pipewiresrc", "gstreamer1.0-pipewire"}},
 };
-
-QByteArray installed(const Requirement &requirement)
-{
-    for (const char *element : requirement.elements) {
-        if (gst_registry_check_feature_version(gst_registry_get(), element, 1, 0, 0))
-            return element;
-    }
-    return {};
-}
 
 void tellMissing(const Requirement &requirement, QStringList *lines)
 {
-    if (installed(requirement).isEmpty())
+    if (!gst_registry_check_feature_version(gst_registry_get(), requirement.element, 1, 0, 0))
         *lines << QStringLiteral("GStreamer element \"%1\" is not installed (package %2)")
-                      .arg(QLatin1String(requirement.elements.front()), QLatin1String(requirement.package));
+                      .arg(QLatin1String(requirement.element), QLatin1String(requirement.package));
 }
 
 } // namespace
@@ -77,15 +63,6 @@ QStringList missing()
         break;
     }
     return lines;
-}
-
-QByteArray h264Decoder()
-{
-    return installed(h264Decoding);
-}
-QByteArray aacEncoder()
-{
-    return installed(aacEncoding);
 }
 
 } // namespace RequiredElements

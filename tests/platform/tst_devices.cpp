@@ -87,6 +87,7 @@ void TestDeviceLists::listsEachCameraOnceAndNothingElse()
     // As libcamera calls a USB camera, beside the kernel's name for its socket.
     devices.camera("own way").provider("b").name("Desk Cam, by itself");
     devices.camera("own way").property("api.libcamera.path", "SB_.PCI0.XHC_.RHUB.HS06-6:1.0-046d:0825");
+    devices.camera("own way").property("object.path", "libcamera:SB_.PCI0.XHC_.RHUB.HS06-6:1.0-046d:0825");
     devices.camera("kernel's").name("Desk Cam").property("device.path", "/dev/video6");
     devices.camera("kernel's").property("device.bus_path", "pci-0000:00:14.0-usb-0:6:1.0");
     devices.camera("kernel's").property("device.vendor.id", "0x046d").property("device.product.id", "0825");
