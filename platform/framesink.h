@@ -12,6 +12,8 @@ public:
     // a no it is neither asked nor given anything any more.
     virtual bool wants(GstClockTime captured) = 0;
     virtual void take(const FramePtr &frame) = 0;
+    // The camera gives no further frame.
+    virtual void noteLastFrame() = 0;
     // What these pictures are to be like; the same at all times.
     virtual const GstVideoInfo &pictureInfo() const = 0;
 };

@@ -103,6 +103,7 @@ void GrabThread::run()
     if (pipeline.open()) {
         m_isOpening = false;
         grabUntilStopped(pipeline);
+        endSink();
     }
     fail(pipeline.failure());
 }
@@ -195,6 +196,18 @@ void GrabThread::letGo(const std::shared_ptr<FrameSink> &sink)
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (m_sink == sink)
         m_sink.reset();
+}
+
+// Before the camera is closed, which it may not let happen.
+void GrabThread::endSink()
+{
+    std::shared_ptr<FrameSink> sink;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        sink.swap(m_sink);
+    }
+    if (sink)
+        sink->noteLastFrame();
 }
 
 void GrabThread::tellLive()

@@ -83,6 +83,7 @@ private:
     void deliver(const FramePtr &frame);
     void record(const FramePtr &frame);
     void letGo(const std::shared_ptr<FrameSink> &sink);
+    void endSink();
     void tellLive();
     void show(const FramePtr &frame, const View &view);
     View view() const;

@@ -22,7 +22,7 @@ using namespace std::chrono_literals;
 // end of a movie would take too long.
 constexpr gsize mostWaitingBytes = gsize(128) << 20;
 
-// Frames are on their way for one or two of their periods; a camera that was closed sends none any more.
+// Frames are on their way for one or two of their periods. A camera that hangs sends none any more.
 constexpr auto lastFrameLimit = 300ms;
 
 // How long a slow disk may take nothing of what is left of a movie before it is given up.
@@ -156,11 +156,22 @@ bool MovieRecorder::wants(GstClockTime captured)
     const std::lock_guard<std::mutex> lock(m_mutex);
     const bool isOver = m_isDiscarded || m_end != MovieEnd::None || m_hasAllFrames ||
                         (m_state == State::Finishing && captured > m_stopTime);
-    if (isOver) {
-        m_hasAllFrames = true;
-        m_changed.notify_all();
-    }
+    if (isOver)
+        noteAllFrames();
     return !isOver;
+}
+
+void MovieRecorder::noteLastFrame()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    noteAllFrames();
+}
+
+// Called with the mutex locked.
+void MovieRecorder::noteAllFrames()
+{
+    m_hasAllFrames = true;
+    m_changed.notify_all();
 }
 
 void MovieRecorder::take(const FramePtr &frame)

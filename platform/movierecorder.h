@@ -33,6 +33,7 @@ public:
     // Adds a picture of the kind told at the start. While the start, or then the encoder, is behind by a
     // second or by 128 MB frames are left out rather than kept waiting.
     void take(const FramePtr &frame) override;
+    void noteLastFrame() override;
     const GstVideoInfo &pictureInfo() const override { return m_settings.picture; }
 
     // The following wait for nothing, but for waitForFile().
@@ -84,6 +85,7 @@ private:
     void watch();
     void lookForLife();
     void lookAtRoom();
+    void noteAllFrames();
     void close();
     void waitForLastFrames();
     void waitForEndOfStreams();
