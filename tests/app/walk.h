@@ -2,8 +2,8 @@
 
 #include "tests/app/program.h"
 
-// By mouse from the live picture through all screens of the program, up to a series that has begun: which buttons
-// are there, which are enabled, and where. Returns what was not as it should be; empty when all was.
+// By mouse from the live picture through all screens of the program, up to a series that has begun: which
+// buttons are there, which are enabled, and where. Returns what was not as it should be; empty when all was.
 inline QString walkThroughAllScreens()
 {
     const QPoint firstThumbnail(60, Program::height() - Program::buttonHeight() - Program::height() / 10);

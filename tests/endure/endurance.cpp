@@ -41,7 +41,9 @@ double memory(qint64 process)
 {
     QFile file(processFile(process, "smaps_rollup"));
     static const QRegularExpression share("\nPss:\\s+(\\d+) kB");
-    return share.match(file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray()).captured(1).toDouble() /
+    return share.match(file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray())
+               .captured(1)
+               .toDouble() /
            1024;
 }
 
@@ -77,6 +79,14 @@ Holdings look(qint64 process)
             memory(process)};
 }
 
+void recordMovie(Lesson &lesson)
+{
+    constexpr int milliseconds = 1000;
+    lesson.startMovie();
+    QTest::qWait(milliseconds);
+    lesson.stopMovie();
+}
+
 } // namespace
 
 // The divisor takes that part of it all.
@@ -85,11 +95,9 @@ int main(int argc, char **argv)
     QGuiApplication application(argc, argv);
     const int divisor = argc > 1 ? QString(argv[1]).toInt() * tenths : tenths;
     Lesson lesson;
-    Program program;
-    program.process().setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    if (!program.start())
-        qFatal("the program does not start");
-    const qint64 process = program.process().processId();
+    lesson.launch();
+    lesson.awaitLive();
+    const qint64 process = lesson.program->process().processId();
     Holdings first = {};
     Holdings now = {};
     for (int tenth = 0; tenth < tenths; ++tenth) {
@@ -101,7 +109,7 @@ int main(int argc, char **argv)
             lesson.takePhoto();
         // Last: the player, once it has shown one, keeps it.
         for (int i = 0; i < movies / divisor; ++i)
-            lesson.recordMovie(1000);
+            recordMovie(lesson);
         now = look(process);
         if (tenth == 0)
             first = now;

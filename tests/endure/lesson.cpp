@@ -16,21 +16,19 @@ bool isPictureShown()
     return Program::brightness(QPoint(400, 300)) > 30;
 }
 
-} // namespace
-
-void await(const char *what, const std::function<bool()> &condition, int limitMilliseconds)
+bool isLive()
 {
-    if (QTest::qWaitFor(condition, limitMilliseconds))
-        return;
-    Program::screen().save(QString("/tmp/endure-failed.png"));
-    qFatal("this did not come: %s; the row shows %s", what, qPrintable(Program::rowLooks(Program::screen())));
+    return isPictureShown() && Program::rowLooks(Program::screen()) == "EEEEE";
 }
+
+} // namespace
 
 void tell(const QString &promise, double figure, double limit, const char *unit)
 {
     const bool isKept = figure <= limit;
     failed += isKept ? 0 : 1;
-    std::printf("%s\t%.4g\t%.4g\t%s\t%s\n", qPrintable(promise), figure, limit, unit, isKept ? "pass" : "FAIL");
+    std::printf("%s\t%.4g\t%.4g\t%s\t%s\n", qPrintable(promise), figure, limit, unit,
+                isKept ? "pass" : "FAIL");
     std::fflush(stdout);
 }
 
@@ -49,22 +47,54 @@ Lesson::Lesson(const QString &formats)
     settings.setValue("ContinuShootCount", 3);
 }
 
-bool Lesson::isLive()
+void Lesson::launch(const QProcessEnvironment &environment)
 {
-    return isPictureShown() && Program::rowLooks(Program::screen()) == "EEEEE";
+    program.reset(); // it, too, has the name
+    program = std::make_unique<Program>();
+    program->process().setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    program->process().setProcessEnvironment(environment);
+    program->process().start(ORVANE_PROGRAM, QStringList());
+    if (!program->process().waitForStarted())
+        throw ProgramHasEnded();
 }
 
-void Lesson::takePhoto() const
+void Lesson::awaitLive()
+{
+    await("the live picture", isLive);
+}
+
+void Lesson::await(const char *what, const std::function<bool()> &condition)
+{
+    constexpr int patienceMilliseconds = 4000;
+    constexpr int limitMilliseconds = 90000;
+    const auto hasEnded = [this] { return program->process().state() == QProcess::NotRunning; };
+    const auto isOver = [&] { return hasEnded() || condition(); };
+    QElapsedTimer waited;
+    for (waited.start(); !QTest::qWaitFor(isOver, patienceMilliseconds);) {
+        // Before the window is shown, the message is alone.
+        if (Program::windows() > 1 || Program::rowLooks(Program::screen()) == "....") {
+            Program::press("Return");
+            throw MessageIsShown();
+        }
+        if (waited.hasExpired(limitMilliseconds))
+            qFatal("this did not come: %s; the row shows %s", what,
+                   qPrintable(Program::rowLooks(Program::screen())));
+    }
+    if (hasEnded())
+        throw ProgramHasEnded();
+}
+
+void Lesson::takePhoto()
 {
     Program::click(Program::liveRow(1));
     await("the photo", Program::showsPreview);
     Program::click(Program::acceptButton());
     await("the photo's review", [] { return Program::buttonsShown() == 3; });
     Program::click(Program::row(0));
-    await("the live picture", isLive);
+    awaitLive();
 }
 
-void Lesson::takeSeries() const
+void Lesson::takeSeries()
 {
     const int before = Program::captures({"photo*"}).size();
     for (int shot = 1; shot <= 3; ++shot) {
@@ -73,27 +103,30 @@ void Lesson::takeSeries() const
     }
     await("the series' grid", [] { return Program::buttonsShown() == 3; });
     Program::click(Program::row(0));
-    await("the live picture", isLive);
+    awaitLive();
 }
 
-void Lesson::recordMovie(int milliseconds) const
+void Lesson::startMovie()
 {
     Program::click(Program::liveRow(3));
     await("the recording", [] { return Program::rowLooks(Program::screen()) == "dddEd"; });
-    QTest::qWait(milliseconds);
+}
+
+void Lesson::stopMovie()
+{
     Program::click(Program::liveRow(3));
     await("the movie", [] { return Program::buttonsShown() == 3 && isPictureShown(); });
     Program::click(Program::row(0));
-    await("the live picture", isLive);
+    awaitLive();
 }
 
-void Lesson::walk() const
+void Lesson::walk()
 {
     const QString missed = walkThroughAllScreens();
     if (!missed.isEmpty())
         qFatal("the walk missed %s", qPrintable(missed));
     Program::click(Program::liveRow(0)); // out of the series
-    await("the live picture", isLive);
+    awaitLive();
 }
 
 void Lesson::loseCamera()
@@ -106,4 +139,37 @@ void Lesson::loseCamera()
     QTest::qWait(handMilliseconds);
     devices.plug("cam");
     await("the camera's return", isLive);
+}
+
+void Lesson::changeSettings()
+{
+    Program::click(Program::settingsButton());
+    await("the settings", [] { return Program::windows("") == 2; });
+    Program::press("Return");
+    await("the live picture", [] { return Program::windows("") == 1 && isLive(); });
+}
+
+void Lesson::load(const QString &folder)
+{
+    Program::click(Program::liveRow(4));
+    await("the list", [] { return Program::buttonsShown() == 4; });
+    Program::click(Program::row(2));
+    await("the chooser", [] { return Program::windows("Load Directory") == 1; });
+    Program::xdotool({"type", folder});
+    Program::press("Return");
+    await("the loading", [] { return Program::windows() == 2; });
+    await("the loading's end", [] { return Program::press("Return"), Program::windows() == 1; });
+    Program::click(Program::row(0));
+    awaitLive();
+}
+
+void Lesson::leaveSaving()
+{
+    Program::click(Program::exitButton());
+    await("the question", [] { return Program::windows() == 2; });
+    try {
+        await("the answer", [] { return Program::answer(Program::Yes), Program::windows() < 2; });
+        await("the end", [] { return false; });
+    } catch (const ProgramHasEnded &) {
+    }
 }
