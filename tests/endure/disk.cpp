@@ -77,12 +77,7 @@ int Trials::run(const Fault &fault)
     m_lesson.launch(environment);
     attempt([this] { m_lesson.awaitLive(); });
     attempt([this] { m_lesson.takePhoto(); });
-    attempt([this] {
-        constexpr int movieMilliseconds = 1000;
-        m_lesson.startMovie();
-        QTest::qWait(movieMilliseconds);
-        m_lesson.stopMovie();
-    });
+    attempt([this] { m_lesson.recordMovie(); });
     attempt([this] { m_lesson.load(m_earlier.path()); });
     attempt([this] { m_lesson.leaveSaving(); });
     judge(fault);

@@ -70,21 +70,16 @@ int xResources(qint64 process)
     return resources;
 }
 
-Holdings look(qint64 process)
+// What the program holds at rest, with the player keeping a movie that it has shown.
+Holdings look(Lesson &lesson)
 {
-    // Until the threads of all pools have ended for want of work.
-    constexpr int settlingMilliseconds = 35000;
+    constexpr int playerMilliseconds = 3000;    // a slow start of the player and its second try
+    constexpr int settlingMilliseconds = 35000; // until the threads of all pools have ended for want of work
+    lesson.recordMovie(playerMilliseconds);
     QTest::qWait(settlingMilliseconds);
+    const qint64 process = lesson.program->process().processId();
     return {entries(processFile(process, "task")), entries(processFile(process, "fd")), xResources(process),
             memory(process)};
-}
-
-void recordMovie(Lesson &lesson)
-{
-    constexpr int milliseconds = 1000;
-    lesson.startMovie();
-    QTest::qWait(milliseconds);
-    lesson.stopMovie();
 }
 
 } // namespace
@@ -97,7 +92,6 @@ int main(int argc, char **argv)
     Lesson lesson;
     lesson.launch();
     lesson.awaitLive();
-    const qint64 process = lesson.program->process().processId();
     Holdings first = {};
     Holdings now = {};
     for (int tenth = 0; tenth < tenths; ++tenth) {
@@ -107,10 +101,9 @@ int main(int argc, char **argv)
             lesson.loseCamera();
         for (int i = 0; i < photos / divisor; ++i)
             lesson.takePhoto();
-        // Last: the player, once it has shown one, keeps it.
         for (int i = 0; i < movies / divisor; ++i)
-            recordMovie(lesson);
-        now = look(process);
+            lesson.recordMovie();
+        now = look(lesson);
         if (tenth == 0)
             first = now;
         std::fprintf(stderr, "tenth %d: %d threads, %d descriptors, %d X resources, %.1f MB\n", tenth + 1,

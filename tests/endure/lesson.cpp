@@ -112,12 +112,21 @@ void Lesson::startMovie()
     await("the recording", [] { return Program::rowLooks(Program::screen()) == "dddEd"; });
 }
 
-void Lesson::stopMovie()
+void Lesson::stopMovie(int lookMilliseconds)
 {
     Program::click(Program::liveRow(3));
     await("the movie", [] { return Program::buttonsShown() == 3 && isPictureShown(); });
+    QTest::qWait(lookMilliseconds);
     Program::click(Program::row(0));
     awaitLive();
+}
+
+void Lesson::recordMovie(int lookMilliseconds)
+{
+    constexpr int length = 1000;
+    startMovie();
+    QTest::qWait(length);
+    stopMovie(lookMilliseconds);
 }
 
 void Lesson::walk()

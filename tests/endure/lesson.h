@@ -38,7 +38,9 @@ public:
     void takePhoto();
     void takeSeries();
     void startMovie();
-    void stopMovie();
+    // The movie is looked at for so long.
+    void stopMovie(int lookMilliseconds = 0);
+    void recordMovie(int lookMilliseconds = 0); // of a second
     void walk();
     void loseCamera();
     void changeSettings();
