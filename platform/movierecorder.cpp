@@ -21,8 +21,6 @@ using namespace std::chrono_literals;
 // What may wait for the start or for the encoder, beside a second's worth of frames; with more of them the
 // end of a movie would take too long.
 constexpr gsize mostWaitingBytes = gsize(128) << 20;
-// With more than these waiting, what waits is a copy: a driver has few buffers.
-constexpr guint64 mostBorrowedFrames = 2;
 
 // How long a slow disk may take nothing of what is left of a movie before it is given up.
 constexpr auto closingLimit = 10s;
