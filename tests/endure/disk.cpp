@@ -2,7 +2,6 @@
 
 #include "tests/endure/lesson.h"
 
-#include <QDirIterator>
 #include <QSettings>
 
 #include <cerrno>
@@ -131,19 +130,12 @@ void Trials::judge(const Fault &fault)
         static_cast<void>(m_lesson.program->quit());
     if (process.exitStatus() == QProcess::CrashExit || process.exitCode() != 0)
         miss(&m_deaths, "dead", fault);
-    QMap<QString, QString> all;
-    for (const QString &folder : {Program::workingFolder().path(), m_saveDisk.path()}) {
-        for (QDirIterator files(folder, {"photo*", "movie*"}, QDir::Files, QDirIterator::Subdirectories);
-             files.hasNext();) {
-            files.next();
-            all[files.fileName()] = files.filePath();
-        }
-    }
+    const auto all = capturesIn({Program::workingFolder().path(), m_saveDisk.path()});
     for (const QString &name : qAsConst(m_finished)) {
         if (!all.contains(name))
             miss(&m_lost, qPrintable("lost " + name), fault);
     }
-    for (const QString &path : qAsConst(all)) {
+    for (const QString &path : all) {
         if (path.endsWith(".png") && QImage(path).isNull())
             miss(&m_damaged, qPrintable("damaged " + path), fault);
     }

@@ -1,5 +1,5 @@
-// What comes from outside, as hostile as libFuzzer makes it. Each program tries one of these functions, whose name
-// it is built with.
+// What comes from outside, as hostile as libFuzzer makes it. Each program tries one of these functions, whose
+// name it is built with.
 
 #include "platform/capturemode.h"
 #include "platform/jpegdecoder.h"

@@ -158,16 +158,7 @@ void Ordeal::killOnce()
 
 Captures Ordeal::captures() const
 {
-    Captures all;
-    for (const QString &folder :
-         {Program::workingFolder().path(), QDir::home().filePath("VeltrixCamera"), m_otherDisk.path()}) {
-        for (QDirIterator files(folder, {"photo*", "movie*"}, QDir::Files, QDirIterator::Subdirectories);
-             files.hasNext();) {
-            files.next();
-            all.insert(files.fileName(), files.filePath());
-        }
-    }
-    return all;
+    return capturesIn({Program::workingFolder().path(), QDir::homePath(), m_otherDisk.path()});
 }
 
 // All other files of the program's: settings, locks, and what a death may have left.
@@ -176,9 +167,8 @@ int Ordeal::strays() const
     int all = -captures().size();
     for (const QString &folder : {Program::workingFolder().path(), QDir::homePath(), m_otherDisk.path(),
                                   qEnvironmentVariable("XDG_RUNTIME_DIR")}) {
-        for (QDirIterator files(folder, QDir::Files | QDir::Hidden | QDir::System,
-                                QDirIterator::Subdirectories);
-             files.hasNext(); files.next())
+        QDirIterator files(folder, QDir::Files | QDir::Hidden | QDir::System, QDirIterator::Subdirectories);
+        for (; files.hasNext(); files.next())
             ++all;
     }
     return all;

@@ -2,6 +2,7 @@
 
 #include "tests/app/walk.h"
 
+#include <QDirIterator>
 #include <QSettings>
 
 #include <cstdio>
@@ -35,6 +36,19 @@ void tell(const QString &promise, double figure, double limit, const char *unit)
 int failures()
 {
     return failed;
+}
+
+QMultiMap<QString, QString> capturesIn(const QStringList &folders)
+{
+    QMultiMap<QString, QString> all;
+    for (const QString &folder : folders) {
+        QDirIterator files(folder, {"photo*", "movie*"}, QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            files.next();
+            all.insert(files.fileName(), files.filePath());
+        }
+    }
+    return all;
 }
 
 Lesson::Lesson(const QString &formats)

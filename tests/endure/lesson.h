@@ -12,6 +12,9 @@
 void tell(const QString &promise, double figure, double limit, const char *unit);
 int failures();
 
+// The captures in the folders and below: where each name stands.
+QMultiMap<QString, QString> capturesIn(const QStringList &folders);
+
 // Thrown by a step in the middle of which the program has ended.
 struct ProgramHasEnded {
 };
