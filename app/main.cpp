@@ -3,6 +3,7 @@
 #include "app/terminationsignals.h"
 #include "app/translate.h"
 #include "dialog/pictoreldlg.h"
+#include "util/desktop/heap.h"
 #include "util/desktop/look.h"
 #include "util/desktop/screenscale.h"
 
@@ -11,6 +12,8 @@
 
 int main(int argc, char **argv)
 {
+    useFewHeaps();
+
     // Keeping windows on top and embedding the live picture speak to the X server. In a Wayland session the
     // program runs through that session's X server; elsewhere this is what Qt takes anyway.
     qputenv("QT_QPA_PLATFORM", "xcb");

@@ -123,6 +123,7 @@ void CPictorelDlg::closeEvent(QCloseEvent *event)
     }
     m_timerView->Stop(); // no shot is taken any more
     m_returnTimer->stop();
+    m_quietTimer->stop();
     m_screenAwake->keep(false);
     hide(); // a slow disk may still take a movie
     closeViews();

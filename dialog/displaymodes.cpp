@@ -4,12 +4,16 @@
 
 #include "capture/livevideowidget.h"
 #include "capture/timerwidget.h"
+#include "util/desktop/heap.h"
 #include "util/desktop/screenawake.h"
+#include "util/files/alivewait.h"
 #include "util/webcamutil.h"
 #include "widgets/moviewidget.h"
 #include "widgets/picturelistview.h"
 #include "widgets/picturewidget.h"
 #include "widgets/stretchbitmapbutton.h"
+
+#include <QTimer>
 
 // The mode is stored last: while the new screen is entered, m_mode is still the one that is being left.
 void CPictorelDlg::TransitionMode(DisplayMode mode, Variant variant)
@@ -34,6 +38,14 @@ void CPictorelDlg::TransitionMode(DisplayMode mode, Variant variant)
     m_mode = mode;
     m_variant = variant;
     showScreen(screenFor(situation(), m_screen), true);
+    m_quietTimer->start();
+}
+
+// A movie must not wait for it; after one there is another screen.
+void CPictorelDlg::giveBackMemory()
+{
+    if (!facts().isMovieRunning())
+        startAside([] { giveBackFreedMemory(); });
 }
 
 void CPictorelDlg::SetLiveMode()

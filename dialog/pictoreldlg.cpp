@@ -27,6 +27,9 @@ namespace
 // The player is loaded in the background once the camera's picture is there: nobody needs it sooner.
 constexpr std::chrono::milliseconds playerDelay(2000);
 
+// After a change of screens: what the last one held is freed by then, also by threads that end later.
+constexpr std::chrono::milliseconds quietDelay(3000);
+
 } // namespace
 
 CPictorelDlg::CPictorelDlg(QWidget *parent, Qt::WindowFlags flags)
@@ -132,10 +135,12 @@ void CPictorelDlg::SetChildInstance()
     m_returnTimer = new QTimer(this);
     m_followTimer = new QTimer(this);
     m_closeTimer = new QTimer(this);
-    for (QTimer *timer : {m_returnTimer, m_followTimer, m_closeTimer}) {
+    m_quietTimer = new QTimer(this);
+    for (QTimer *timer : {m_returnTimer, m_followTimer, m_closeTimer, m_quietTimer}) {
         timer->setSingleShot(true);
         timer->setInterval(retryPeriod);
     }
+    m_quietTimer->setInterval(quietDelay);
     m_settingDialog->installEventFilter(this);
     m_waitDialog->installEventFilter(this);
 }
@@ -182,6 +187,7 @@ void CPictorelDlg::SetLocalConnect()
     connect(m_returnTimer, &QTimer::timeout, this, &CPictorelDlg::reopenCamera);
     connect(m_followTimer, &QTimer::timeout, this, &CPictorelDlg::followFacts);
     connect(m_closeTimer, &QTimer::timeout, this, &CPictorelDlg::OnClose);
+    connect(m_quietTimer, &QTimer::timeout, this, &CPictorelDlg::giveBackMemory);
     connect(new QShortcut(QKeySequence::Copy, this), &QShortcut::activated, this, &CPictorelDlg::OnCopy);
     auto *help = new QShortcut(Qt::Key_F1, this);
     help->setAutoRepeat(false);

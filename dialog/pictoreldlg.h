@@ -122,6 +122,7 @@ private:
     void openCamera();
 
     // Screens.
+    void giveBackMemory();
     void SetLiveMode();
     void SetMovieMode();
     void SetListMode();
@@ -208,6 +209,7 @@ private:
     QTimer *m_returnTimer = nullptr;
     QTimer *m_followTimer = nullptr; // runs while facts have changed that wait for something to end
     QTimer *m_closeTimer = nullptr;  // likewise, when leaving was asked for
+    QTimer *m_quietTimer = nullptr;  // from one screen to another, and until all is quiet again
     bool m_isMovieShown = false;     // lists and pastes are of movies, not of photos
     bool m_offersPhotos = false;     // the list does, which shows movies
     bool m_showsChoice = false;      // the list has

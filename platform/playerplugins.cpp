@@ -1,5 +1,7 @@
 #include "platform/playerplugins.h"
 
+#include "platform/playermessages.h"
+
 #include <gst/gst.h>
 
 namespace
@@ -40,6 +42,7 @@ void loadPlayerPlugins()
 {
     if (!gst_init_check(nullptr, nullptr, nullptr))
         return;
+    takeMessagesOffPlayers();
     for (const char *element : elements)
         loadPlugin(element);
     lookForSoundDevice();

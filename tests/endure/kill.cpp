@@ -1,0 +1,241 @@
+// The program is killed at random moments of a lesson; what was taken, and what is left lying about, is
+// looked at after each.
+
+#include "tests/endure/lesson.h"
+
+#include <QCryptographicHash>
+#include <QDirIterator>
+#include <QSettings>
+
+#include <csignal>
+#include <cstdio>
+#include <random>
+#include <sys/syscall.h>
+#include <thread>
+
+namespace
+{
+
+constexpr int kills = 500;
+constexpr int startMilliseconds = 1500;
+
+using Captures = QMultiMap<QString, QString>; // by the name: where it stands
+
+QByteArray checksum(const QString &path)
+{
+    QFile file(path);
+    QCryptographicHash sum(QCryptographicHash::Md5);
+    return file.open(QIODevice::ReadOnly) && sum.addData(&file) ? sum.result() : QByteArray();
+}
+
+double movieSeconds(const QString &path)
+{
+    QProcess player;
+    player.start("ffprobe", {"-v", "error", "-show_entries", "format=duration", "-of", "csv=p=0", path});
+    return player.waitForFinished() ? player.readAllStandardOutput().trimmed().toDouble() : 0;
+}
+
+// Kills the program after some time, from outside of whatever is being done with it.
+class Killer
+{
+public:
+    Killer(qint64 process, int milliseconds)
+        : m_process(int(syscall(SYS_pidfd_open, process, 0))), m_thread([this, milliseconds] {
+              std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+              syscall(SYS_pidfd_send_signal, m_process, SIGKILL, nullptr, 0);
+          })
+    {
+    }
+    ~Killer()
+    {
+        m_thread.join();
+        close(m_process);
+    }
+    Killer(const Killer &) = delete;
+    Killer &operator=(const Killer &) = delete;
+
+private:
+    int m_process;
+    std::thread m_thread;
+};
+
+class Ordeal
+{
+public:
+    explicit Ordeal(unsigned seed) : m_random(seed) {}
+
+    void killOnce();
+    void lookAt();
+    void end();
+
+private:
+    int random(int most) { return std::uniform_int_distribution<int>(0, most)(m_random); }
+    QString folderToLoad();
+    void recordMovie();
+    Captures captures() const;
+    int strays() const;
+    static void miss(int *count, const char *what, const QString &which)
+    {
+        ++*count;
+        std::fprintf(stderr, "%s: %s\n", what, qUtf8Printable(which));
+    }
+
+    std::mt19937 m_random;
+    Lesson m_lesson;
+    const QTemporaryDir m_sources;
+    const QTemporaryDir m_otherDisk{"/dev/shm/orvane-endure.XXXXXX"};
+    QMap<QString, QByteArray> m_known; // of what was whole
+    QElapsedTimer m_recorded;          // since a movie was seen to be recorded, which ended after its length
+    int m_movieLength = 0;             // milliseconds
+    int m_loaded = 0;
+    int m_firstStrays = -1;
+    int m_dead = 0, m_damaged = 0, m_lost = 0, m_twice = 0, m_shortened = 0;
+};
+
+QString Ordeal::folderToLoad()
+{
+    constexpr int bytes = 30 << 20;
+    const QString folder = m_sources.filePath(QString::number(++m_loaded));
+    const QString name = QString("photo2024%1.png").arg(m_loaded, 13, 10, QChar('0'));
+    QDir().mkpath(folder);
+    QFile file(folder + '/' + name);
+    if (!file.open(QIODevice::WriteOnly) || file.write(QByteArray(bytes, char(m_loaded))) != bytes)
+        qFatal("there is no room for the ordeal");
+    file.close();
+    m_known[name] = checksum(file.fileName()); // whole from the first moment on
+    return folder;
+}
+
+void Ordeal::recordMovie()
+{
+    m_lesson.startMovie();
+    m_recorded.start();
+    m_movieLength = 1500 + random(1500);
+    m_lesson.await("the movie's length", [this] { return m_recorded.hasExpired(m_movieLength); });
+    m_lesson.stopMovie();
+}
+
+// A start or, after it, a step of the lesson, with the end somewhere in it.
+void Ordeal::killOnce()
+{
+    const struct {
+        int milliseconds; // that it takes, or some more
+        std::function<void()> run;
+    } steps[] = {
+        {1500, [this] { m_lesson.takePhoto(); }},
+        {2000, [this] { m_lesson.takeSeries(); }},
+        {4500, [this] { recordMovie(); }},
+        {1000, [this] { m_lesson.changeSettings(); }},
+        {2500, [this] { m_lesson.load(folderToLoad()); }},
+        {1500, [this] { m_lesson.leaveSaving(); }},
+    };
+    const size_t choice = size_t(random(int(std::size(steps))));
+    // Those that a save did not get to go where it put the others.
+    if (Program::captures().isEmpty())
+        QSettings(QDir::home().filePath(".hollin_orvane.ini"), QSettings::IniFormat)
+            .setValue("SaveDirectory", random(1) == 0 ? QDir::homePath() : m_otherDisk.path());
+    bool isToDie = false;
+    try {
+        m_lesson.launch();
+        const auto dieWithin = [&](int milliseconds) {
+            isToDie = true;
+            return std::make_unique<Killer>(m_lesson.program->process().processId(), random(milliseconds));
+        };
+        std::unique_ptr<Killer> killer;
+        if (choice == std::size(steps))
+            killer = dieWithin(startMilliseconds);
+        m_lesson.awaitLive();
+        if (choice < std::size(steps)) {
+            killer = dieWithin(steps[choice].milliseconds);
+            steps[choice].run();
+        }
+        m_lesson.await("the end", [] { return false; });
+    } catch (const ProgramHasEnded &) {
+        if (!isToDie)
+            miss(&m_dead, "a start", "does not come to a picture");
+    }
+}
+
+Captures Ordeal::captures() const
+{
+    return capturesIn({Program::workingFolder().path(), QDir::homePath(), m_otherDisk.path()});
+}
+
+// All other files of the program's: settings, locks, and what a death may have left.
+int Ordeal::strays() const
+{
+    int all = -captures().size();
+    for (const QString &folder : {Program::workingFolder().path(), QDir::homePath(), m_otherDisk.path(),
+                                  qEnvironmentVariable("XDG_RUNTIME_DIR")}) {
+        QDirIterator files(folder, QDir::Files | QDir::Hidden | QDir::System, QDirIterator::Subdirectories);
+        for (; files.hasNext(); files.next())
+            ++all;
+    }
+    return all;
+}
+
+void Ordeal::lookAt()
+{
+    const qint64 recorded = m_recorded.isValid() ? qMin<qint64>(m_recorded.elapsed(), m_movieLength) : 0;
+    m_recorded.invalidate();
+    const Captures all = captures();
+    for (auto capture = all.begin(); capture != all.end(); ++capture) {
+        if (m_known.contains(capture.key())) {
+            if (checksum(capture.value()) != m_known[capture.key()])
+                miss(&m_damaged, "damaged", capture.value());
+            continue;
+        }
+        m_known[capture.key()] = checksum(capture.value());
+        const bool isMovie = capture.key().endsWith(".mov");
+        if (!isMovie && QImage(capture.value()).isNull())
+            miss(&m_damaged, "not a picture", capture.value());
+        if (isMovie && movieSeconds(capture.value()) < double(recorded) / 1000 - 1)
+            miss(&m_shortened, "too short", capture.value());
+    }
+    for (auto known = m_known.begin(); known != m_known.end(); ++known) {
+        const bool isStillToBeLoaded = known.key().startsWith("photo2024") && !all.contains(known.key());
+        if (!all.contains(known.key()) && !isStillToBeLoaded)
+            miss(&m_lost, "lost", known.key());
+    }
+    if (m_firstStrays < 0)
+        m_firstStrays = strays();
+}
+
+// A save that is not killed clears everything up.
+void Ordeal::end()
+{
+    m_lesson.launch();
+    m_lesson.awaitLive();
+    m_lesson.leaveSaving();
+    const Captures all = captures();
+    for (const QString &name : all.uniqueKeys()) {
+        if (all.count(name) > 1)
+            miss(&m_twice, "twice", name);
+    }
+    if (!Program::captures().isEmpty())
+        miss(&m_twice, "not saved", Program::captures().join(' '));
+    tell("starts that failed", m_dead, 0, "");
+    tell("captures that are not whole", m_damaged, 0, "");
+    tell("captures lost", m_lost, 0, "");
+    tell("captures standing twice after the last save", m_twice, 0, "");
+    tell("movies short of more than their last second", m_shortened, 0, "");
+    tell("other files more than after the first", strays() - m_firstStrays, 0, "");
+}
+
+} // namespace
+
+// kill [NUMBER [SEED]]
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    const int number = argc > 1 ? QString(argv[1]).toInt() : kills;
+    const unsigned seed = argc > 2 ? QString(argv[2]).toUInt() : std::random_device()();
+    std::fprintf(stderr, "seed: %u\n", seed);
+    Ordeal ordeal(seed);
+    for (int count = 0; count < number; ++count) {
+        ordeal.killOnce();
+        ordeal.lookAt();
+    }
+    ordeal.end();
+    return failures();
+}
