@@ -8,13 +8,27 @@
 #include <atomic>
 #include <functional>
 #include <memory>
+#include <mutex>
 #include <thread>
 
 // What happens while the disk takes a file or the names in a folder: these are found before the C library's.
+// GStreamer's threads ask, too.
+static std::mutex syncMutex;
 static std::function<bool()> duringSync;
+static void setDuringSync(const std::function<bool()> &action)
+{
+    const std::lock_guard<std::mutex> lock(syncMutex);
+    duringSync = action;
+}
+static std::function<bool()> actionDuringSync()
+{
+    const std::lock_guard<std::mutex> lock(syncMutex);
+    return duringSync;
+}
 extern "C" int fsync(int)
 {
-    if (!duringSync || duringSync())
+    const auto action = actionDuringSync();
+    if (!action || action())
         return 0;
     errno = EIO;
     return -1;
@@ -29,7 +43,7 @@ class TestClosing : public QObject
     Q_OBJECT
 
 private slots:
-    void cleanup() { duringSync = nullptr; }
+    void cleanup() { setDuringSync(nullptr); }
     void vanishingSaveFolderLosesNothing();
     void pressDuringTheSaveIsDropped();
     void movieIsSavedWithItsEnd();
@@ -49,7 +63,7 @@ void TestClosing::vanishingSaveFolderLosesNothing()
     for (const QString &name : names)
         MainWindow::writeFile(WebcamUtil::getTemporaryPath() + "/" + name, name.toUtf8());
     int syncs = 0;
-    duringSync = [&] { return ++syncs < 2 || QProcess::execute("umount", {"-l", disk.path("")}) != 0; };
+    setDuringSync([&] { return ++syncs < 2 || QProcess::execute("umount", {"-l", disk.path("")}) != 0; });
     Answers answers({"Yes", "OK"});
     main.press("Close");
     QCOMPARE(syncs, 2);
@@ -68,11 +82,11 @@ void TestClosing::pressDuringTheSaveIsDropped()
         main.press(button);
     const QPoint photo = main.button("Photo")->mapToGlobal(main.button("Photo")->rect().center());
     int clicked = -1;
-    duringSync = [&] {
+    setDuringSync([&] {
         clicked = QProcess::execute(
             "xdotool", {"mousemove", QString::number(photo.x()), QString::number(photo.y()), "click", "1"});
         return true;
-    };
+    });
     Answers answers({"Yes"});
     main.press("Close");
     QCOMPARE(clicked, 0);
@@ -88,10 +102,10 @@ void TestClosing::movieIsSavedWithItsEnd()
     if (!disk.isMounted())
         QSKIP("a small file system takes root to mount");
     MainWindow main("SaveDirectory=" + disk.path("") + "\n");
-    duringSync = [] {
+    setDuringSync([] {
         std::this_thread::sleep_for(std::chrono::seconds(1));
         return true;
-    };
+    });
     main.press("Movie");
     QTRY_COMPARE(main.view<TimerWidget>()->text(), QString("00:03"));
     main.press("MovieStop");
@@ -115,11 +129,11 @@ void TestClosing::brokenMovieIsToldOnce()
         MainWindow main;
         main.press("Movie");
         QTRY_COMPARE(main.view<TimerWidget>()->text(), QString("00:02"));
-        duringSync = [isToAnswer] {
+        setDuringSync([isToAnswer] {
             while (!*isToAnswer)
                 std::this_thread::yield();
             return false;
-        };
+        });
         Answers answers({"OK", "OK"});
         main.press("MovieStop");
         QTRY_COMPARE_WITH_TIMEOUT(answers.told().size(), 1, 15000);
@@ -129,7 +143,7 @@ void TestClosing::brokenMovieIsToldOnce()
         main.press("Live");
         QTRY_VERIFY(!main.view<LiveVideoWidget>()->isFinishingMovie());
         QCOMPARE(answers.told().size(), 1);
-        duringSync = nullptr; // the next movie begins on a good disk
+        setDuringSync(nullptr); // the next movie begins on a good disk
     }
 }
 
@@ -165,11 +179,11 @@ void TestClosing::nothingIsAskedAtALogOut()
     QObject::connect(main.view<LiveVideoWidget>(), &LiveVideoWidget::disconnectDevice,
                      [&] { isLost = true; });
     main.devices.pull("cam");
-    duringSync = [&] {
+    setDuringSync([&] {
         while (!isLost)
             std::this_thread::yield();
         return true;
-    };
+    });
     Answers answers({"OK"});
     main.window->saveAndLeave();
     QVERIFY(isLost);
