@@ -105,6 +105,7 @@ bool makes(int flags)
 } // namespace
 
 // The program's own calls come here first.
+// NOLINTNEXTLINE(bugprone-macro-parentheses): a list of parameters is no expression
 #define PASS_ON(result, name, place, parameters, arguments)                                                  \
     extern "C" result name parameters                                                                        \
     {                                                                                                        \

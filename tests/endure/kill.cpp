@@ -95,7 +95,7 @@ private:
 QString Ordeal::folderToLoad()
 {
     constexpr int bytes = 30 << 20;
-    const QString folder = m_sources.filePath(QString::number(++m_loaded));
+    QString folder = m_sources.filePath(QString::number(++m_loaded));
     const QString name = QString("photo2024%1.png").arg(m_loaded, 13, 10, QChar('0'));
     QDir().mkpath(folder);
     QFile file(folder + '/' + name);
