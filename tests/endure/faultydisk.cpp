@@ -105,12 +105,13 @@ bool makes(int flags)
 } // namespace
 
 // The program's own calls come here first.
-// NOLINTNEXTLINE(bugprone-macro-parentheses): a list of parameters is no expression
+// NOLINTBEGIN(bugprone-macro-parentheses): a list of parameters is no expression
 #define PASS_ON(result, name, place, parameters, arguments)                                                  \
     extern "C" result name parameters                                                                        \
     {                                                                                                        \
         return failsAt(place) ? -1 : real<result parameters>(#name) arguments;                               \
     }
+// NOLINTEND(bugprone-macro-parentheses)
 
 PASS_ON(ssize_t, write, file, (int file, const void *data, size_t size), (file, data, size))
 PASS_ON(ssize_t, writev, file, (int file, const iovec *data, int count), (file, data, count))
