@@ -77,7 +77,7 @@ void write(const QString &path, const QByteArray &bytes)
     GstCaps *caps = gst_caps_from_string(bytes.constData());
     if (!caps)
         return;
-    const std::vector<CaptureMode> modes = captureModes(caps, true);
+    const std::vector<CaptureMode> modes = captureModes(caps);
     const CaptureMode mode = nativeMode(modes);
     if (mode.isValid() && !gst_caps_can_intersect(fixedCaps(mode).get(), caps))
         std::abort();
