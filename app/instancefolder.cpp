@@ -9,9 +9,10 @@
 
 InstanceFolder::InstanceFolder(const QString &path)
     : m_folder(open(QFile::encodeName(path), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC)),
-      m_lock(path + "/.instance.lock")
+      m_lock(path + ".lock")
 {
-    // However long a lesson lasts: only a holder that has ended leaves a lock to be taken over.
+    // Beside the folder: a file that is held open would keep its disk from being unmounted. However long a
+    // lesson lasts: only a holder that has ended leaves a lock to be taken over.
     m_lock.setStaleLockTime(0);
 }
 

@@ -11,7 +11,8 @@
 class QLocalServer;
 class QLocalSocket;
 
-// A private folder in which one process at a time is the instance and listens for others. GUI thread only.
+// A private folder whose lock one process at a time holds: the instance, which listens in it for others. GUI
+// thread only.
 class InstanceFolder
 {
 public:
