@@ -1,6 +1,6 @@
 // A movie that nobody ends.
 
-#include "tests/endure/lesson.h"
+#include "bench/endure/lesson.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 // A lesson on a disk on which the n-th change fails, for every n; and on others that are worse.
 
-#include "tests/endure/lesson.h"
+#include "bench/endure/lesson.h"
 
 #include <QSettings>
 

@@ -1,6 +1,6 @@
 // One process of the program through a long term: what it holds after each tenth.
 
-#include "tests/endure/lesson.h"
+#include "bench/endure/lesson.h"
 
 #include <QRegularExpression>
 #include <QX11Info>

@@ -1,4 +1,4 @@
-#include "tests/endure/lesson.h"
+#include "bench/endure/lesson.h"
 
 #include "tests/app/walk.h"
 

@@ -1,7 +1,7 @@
 // The program is killed at random moments of a lesson; what was taken, and what is left lying about, is
 // looked at after each.
 
-#include "tests/endure/lesson.h"
+#include "bench/endure/lesson.h"
 
 #include <QCryptographicHash>
 #include <QDirIterator>
