@@ -13,6 +13,9 @@ constexpr double learningTime = 0.6;
 // What is ahead or behind is brought back in about this time, by not more than a trained ear bears.
 constexpr double returnTime = 1;
 constexpr double mostHaste = 0.01;
+// The pieces of a burst come at once, each of which puts the first one earlier than those before it did.
+constexpr std::chrono::milliseconds longestWithinBurst(30);
+constexpr double leastWithinBurst = 0.002;
 
 } // namespace
 
@@ -103,7 +106,21 @@ void SoundTrack::endAt(double moment)
 bool SoundTrack::waitForLast(std::chrono::milliseconds limit)
 {
     std::unique_lock<std::mutex> lock(m_mutex);
-    return m_added.wait_for(lock, limit, [this] { return hasLast(); });
+    const bool isThere = m_added.wait_for(lock, limit, [this] { return hasLast(); });
+    if (isThere)
+        waitForBurst(&lock);
+    return isThere;
+}
+
+void SoundTrack::waitForBurst(std::unique_lock<std::mutex> *lock)
+{
+    bool goesOn = true;
+    while (m_state == State::Learning && goesOn) {
+        const double first = m_clock.captured(0);
+        const qint64 came = m_came;
+        goesOn = m_added.wait_for(*lock, longestWithinBurst, [&] { return m_came != came; }) &&
+                 first - m_clock.captured(0) > leastWithinBurst;
+    }
 }
 
 bool SoundTrack::hasLast() const

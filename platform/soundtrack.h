@@ -54,6 +54,7 @@ private:
     double reached() const;
     static qint64 framesIn(double seconds);
     bool hasLast() const;
+    void waitForBurst(std::unique_lock<std::mutex> *lock);
 
     const double m_begin;
     const Writer m_writer;
