@@ -1,5 +1,6 @@
 #include "platform/camerapipeline.h"
 
+#include "platform/h264coders.h"
 #include "platform/optionalproperty.h"
 
 #include <gst/app/gstappsink.h>
@@ -38,7 +39,11 @@ CameraPipeline::~CameraPipeline()
 
 GstElement *CameraPipeline::add(const char *element)
 {
-    GstElement *made = gst_element_factory_make(element, nullptr);
+    return add(gst_element_factory_make(element, nullptr));
+}
+
+GstElement *CameraPipeline::add(GstElement *made)
+{
     if (made)
         gst_bin_add(GST_BIN(m_pipeline.get()), made);
     return made;
@@ -73,11 +78,9 @@ bool CameraPipeline::build(GstDevice *device, const CaptureMode &mode)
 bool CameraPipeline::addH264Decoder(GstElement **last)
 {
     GstElement *parser = add("h264parse");
-    GstElement *decoder = add("avdec_h264");
+    GstElement *decoder = add(makeH264Decoder(h264Decoder()));
     if (!parser || !decoder || !gst_element_link_many(*last, parser, decoder, nullptr))
         return false;
-    // Threads that each decode a frame would keep the picture back by as many frames.
-    gst_util_set_object_arg(G_OBJECT(decoder), "thread-type", "slice");
     *last = decoder;
     return true;
 }

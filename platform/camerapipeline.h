@@ -38,6 +38,7 @@ private:
     bool build(GstDevice *device, const CaptureMode &mode);
     bool addH264Decoder(GstElement **last);
     GstElement *add(const char *element);
+    GstElement *add(GstElement *made);
     void fail(CameraFailure failure);
     GstClockTime captureTime(GstSample *sample) const;
 

@@ -5,6 +5,7 @@
 #include "platform/capturelog.h"
 #include "platform/devicewatch.h"
 #include "platform/documentcamera.h"
+#include "platform/h264coders.h"
 #include "platform/movierecorder.h"
 #include "platform/requiredelements.h"
 #include "util/files/alivewait.h"
@@ -175,6 +176,9 @@ void LiveVideoData::openCamera()
 
 void LiveVideoData::noteLive()
 {
+    // Not before: it would take the processor from the first picture.
+    static std::once_flag tried;
+    std::call_once(tried, [] { std::thread(proveH264Hardware).detach(); });
     if (!std::exchange(m_isLiveTold, true) && m_listener)
         m_listener->cameraIsLive();
 }
@@ -335,6 +339,9 @@ void LiveVideoData::lose(CameraFailure failure)
         << m_camera.name << ": " << faultName(failure.fault) << ": " << failure.text;
     if (m_grabThread && m_grabThread->isOpening())
         DeviceWatch::instance().setAside(m_camera, m_grabThread.get());
+    // It may be what failed.
+    if (m_mode.coding == CaptureMode::Coding::H264 && failure.fault != CameraFault::Unplugged)
+        distrust(h264Decoder());
     m_memory.noteLoss(failure.fault, DeviceWatch::instance().cameras());
     const std::shared_ptr<MovieRecorder> movie = stopMovie();
     closeCamera();

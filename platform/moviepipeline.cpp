@@ -1,5 +1,6 @@
 #include "platform/moviepipeline.h"
 
+#include "platform/h264coders.h"
 #include "platform/movielimits.h"
 #include "platform/soundformat.h"
 
@@ -25,13 +26,6 @@ constexpr int soundPacketSamples = 1024;
 constexpr int soundPacketsPerSecond = soundRate / soundPacketSamples + 1;
 constexpr int leastIndexBytesPerSecond = indexBytesPerFrame * soundPacketsPerSecond;
 
-// Good for a page of text; the bit rate is a ceiling for restless pictures, in bits a pixel and second.
-constexpr int quality = 23;
-constexpr double bitsPerPixel = 0.15;
-constexpr guint leastPictureKilobits = 500;
-// A key frame every two seconds keeps jumping about in the player quick.
-constexpr int secondsPerKeyFrame = 2;
-
 constexpr int soundBitRate = 128000;
 
 // Holds the encoded streams while the muxer waits for the disk: a minute and more of movie.
@@ -43,9 +37,9 @@ public:
     Assembly() : m_pipeline(GST_ELEMENT(gst_object_ref_sink(gst_pipeline_new("movie")))) {}
 
     // The element, owned by the pipeline; null, remembered as a failure, when it is not installed.
-    GstElement *add(const char *element)
+    GstElement *add(const char *element) { return add(gst_element_factory_make(element, nullptr)); }
+    GstElement *add(GstElement *made)
     {
-        GstElement *made = gst_element_factory_make(element, nullptr);
         if (made)
             gst_bin_add(GST_BIN(m_pipeline.get()), made);
         m_isComplete = m_isComplete && made;
@@ -74,27 +68,6 @@ GstElement *addMuxQueue(Assembly &assembly)
         g_object_set(queue, "max-size-buffers", 0U, "max-size-time", guint64(0), "max-size-bytes",
                      muxQueueBytes, nullptr);
     return queue;
-}
-
-guint pictureKilobits(const MovieSettings &settings)
-{
-    const double pixels =
-        double(GST_VIDEO_INFO_WIDTH(&settings.picture)) * GST_VIDEO_INFO_HEIGHT(&settings.picture);
-    return qMax(leastPictureKilobits, guint(pixels * settings.framesPerSecond * bitsPerPixel / 1000));
-}
-
-GstElement *addVideoEncoder(Assembly &assembly, const MovieSettings &settings)
-{
-    GstElement *encoder = assembly.add("x264enc");
-    if (!encoder)
-        return nullptr;
-    g_object_set(encoder, "quantizer", guint(quality), "bitrate", pictureKilobits(settings), "key-int-max",
-                 guint(settings.framesPerSecond * secondsPerKeyFrame), nullptr);
-    gst_util_set_object_arg(G_OBJECT(encoder), "pass", "qual");
-    // Keeps up with full HD on an old notebook, and holds no frames back, so that a movie ends at once.
-    gst_util_set_object_arg(G_OBJECT(encoder), "speed-preset", "superfast");
-    gst_util_set_object_arg(G_OBJECT(encoder), "tune", "zerolatency");
-    return encoder;
 }
 
 GstElement *addMuxer(Assembly &assembly, const MovieSettings &settings)
@@ -154,8 +127,11 @@ MoviePipeline buildMoviePipeline(const MovieSettings &settings)
     movie.pictures = addPictures(assembly, settings);
     movie.pictureQueue = addMuxQueue(assembly);
     // The parser tells how long each frame lasts. Without that the last one would not be seen.
-    assembly.chain({movie.pictures, addVideoEncoder(assembly, settings), assembly.add("h264parse"),
-                    movie.pictureQueue, movie.muxer});
+    const QSize size = settings.pictureSize();
+    GstElement *pictureEncoder =
+        assembly.add(makeH264Encoder(h264Encoder(size), size, settings.framesPerSecond));
+    assembly.chain(
+        {movie.pictures, pictureEncoder, assembly.add("h264parse"), movie.pictureQueue, movie.muxer});
 
     const CapsHandle caps(gst_caps_from_string(soundCaps));
     movie.sound = addSource(assembly, caps.get());
@@ -196,7 +172,7 @@ double soundDelay()
 
 qint64 mostBytesPerSecond(const MovieSettings &settings)
 {
-    return (qint64(pictureKilobits(settings)) * 1000 + soundBitRate) / 8;
+    return (qint64(mostKilobits(settings.pictureSize(), settings.framesPerSecond)) * 1000 + soundBitRate) / 8;
 }
 
 int longestMovieSeconds()

@@ -1,6 +1,7 @@
 #include "platform/movierecorder.h"
 
 #include "platform/capturelog.h"
+#include "platform/h264coders.h"
 #include "platform/movielimits.h"
 #include "util/files/freespace.h"
 
@@ -149,6 +150,9 @@ void MovieRecorder::fail(MovieEnd why, const QString &line)
             m_fileFault = why;
     }
     qCWarning(movieLog).noquote().nospace() << m_settings.path << ": " << line;
+    // It may be what failed.
+    if (why == MovieEnd::Failed)
+        distrust(h264Encoder(m_settings.pictureSize()));
 }
 
 bool MovieRecorder::wants(GstClockTime captured)
@@ -192,16 +196,17 @@ void MovieRecorder::take(const FramePtr &frame)
     lookForLife();
 }
 
-// A disk that hangs lets nobody know: what waits for it grows until frames are left out, and the look at its
-// room does not come back.
+// An encoder or a disk that hangs lets nobody know: what waits for it grows until frames are left out, and
+// the look at the disk's room does not come back.
 void MovieRecorder::lookForLife()
 {
     const auto now = std::chrono::steady_clock::now();
     if (!isBehind())
         m_lastInTime = now;
     const auto lastLook = m_lastLook.load();
-    if (now - m_lastInTime > behindLimit ||
-        (lastLook != std::chrono::steady_clock::time_point::min() && now - lastLook > silenceLimit))
+    if (now - m_lastInTime > behindLimit)
+        fail(MovieEnd::Failed, QStringLiteral("No more of its pictures are taken."));
+    if (lastLook != std::chrono::steady_clock::time_point::min() && now - lastLook > silenceLimit)
         fail(MovieEnd::DiskFull, QStringLiteral("The disk takes no more of the movie."));
 }
 

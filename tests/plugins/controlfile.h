@@ -23,6 +23,8 @@
 //             an hour), flood (10,000 frames a second)
 //   order     how it is told that a running device has gone: error-first (by the stream, then by the
 //             provider), removed-first, removed-only, error-only
+// A section "coder ELEMENT" is there for each of hardware's encoders and decoders that can be used; its key
+//   fault     crashes, hangs, fails; of an encoder also costly, wrong (other pictures), holds-back
 // A section "provider a" or "provider b" has the key
 //   fault     refuses (does not start), dead (nor does it follow the file any more)
 #pragma once

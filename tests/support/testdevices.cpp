@@ -39,6 +39,11 @@ TestDevices::Section &TestDevices::provider(const QString &mark)
     return section("provider", mark);
 }
 
+TestDevices::Section &TestDevices::coder(const QString &element)
+{
+    return section("coder", element);
+}
+
 TestDevices::Section &TestDevices::section(const QString &kind, const QString &id)
 {
     Section &section = m_sections[id];

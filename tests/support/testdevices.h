@@ -48,6 +48,7 @@ public:
     Section &camera(const QString &id);
     Section &microphone(const QString &id);
     Section &provider(const QString &mark);
+    Section &coder(const QString &element);
 
     // Replaces the file in one step; ends the test program when it cannot. The devices follow within some 20
     // ms.
