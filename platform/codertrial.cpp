@@ -100,7 +100,8 @@ bool giveFrames(QProcess &process)
                                 makePage(2)}; // in turn, since no frame has the noise of the last one
     const QByteArray colours(pixels / 2, char(128));
     for (int i = 0; i < frameCount; ++i) {
-        const char *brightness = pages[i % 2].constData() + i * rowsPerFrame * CoderTrial::picture.width();
+        const char *brightness =
+            pages[i % 2].constData() + qptrdiff(i) * rowsPerFrame * CoderTrial::picture.width();
         if (!give(process, brightness, pixels) || !give(process, colours.constData(), colours.size()))
             return false;
     }
@@ -110,7 +111,7 @@ bool giveFrames(QProcess &process)
 // Before there is an end of the stream, which drives out the rest.
 bool takeAllButHeldBack(QProcess &process)
 {
-    while (process.bytesAvailable() < (frameCount - mostHeldBack) * smallBytes) {
+    while (process.bytesAvailable() < qint64(frameCount - mostHeldBack) * smallBytes) {
         if (!process.waitForReadyRead(stepLimit))
             return false;
     }
