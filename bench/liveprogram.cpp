@@ -1,7 +1,8 @@
 // The live view alone, for the benchmarks: `liveprogram show WIDTHxHEIGHT` shows it in a window of that size
 // and tells twice a second how many frames were painted; `hide` does the same without the window, and `film`
 // records a movie of what is shown. `liveprogram record PATH` records one with the window hidden, until
-// SIGINT.
+// SIGINT; `lesson` does the same with the picture shown as large as it is on a full HD screen, and takes a
+// photo every second.
 
 #include "capture/livevideowidget.h"
 #include "platform/livevideodata.h"
@@ -64,9 +65,14 @@ int show(const QString &how, const QString &size)
     return QApplication::exec();
 }
 
-int record(const QString &path)
+int record(const QString &how, const QString &path)
 {
     LiveVideoData capture;
+    QFrame window;
+    window.setWindowFlags(Qt::FramelessWindowHint);
+    window.setFixedSize(1749, 984);
+    window.setVisible(how == "lesson");
+    capture.SetTarget(&window);
     capture.Create();
     capture.Start();
     bool isRecording = false;
@@ -83,6 +89,12 @@ int record(const QString &path)
     });
     constexpr int lookEveryMilliseconds = 50;
     look.start(lookEveryMilliseconds);
+    QTimer photos;
+    int photo = 0;
+    QObject::connect(&photos, &QTimer::timeout,
+                     [&] { capture.SaveBitmap(QString("%1.%2.png").arg(path).arg(++photo)); });
+    if (how == "lesson")
+        photos.start(1000);
     return QApplication::exec();
 }
 
@@ -92,8 +104,9 @@ int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
-    if (arguments.value(1) != "record")
-        return show(arguments.value(1), arguments.value(2));
+    const QString how = arguments.value(1);
+    if (how != "record" && how != "lesson")
+        return show(how, arguments.value(2));
     std::signal(SIGINT, [](int) { isInterrupted = 1; });
-    return record(arguments.value(2));
+    return record(how, arguments.value(2));
 }

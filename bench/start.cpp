@@ -94,7 +94,7 @@ int main()
                    "video/x-raw,format=YUY2,width=1920,height=1080,framerate=30/1 "
                    "! videoconvert ! videoscale ! video/x-raw,width=1749,height=984 ! ximagesink");
 
-    Comparison start({"start to the first live frame on the screen", "ms", 1.5});
+    Comparison start({"start to the first live frame on the screen", "ms", 1.2});
     for (int round = -1; round < rounds; ++round) {
         const double ours = millisecondsToPicture(screen, ORVANE_PROGRAM, {});
         const double peers = millisecondsToPicture(screen, "gst-launch-1.0", peer);
