@@ -20,7 +20,7 @@ constexpr auto startWait = 5s;
 constexpr auto microphoneWait = 2s;
 constexpr auto fileWait = 450ms;
 constexpr auto lastFileWait = 30s;
-constexpr auto longestSoundGap = 2s;
+constexpr double longestSoundGap = 2; // seconds
 
 enum class Start { Runs, NoPicture, Failed };
 

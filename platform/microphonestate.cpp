@@ -2,8 +2,6 @@
 
 #include "platform/soundformat.h"
 
-#include <algorithm>
-
 namespace
 {
 
@@ -89,19 +87,4 @@ QString MicrophoneState::loss() const
     if (!m_lastSound && !m_openedAt && now - m_startedAt > openingLimit)
         return QStringLiteral("It does not answer to being opened.");
     return {};
-}
-
-void SoundGaps::noteSound()
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    const auto now = Clock::now();
-    m_longest = std::max(m_longest, now - m_lastSound);
-    m_lastSound = now;
-}
-
-std::chrono::milliseconds SoundGaps::longest() const
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    return std::chrono::duration_cast<std::chrono::milliseconds>(
-        std::max(m_longest, Clock::now() - m_lastSound));
 }

@@ -40,19 +40,3 @@ private:
     std::optional<Clock::time_point> m_lastSound;
     QString m_failure;
 };
-
-// The longest time without sound, over all microphones of a movie and from its start on. Any thread.
-class SoundGaps
-{
-public:
-    void noteSound();
-    // Up to now.
-    std::chrono::milliseconds longest() const;
-
-private:
-    using Clock = std::chrono::steady_clock;
-
-    mutable std::mutex m_mutex; // guards all below
-    Clock::time_point m_lastSound = Clock::now();
-    Clock::duration m_longest{};
-};

@@ -21,28 +21,22 @@ constexpr GstClockTime leastLoss = 20 * GST_MSECOND;
 struct MicrophoneStream::Microphone {
     MicrophoneState state;
     const GstClockTime start;
-    const std::shared_ptr<SoundGaps> gaps;
     std::mutex openMutex; // guards isClosed, and is held while it is opened or closed
     bool isClosed = false;
     std::mutex trackMutex;             // guards all below
     std::shared_ptr<SoundTrack> track; // null once the stream has ended
     GstClockTime nextStamp = GST_CLOCK_TIME_NONE;
 
-    Microphone(std::shared_ptr<SoundTrack> soundTrack, GstClockTime startTime,
-               std::shared_ptr<SoundGaps> soundGaps)
-        : start(startTime), gaps(std::move(soundGaps)), track(std::move(soundTrack))
+    Microphone(std::shared_ptr<SoundTrack> soundTrack, GstClockTime startTime)
+        : start(startTime), track(std::move(soundTrack))
     {
     }
 
-    static std::shared_ptr<Microphone> &of(gpointer data)
-    {
-        return *static_cast<std::shared_ptr<Microphone> *>(data);
-    }
-    static void release(gpointer data) { delete static_cast<std::shared_ptr<Microphone> *>(data); }
+    static Microphone *of(gpointer data) { return static_cast<Microphone *>(data); }
 
     static void open(GstElement *pipeline, gpointer data)
     {
-        const auto &microphone = of(data);
+        Microphone *microphone = of(data);
         const std::lock_guard<std::mutex> lock(microphone->openMutex);
         microphone->state.noteAnswer(!microphone->isClosed &&
                                      gst_element_set_state(pipeline, GST_STATE_PLAYING) !=
@@ -50,7 +44,7 @@ struct MicrophoneStream::Microphone {
     }
     static void close(GstElement *pipeline, gpointer data)
     {
-        const auto &microphone = of(data);
+        Microphone *microphone = of(data);
         const std::lock_guard<std::mutex> lock(microphone->openMutex);
         microphone->isClosed = true;
         gst_element_set_state(pipeline, GST_STATE_NULL);
@@ -78,7 +72,6 @@ struct MicrophoneStream::Microphone {
     void add(GstBuffer *sound, GstClockTime arrival)
     {
         state.noteSound();
-        gaps->noteSound();
         GstMapInfo mapped;
         if (!gst_buffer_map(sound, &mapped, GST_MAP_READ))
             return;
@@ -108,14 +101,16 @@ struct MicrophoneStream::Microphone {
 };
 
 MicrophoneStream::MicrophoneStream(const CaptureDevice &device, std::shared_ptr<SoundTrack> track,
-                                   GstClockTime start, std::shared_ptr<SoundGaps> gaps)
-    : m_microphone(std::make_shared<Microphone>(std::move(track), start, std::move(gaps))),
-      m_closing(std::make_unique<std::shared_ptr<Microphone>>(m_microphone)),
+                                   GstClockTime start)
+    : m_microphone(std::make_shared<Microphone>(std::move(track), start)),
       m_pipeline(GST_ELEMENT(gst_object_ref_sink(gst_pipeline_new("microphone"))))
 {
+    // What is called here is called by the pipeline or by what is in it, so the pipeline keeps it.
+    g_object_set_data_full(
+        G_OBJECT(m_pipeline.get()), "orvane-microphone", new std::shared_ptr<Microphone>(m_microphone),
+        [](gpointer shared) { delete static_cast<std::shared_ptr<Microphone> *>(shared); });
     if (build(device))
-        gst_element_call_async(m_pipeline.get(), Microphone::open,
-                               new std::shared_ptr<Microphone>(m_microphone), Microphone::release);
+        gst_element_call_async(m_pipeline.get(), Microphone::open, m_microphone.get(), nullptr);
     else
         m_microphone->state.fail(QStringLiteral("No stream can be put together for it."));
 }
@@ -145,13 +140,11 @@ bool MicrophoneStream::build(const CaptureDevice &device)
     GstAppSinkCallbacks callbacks{};
     callbacks.eos = Microphone::end;
     callbacks.new_sample = Microphone::take;
-    gst_app_sink_set_callbacks(GST_APP_SINK(last), &callbacks, new std::shared_ptr<Microphone>(m_microphone),
-                               Microphone::release);
+    gst_app_sink_set_callbacks(GST_APP_SINK(last), &callbacks, m_microphone.get(), nullptr);
     const ClockHandle clock(gst_system_clock_obtain());
     gst_pipeline_use_clock(GST_PIPELINE(bin), clock.get());
     const BusHandle bus(gst_element_get_bus(m_pipeline.get()));
-    gst_bus_set_sync_handler(bus.get(), Microphone::hear, new std::shared_ptr<Microphone>(m_microphone),
-                             Microphone::release);
+    gst_bus_set_sync_handler(bus.get(), Microphone::hear, m_microphone.get(), nullptr);
     return true;
 }
 
@@ -162,7 +155,7 @@ MicrophoneStream::~MicrophoneStream()
         m_microphone->track.reset();
     }
     // GStreamer keeps the pipeline until the call is done.
-    gst_element_call_async(m_pipeline.get(), Microphone::close, m_closing.release(), Microphone::release);
+    gst_element_call_async(m_pipeline.get(), Microphone::close, m_microphone.get(), nullptr);
 }
 
 std::shared_ptr<const MicrophoneState> MicrophoneStream::state() const

@@ -13,10 +13,8 @@ class MicrophoneStream
 {
 public:
     // Has the microphone opened. The user's default is what the sound server says it is now. `start` is the
-    // moment, on GStreamer's system clock, from which the track's moments count. Every sound is told to the
-    // gaps too.
-    MicrophoneStream(const CaptureDevice &device, std::shared_ptr<SoundTrack> track, GstClockTime start,
-                     std::shared_ptr<SoundGaps> gaps);
+    // moment, on GStreamer's system clock, from which the track's moments count.
+    MicrophoneStream(const CaptureDevice &device, std::shared_ptr<SoundTrack> track, GstClockTime start);
     // The track is given nothing more. Has the microphone closed and does not wait for that.
     ~MicrophoneStream();
     MicrophoneStream(const MicrophoneStream &) = delete;
@@ -30,8 +28,6 @@ private:
 
     bool build(const CaptureDevice &device);
 
-    const std::shared_ptr<Microphone> m_microphone;
-    // What the closing call will own, made in advance since a destructor must not fail.
-    std::unique_ptr<std::shared_ptr<Microphone>> m_closing;
+    const std::shared_ptr<Microphone> m_microphone; // shared with the pipeline
     ElementHandle m_pipeline;
 };

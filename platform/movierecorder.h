@@ -46,8 +46,8 @@ public:
     // opened; nothing while that is not known. These once the movie has started:
     std::optional<bool> hasMicrophone() const { return m_sound->isUsable(); }
     std::optional<bool> couldOpenMicrophone() const { return m_sound->couldOpenFirst(); }
-    // The longest time without sound of a microphone, up to now.
-    std::chrono::milliseconds longestSoundGap() const { return m_sound->longestGap(); }
+    // The longest time without sound of a microphone, up to now, in seconds.
+    double longestSoundGap() const { return m_sound->longestGap(); }
 
     // Begins to finish the file, in the background; what was captured by now and is still on its way goes in
     // first. Also when recording has failed.

@@ -41,7 +41,7 @@ void MovieSound::open(const CaptureDevice &microphone)
     m_lastTry = MicrophoneState::Clock::now();
     m_microphone = microphone;
     m_track->breakOff();
-    m_stream = std::make_unique<MicrophoneStream>(microphone, m_track, m_start, m_gaps);
+    m_stream = std::make_unique<MicrophoneStream>(microphone, m_track, m_start);
     m_openings.push_back({microphone.device, m_stream->state()});
     const std::lock_guard<std::mutex> lock(m_presentMutex);
     m_present = m_stream->state();

@@ -33,8 +33,8 @@ public:
     // known. These wait for nothing.
     std::optional<bool> isUsable() const;
     std::optional<bool> couldOpenFirst() const { return m_first->wasUsable(); }
-    // The longest time in which no microphone gave sound, up to now.
-    std::chrono::milliseconds longestGap() const { return m_gaps->longest(); }
+    // The longest time in which no microphone gave sound, up to now, in seconds.
+    double longestGap() const { return m_track->longestGap(sinceStart(gst_util_get_timestamp())); }
 
 private:
     struct Opening {
@@ -53,7 +53,6 @@ private:
     const GstClockTime m_start;
     const std::shared_ptr<SoundTrack> m_track;
     const CaptureDevice m_wanted;
-    const std::shared_ptr<SoundGaps> m_gaps = std::make_shared<SoundGaps>();
 
     std::mutex m_streamMutex;   // guards down to the next comment
     CaptureDevice m_microphone; // of the stream

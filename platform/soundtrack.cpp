@@ -27,6 +27,8 @@ SoundTrack::SoundTrack(double begin, Writer writer)
 void SoundTrack::add(const float *frames, size_t count, double arrival)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
+    m_longestGap = std::max(m_longestGap, arrival - m_lastCame);
+    m_lastCame = arrival;
     if (m_state == State::Waiting)
         begin(arrival);
     m_came += qint64(count);
@@ -97,19 +99,23 @@ void SoundTrack::fill(double now)
         m_state = State::Waiting;
 }
 
+double SoundTrack::longestGap(double now) const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return std::max(m_longestGap, now - m_lastCame);
+}
+
 void SoundTrack::endAt(double moment)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_end = std::max<qint64>(0, framesIn(moment - m_begin));
 }
 
-bool SoundTrack::waitForLast(std::chrono::milliseconds limit)
+void SoundTrack::waitForLast(std::chrono::milliseconds limit)
 {
     std::unique_lock<std::mutex> lock(m_mutex);
-    const bool isThere = m_added.wait_for(lock, limit, [this] { return hasLast(); });
-    if (isThere)
+    if (m_added.wait_for(lock, limit, [this] { return hasLast(); }))
         waitForBurst(&lock);
-    return isThere;
 }
 
 void SoundTrack::waitForBurst(std::unique_lock<std::mutex> *lock)

@@ -30,12 +30,13 @@ public:
     void breakOff();
     // Silence for what has not come by now. To be called several times a second.
     void fill(double now);
+    // The longest time in which no microphone gave sound, up to now.
+    double longestGap(double now) const;
 
     // The track ends at this moment; frames are still taken up to it.
     void endAt(double moment);
-    // Waits until all that belongs before the end has come; false when it has not in that time. After
-    // endAt().
-    bool waitForLast(std::chrono::milliseconds limit);
+    // Waits until all that belongs before the end has come, for that time at most. After endAt().
+    void waitForLast(std::chrono::milliseconds limit);
     // Ends it with what has come and silence. After endAt().
     void close();
 
@@ -59,13 +60,15 @@ private:
     const double m_begin;
     const Writer m_writer;
 
-    std::mutex m_mutex; // guards all below, and is held while the writer is called
+    mutable std::mutex m_mutex; // guards all below, and is held while the writer is called
     std::condition_variable m_added;
     State m_state = State::Waiting;
     SoundClock m_clock;
     SoundStretcher m_stretcher;
-    qint64 m_came = 0;  // frames since the microphone began
-    double m_began = 0; // when the first of them came
+    qint64 m_came = 0;     // frames since the microphone began
+    double m_began = 0;    // when the first of them came
+    double m_lastCame = 0; // of any microphone, as the next
+    double m_longestGap = 0;
     qint64 m_written = 0;
     qint64 m_end; // frames of the whole track
 };
