@@ -1,6 +1,6 @@
 #include "platform/grabthread.h"
 
-#include <chrono>
+#include "platform/movierecorder.h"
 
 namespace
 {
@@ -15,13 +15,6 @@ constexpr auto frameWait = 50ms;
 constexpr auto openingLimit = 15s;
 // Even a dim room's long exposures bring several frames in this time.
 constexpr auto silenceLimit = 3s;
-
-qint64 now()
-{
-    return std::chrono::duration_cast<std::chrono::milliseconds>(
-               std::chrono::steady_clock::now().time_since_epoch())
-        .count();
-}
 
 // A camera that has changed its pictures without telling may send none that can, until it is opened anew.
 bool canBeRead(const CapturedFrame &frame)
@@ -41,8 +34,7 @@ QImage imageOver(const cv::Mat &pixels)
 } // namespace
 
 GrabThread::GrabThread(CameraAccess camera, const CaptureMode &mode)
-    : m_camera(std::move(camera)), m_mode(mode), m_frames(std::make_shared<NewestFrame>()),
-      m_lastSignOfLife(now())
+    : m_camera(std::move(camera)), m_mode(mode), m_frames(std::make_shared<NewestFrame>())
 {
 }
 
@@ -55,15 +47,10 @@ void GrabThread::setView(const QSize &box, const Framing &framing)
     m_isViewChanged = true;
 }
 
-void GrabThread::setLiveHandler(std::function<void()> handler)
-{
-    m_liveHandler = std::move(handler);
-}
-
-void GrabThread::setSink(std::shared_ptr<FrameSink> sink)
+void GrabThread::setMovie(std::shared_ptr<MovieRecorder> movie)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    m_sink = std::move(sink);
+    m_movie = std::move(movie);
 }
 
 QImage GrabThread::picture() const
@@ -75,7 +62,7 @@ QImage GrabThread::picture() const
 
 CameraFault GrabThread::overdue() const
 {
-    const std::chrono::milliseconds silent(now() - m_lastSignOfLife);
+    const auto silent = std::chrono::steady_clock::now() - m_lastSignOfLife.load();
     if (!m_isLive)
         return silent > openingLimit ? CameraFault::NotAnswering : CameraFault::None;
     return silent > silenceLimit ? CameraFault::Silent : CameraFault::None;
@@ -85,11 +72,6 @@ CameraFailure GrabThread::failure() const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     return m_failure;
-}
-
-void GrabThread::noteSignOfLife()
-{
-    m_lastSignOfLife = now();
 }
 
 void GrabThread::run()
@@ -103,7 +85,7 @@ void GrabThread::run()
     if (pipeline.open()) {
         m_isOpening = false;
         grabUntilStopped(pipeline);
-        endSink();
+        endMovie();
     }
     fail(pipeline.failure());
 }
@@ -163,59 +145,57 @@ FramePtr GrabThread::grabAllWaiting(CameraPipeline &pipeline)
 void GrabThread::deliver(const FramePtr &frame)
 {
     if (canBeRead(*frame))
-        noteSignOfLife();
+        m_lastSignOfLife = std::chrono::steady_clock::now();
     m_frames->put(frame);
     if (!m_isLive.exchange(true))
-        QMetaObject::invokeMethod(this, &GrabThread::tellLive, Qt::QueuedConnection);
+        tellPicture();
     record(frame);
 }
 
 void GrabThread::record(const FramePtr &frame)
 {
-    std::shared_ptr<FrameSink> sink;
+    std::shared_ptr<MovieRecorder> movie;
     Framing framing;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        sink = m_sink;
+        movie = m_movie;
         framing = m_view.framing;
     }
-    if (!sink)
+    if (!movie)
         return;
-    if (!sink->wants(frame->clockTime)) {
-        letGo(sink);
+    if (!movie->wants(frame->clockTime)) {
+        letGo(movie);
         return;
     }
     // Zoomed and turned by then.
-    if (const FramePtr picture = m_moviePictures.make(frame, &m_planes, framing, sink->pictureInfo()))
-        sink->take(picture);
+    if (const FramePtr picture = m_moviePictures.make(frame, &m_planes, framing, movie->settings().picture))
+        movie->take(picture);
 }
 
 // Unless there is another one by now.
-void GrabThread::letGo(const std::shared_ptr<FrameSink> &sink)
+void GrabThread::letGo(const std::shared_ptr<MovieRecorder> &movie)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    if (m_sink == sink)
-        m_sink.reset();
+    if (m_movie == movie)
+        m_movie.reset();
 }
 
 // Before the camera is closed, which it may not let happen.
-void GrabThread::endSink()
+void GrabThread::endMovie()
 {
-    std::shared_ptr<FrameSink> sink;
+    std::shared_ptr<MovieRecorder> movie;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        sink.swap(m_sink);
+        movie.swap(m_movie);
     }
-    if (sink)
-        sink->noteLastFrame();
+    if (movie)
+        movie->noteLastFrame();
 }
 
-void GrabThread::tellLive()
+void GrabThread::tellPicture()
 {
-    // The handler may take itself away.
-    const std::function<void()> handler = m_liveHandler;
-    if (handler)
-        handler();
+    if (m_isPictureAwaited.exchange(false))
+        emit grabtrue();
 }
 
 GrabThread::View GrabThread::view() const
@@ -236,6 +216,5 @@ void GrabThread::show(const FramePtr &frame, const View &view)
         m_image = imageOver(pixels);
         m_frame = pixels;
     }
-    if (m_isPictureAwaited.exchange(false))
-        emit grabtrue();
+    tellPicture();
 }

@@ -2,7 +2,6 @@
 
 #include "platform/camerapipeline.h"
 #include "platform/framerenderer.h"
-#include "platform/framesink.h"
 #include "platform/moviepictures.h"
 #include "platform/newestframe.h"
 
@@ -12,9 +11,11 @@
 #include <opencv2/core/mat.hpp>
 
 #include <atomic>
-#include <functional>
+#include <chrono>
 #include <memory>
 #include <mutex>
+
+class MovieRecorder;
 
 // A camera's device together with the lock that says who has it open.
 struct CameraAccess {
@@ -38,11 +39,9 @@ public:
     // What the window shows: the box in device pixels into which the picture is fitted. An empty box, while
     // nothing is to be seen, saves the work.
     void setView(const QSize &box, const Framing &framing);
-    // Has this called once, on the thread of this object, when the first frame has come; null ends that.
-    void setLiveHandler(std::function<void()> handler);
-    // Hands every further whole frame to the sink, as a movie's picture of what is shown, in place of the
-    // sink before it, until it wants no more.
-    void setSink(std::shared_ptr<FrameSink> sink);
+    // Hands every further whole frame to the movie, as its picture of what is shown, in place of the movie
+    // before it, until it wants no more.
+    void setMovie(std::shared_ptr<MovieRecorder> movie);
 
     // The latest picture for the window; null before the first. Shares its pixels.
     QImage picture() const;
@@ -64,7 +63,7 @@ public:
 signals:
     // The camera could not be opened, or its stream broke off.
     void deviceerr();
-    // A new picture() is there. Not sent again before picture() has been called.
+    // The first frame has come, or a new picture() is there. Not sent again before picture() has been called.
     void grabtrue();
 
 protected:
@@ -82,12 +81,11 @@ private:
     FramePtr grabAllWaiting(CameraPipeline &pipeline);
     void deliver(const FramePtr &frame);
     void record(const FramePtr &frame);
-    void letGo(const std::shared_ptr<FrameSink> &sink);
-    void endSink();
-    void tellLive();
+    void letGo(const std::shared_ptr<MovieRecorder> &movie);
+    void endMovie();
+    void tellPicture();
     void show(const FramePtr &frame, const View &view);
     View view() const;
-    void noteSignOfLife();
 
     cv::Mat m_frame; // the pixels of m_image; here because the class's interface has it
     QImage m_image;
@@ -98,15 +96,14 @@ private:
     FramePlanes m_planes; // of the frame that is worked on, for movie and window
     MoviePictures m_moviePictures;
     FrameRenderer m_renderer;
-    std::function<void()> m_liveHandler; // of the thread of this object
 
-    mutable std::mutex m_mutex; // guards m_frame, m_image, m_view, m_sink and m_failure
+    mutable std::mutex m_mutex; // guards m_frame, m_image, m_view, m_movie and m_failure
     View m_view;
-    std::shared_ptr<FrameSink> m_sink;
+    std::shared_ptr<MovieRecorder> m_movie;
     CameraFailure m_failure;
     std::atomic<bool> m_isViewChanged{false};
     std::atomic<bool> m_isOpening{true};
     std::atomic<bool> m_isLive{false};
     mutable std::atomic<bool> m_isPictureAwaited{true};
-    std::atomic<qint64> m_lastSignOfLife;
+    std::atomic<std::chrono::steady_clock::time_point> m_lastSignOfLife{std::chrono::steady_clock::now()};
 };

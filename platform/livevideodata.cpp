@@ -168,7 +168,6 @@ void LiveVideoData::openCamera()
         if (thread == m_grabThread.get())
             lose(thread->failure());
     });
-    m_grabThread->setLiveHandler([this] { noteLive(); });
     updateView();
     m_grabThread->start();
     m_watch.start();
@@ -179,7 +178,7 @@ void LiveVideoData::noteLive()
     // Not before: it would take the processor from the first picture.
     static std::once_flag tried;
     std::call_once(tried, [] { std::thread(proveH264Hardware).detach(); });
-    if (!std::exchange(m_isLiveTold, true) && m_listener)
+    if (m_listener)
         m_listener->cameraIsLive();
 }
 
@@ -203,7 +202,6 @@ void LiveVideoData::closeCamera()
     if (!m_grabThread)
         return;
     m_grabThread->disconnect(this);
-    m_grabThread->setLiveHandler(nullptr);
     m_grabThread->requestInterruption();
     GrabThread *thread = m_grabThread.release();
     connect(thread, &QThread::finished, thread, &QObject::deleteLater);
@@ -216,7 +214,6 @@ void LiveVideoData::closeCameraAndWait()
     if (!m_grabThread)
         return;
     m_grabThread->disconnect(this);
-    m_grabThread->setLiveHandler(nullptr);
     m_grabThread->requestInterruption();
     if (!m_grabThread->wait(cameraCloseWait))
         static_cast<void>(m_grabThread.release());
@@ -289,8 +286,13 @@ FramePtr LiveVideoData::awaitFrame()
 
 void LiveVideoData::grab()
 {
-    if (m_grabThread)
-        m_target.setPicture(m_grabThread->picture());
+    if (!m_grabThread)
+        return;
+    const QImage picture = m_grabThread->picture();
+    if (!picture.isNull())
+        m_target.setPicture(picture);
+    if (m_grabThread->isLive() && !std::exchange(m_isLiveTold, true))
+        noteLive();
 }
 
 void LiveVideoData::noteDevices()

@@ -215,7 +215,6 @@ private:
     std::vector<std::shared_ptr<MovieRecorder>> m_unfinished;
     std::set<std::shared_ptr<MovieRecorder>> m_toldBroken; // of the unfinished ones
     QTimer m_fileWatch;                                    // runs while there are unfinished ones
-    std::shared_ptr<GstDevice> m_movieMicrophone;
     std::shared_ptr<GstDevice> m_deafMicrophone; // that the last movie could not open; null when it could
     bool m_lacksPicture = false;
     bool m_isRecordCalled = false;

@@ -67,12 +67,12 @@ void LiveVideoData::startMovie(const QString &path)
     settings.microphone = *microphone;
     const auto movie = std::make_shared<MovieRecorder>(settings);
     m_startingMovie = movie;
-    m_grabThread->setSink(movie);
+    m_grabThread->setMovie(movie);
     // The newest of now: what comes after it goes to the movie already.
     const FramePtr newest = m_grabThread->newest();
     const FramePtr first = newest ? newest : atPress;
     const auto start = [movie, first, framing = m_framing, frames = m_grabThread->frames()] {
-        const FramePtr picture = wholePicture(first, *frames, framing, movie->pictureInfo());
+        const FramePtr picture = wholePicture(first, *frames, framing, movie->settings().picture);
         return !picture ? Start::NoPicture : movie->start(picture) ? Start::Runs : Start::Failed;
     };
     const auto outcome = doAside(start, startWait);
@@ -83,7 +83,6 @@ void LiveVideoData::startMovie(const QString &path)
     m_startingMovie.reset();
     if (outcome == Start::Runs) {
         m_movie = movie;
-        m_movieMicrophone = microphone->device;
         return;
     }
     m_lacksPicture = outcome == Start::NoPicture;
@@ -133,7 +132,7 @@ std::shared_ptr<MovieRecorder> LiveVideoData::stopMovie()
         return movie;
     m_hadSoundHole = movie->longestSoundGap() > longestSoundGap;
     if (const std::optional<bool> couldBeOpened = movie->couldOpenMicrophone())
-        m_deafMicrophone = *couldBeOpened ? nullptr : m_movieMicrophone;
+        m_deafMicrophone = *couldBeOpened ? nullptr : movie->settings().microphone.device;
     movie->finish();
     m_unfinished.push_back(movie);
     m_fileWatch.start();
@@ -189,11 +188,11 @@ QStringList LiveVideoData::unfinishedMovies() const
     QStringList paths;
     for (const auto &movie : m_unfinished) {
         if (!movie->isFinished())
-            paths << movie->path();
+            paths << movie->settings().path;
     }
     for (const auto &movie : {m_movie, m_startingMovie}) {
         if (movie)
-            paths << movie->path();
+            paths << movie->settings().path;
     }
     return paths;
 }
@@ -222,7 +221,6 @@ bool LiveVideoData::awaitMicrophone()
 {
     const QPointer<LiveVideoData> self(this);
     const std::shared_ptr<MovieRecorder> movie = m_movie;
-    const std::shared_ptr<GstDevice> microphone = m_movieMicrophone;
     std::optional<bool> isUsable;
     const auto isKnown = [&] {
         isUsable = movie->hasMicrophone();
@@ -230,6 +228,6 @@ bool LiveVideoData::awaitMicrophone()
     };
     static_cast<void>(waitAlive(isKnown, microphoneWait));
     if (self)
-        m_deafMicrophone = isUsable.value_or(false) ? nullptr : microphone;
+        m_deafMicrophone = isUsable.value_or(false) ? nullptr : movie->settings().microphone.device;
     return isUsable.value_or(false);
 }

@@ -95,9 +95,9 @@ bool MovieRecorder::beginRecording()
         const std::lock_guard<std::mutex> lock(m_mutex);
         isWanted = !m_isDiscarded;
         if (m_state == State::Starting)
-            m_state = m_end == MovieEnd::None ? State::Recording : State::Failed;
-        for (Picture &picture : std::exchange(m_kept, {}))
-            push(std::move(picture));
+            m_state = State::Recording;
+        for (const FramePtr &frame : std::exchange(m_kept, {}))
+            push(*frame);
     }
     if (isWanted)
         std::thread([self = shared_from_this()] { self->watch(); }).detach();
@@ -144,9 +144,7 @@ void MovieRecorder::fail(MovieEnd why, const QString &line)
         if (m_end != MovieEnd::None)
             return;
         m_end = why;
-        if (m_state == State::Recording)
-            m_state = State::Failed;
-        else if (m_state == State::Finishing)
+        if (m_state == State::Finishing)
             m_fileFault = why;
     }
     qCWarning(movieLog).noquote().nospace() << m_settings.path << ": " << line;
@@ -180,8 +178,6 @@ void MovieRecorder::noteAllFrames()
 
 void MovieRecorder::take(const FramePtr &frame)
 {
-    if (!gst_video_info_is_equal(&frame->info, &m_settings.picture))
-        return;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         if (m_state == State::Starting) {
@@ -192,7 +188,7 @@ void MovieRecorder::take(const FramePtr &frame)
             return;
     }
     if (!isBehind())
-        push(pictureOf(*frame));
+        push(*frame);
     lookForLife();
 }
 
@@ -215,21 +211,15 @@ void MovieRecorder::keep(const FramePtr &frame)
     if (m_keptBytes >= mostWaitingBytes || m_kept.size() >= size_t(m_settings.framesPerSecond))
         return;
     m_keptBytes += gst_buffer_get_size(frame->picture.get());
-    m_kept.push_back(pictureOf(*frame));
+    m_kept.push_back(frame);
 }
 
 void MovieRecorder::keepFirst(const FramePtr &first)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    if (m_kept.empty() || first->clockTime < m_kept.front().clockTime)
-        m_kept.push_front(pictureOf(*first));
-    m_startTime = m_nextTime = m_kept.front().clockTime;
-}
-
-// With time stamps of its own, and the frame's pixels.
-MovieRecorder::Picture MovieRecorder::pictureOf(const CapturedFrame &frame)
-{
-    return {BufferHandle(gst_buffer_copy(frame.picture.get())), frame.clockTime};
+    if (m_kept.empty() || first->clockTime < m_kept.front()->clockTime)
+        m_kept.push_front(first);
+    m_startTime = m_nextTime = m_kept.front()->clockTime;
 }
 
 bool MovieRecorder::isBehind() const
@@ -239,16 +229,15 @@ bool MovieRecorder::isBehind() const
            gst_app_src_get_current_level_buffers(pictures) >= guint64(m_settings.framesPerSecond);
 }
 
-void MovieRecorder::push(Picture picture)
+void MovieRecorder::push(const CapturedFrame &frame)
 {
-    GstBuffer *pixels = picture.pixels.get();
-    if (!pixels || picture.clockTime < m_nextTime || !hasIndexFor(picture.clockTime))
+    if (frame.clockTime < m_nextTime || !hasIndexFor(frame.clockTime))
         return;
-    m_nextTime = picture.clockTime + 1;
-    GST_BUFFER_PTS(pixels) = picture.clockTime - m_startTime;
-    GST_BUFFER_DTS(pixels) = GST_CLOCK_TIME_NONE;
-    GST_BUFFER_DURATION(pixels) = GST_CLOCK_TIME_NONE;
-    gst_app_src_push_buffer(GST_APP_SRC(m_movie.pictures), picture.pixels.release());
+    m_nextTime = frame.clockTime + 1;
+    // With a time stamp of its own, and the frame's pixels.
+    GstBuffer *picture = gst_buffer_copy(frame.picture.get());
+    GST_BUFFER_PTS(picture) = frame.clockTime - m_startTime;
+    gst_app_src_push_buffer(GST_APP_SRC(m_movie.pictures), picture);
     paceIndex(m_movie);
 }
 
@@ -280,7 +269,8 @@ MovieEnd MovieRecorder::end() const
 void MovieRecorder::watch()
 {
     std::unique_lock<std::mutex> lock(m_mutex);
-    while (!m_changed.wait_for(lock, watchPeriod, [this] { return m_state != State::Recording; })) {
+    while (!m_changed.wait_for(lock, watchPeriod,
+                               [this] { return m_state != State::Recording || m_end != MovieEnd::None; })) {
         lock.unlock();
         m_lastLook = std::chrono::steady_clock::now();
         m_sound->lookAfter();

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "platform/capturedframe.h"
 #include "platform/captureevents.h"
-#include "platform/framesink.h"
 #include "platform/moviepipeline.h"
 #include "platform/moviesound.h"
 
@@ -16,27 +16,34 @@
 // One movie from its start to its finished file. Should the program die, the file is playable up to about a
 // second before, or some more seconds where the disk does not keep up. It is kept whatever happens while it
 // is finished.
-class MovieRecorder : public FrameSink, public std::enable_shared_from_this<MovieRecorder>
+class MovieRecorder : public std::enable_shared_from_this<MovieRecorder>
 {
 public:
     // Makes nothing yet; frames may be given to it already and are kept for the start.
     explicit MovieRecorder(const MovieSettings &settings);
-    ~MovieRecorder() override;
+    ~MovieRecorder();
+    MovieRecorder(const MovieRecorder &) = delete;
+    MovieRecorder &operator=(const MovieRecorder &) = delete;
+
+    const MovieSettings &settings() const { return m_settings; }
 
     // Starts recording; the movie begins with this frame, which is on the screen, or with the first that was
     // given if that is older. False when the file cannot be made or an element is missing. Takes as long as
     // the disk does to open the file. Any thread, once.
     bool start(const FramePtr &first);
 
-    // Those captured up to the call of finish(), or none once the movie was discarded or has failed.
-    bool wants(GstClockTime captured) override;
-    // Adds a picture of the kind told at the start. While the start, or then the encoder, is behind by a
-    // second or by 128 MB frames are left out rather than kept waiting.
-    void take(const FramePtr &frame) override;
-    void noteLastFrame() override;
-    const GstVideoInfo &pictureInfo() const override { return m_settings.picture; }
+    // The frames of the running camera, in order, from the thread that grabs them. Like all that follows but
+    // waitForFile(), these wait for nothing.
 
-    // The following wait for nothing, but for waitForFile().
+    // Whether it takes a frame that was captured then, on GStreamer's system clock: up to the call of
+    // finish(), and none once the movie was discarded or has failed. Asked before each; after a no it is
+    // neither asked nor given anything any more.
+    bool wants(GstClockTime captured);
+    // Adds a picture as the settings have it. While the start, or then the encoder, is behind by a second or
+    // by 128 MB frames are left out rather than kept waiting.
+    void take(const FramePtr &frame);
+    // The camera gives no further frame.
+    void noteLastFrame();
 
     // Why the movie cannot go on: the disk is full or nearly so, the file's index is, or writing failed. None
     // while it can.
@@ -58,19 +65,11 @@ public:
     bool isFinished() const;
     // Why a finished file lacks its end; None when it does not.
     MovieEnd fileFault() const;
-    QString path() const { return m_settings.path; }
     bool waitForFile(std::chrono::milliseconds limit);
 
 private:
-    enum class State { Starting, Recording, Failed, Finishing, Finished };
+    enum class State { Starting, Recording, Finishing, Finished };
 
-    // A picture as it goes into the movie.
-    struct Picture {
-        BufferHandle pixels;
-        GstClockTime clockTime = 0;
-    };
-
-    static Picture pictureOf(const CapturedFrame &frame);
     void keep(const FramePtr &frame);
     void keepFirst(const FramePtr &first);
     bool startPipeline();
@@ -79,7 +78,7 @@ private:
     void note(GstMessage *message);
     void fail(MovieEnd why, const QString &line);
     bool isBehind() const;
-    void push(Picture picture);
+    void push(const CapturedFrame &frame);
     bool hasIndexFor(GstClockTime time);
     void tellShortRoom() const;
     void watch();
@@ -107,7 +106,7 @@ private:
     std::condition_variable m_changed;
     State m_state = State::Starting;
     GstClockTime m_stopTime = 0; // set when it becomes Finishing
-    std::deque<Picture> m_kept;  // for the start
+    std::deque<FramePtr> m_kept; // for the start
     gsize m_keptBytes = 0;
     MovieEnd m_end = MovieEnd::None;
     MovieEnd m_fileFault = MovieEnd::None;
