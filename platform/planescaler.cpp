@@ -2,14 +2,14 @@
 
 #include <libyuv.h>
 
+#ifdef __x86_64__
+
 #include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <vector>
 
-#ifdef __x86_64__
 #include <tmmintrin.h>
-#endif
 
 namespace
 {
@@ -26,8 +26,6 @@ Place placeOf(int index, int from, int to)
     const int first = std::min(int(position), std::max(0, from - 2));
     return {first, position - first};
 }
-
-#ifdef __x86_64__
 
 // libyuv scales planes two pixels at a time, which takes longer than everything else on the way of a raw
 // frame to the screen. Eight at a time are found in sixteen bytes of the row, as long as it is not reduced by
@@ -79,28 +77,11 @@ __attribute__((target("ssse3"))) void scaleRow(const uint8_t *row, const std::ve
     }
 }
 
-bool canScaleRows(int from, int to)
+bool canScaleRows(const QSize &from, const QSize &to)
 {
-    return __builtin_cpu_supports("ssse3") && from > 1 && from <= mostReduced * to;
+    return __builtin_cpu_supports("ssse3") && from.width() != to.width() && from.width() > 1 &&
+           from.width() <= mostReduced * to.width() && from.height() <= 2 * to.height();
 }
-
-#else
-
-struct Group {
-};
-constexpr int atOnce = 1;
-constexpr int bytesRead = 1;
-std::vector<Group> groupsFor(int, int)
-{
-    return {};
-}
-void scaleRow(const uint8_t *, const std::vector<Group> &, uint8_t *) {}
-bool canScaleRows(int, int)
-{
-    return false;
-}
-
-#endif
 
 // The row of the source that lies at this place of a column.
 void mixRows(const uint8_t *from, int stride, int width, const Place &place, uint8_t *row)
@@ -111,29 +92,33 @@ void mixRows(const uint8_t *from, int stride, int width, const Place &place, uin
                              std::min(beyond, 255));
 }
 
+void scaleRows(const uint8_t *from, int fromStride, const QSize &fromSize, uint8_t *to, int toStride,
+               const QSize &toSize)
+{
+    const std::vector<Group> groups = groupsFor(fromSize.width(), toSize.width());
+    std::vector<uint8_t> mixed(size_t(fromSize.width() + bytesRead));
+    std::vector<uint8_t> scaled(size_t(toSize.width() + atOnce));
+    for (int y = 0; y < toSize.height(); ++y) {
+        const Place place = placeOf(y, fromSize.height(), toSize.height());
+        mixRows(from, fromStride, fromSize.width(), place, mixed.data());
+        scaleRow(mixed.data(), groups, scaled.data());
+        memcpy(to + ptrdiff_t(y) * toStride, scaled.data(), size_t(toSize.width()));
+    }
+}
+
 } // namespace
+
+#endif
 
 void scalePlane(const uint8_t *from, int fromStride, const QSize &fromSize, uint8_t *to, int toStride,
                 const QSize &toSize)
 {
-    const bool isReducedByHalf = fromSize.height() > 2 * toSize.height();
-    if (fromSize == toSize || isReducedByHalf || !canScaleRows(fromSize.width(), toSize.width())) {
-        libyuv::ScalePlane(from, fromStride, fromSize.width(), fromSize.height(), to, toStride,
-                           toSize.width(), toSize.height(), libyuv::kFilterBox);
+#ifdef __x86_64__
+    if (canScaleRows(fromSize, toSize)) {
+        scaleRows(from, fromStride, fromSize, to, toStride, toSize);
         return;
     }
-    const bool isWidthKept = fromSize.width() == toSize.width();
-    const std::vector<Group> groups =
-        isWidthKept ? std::vector<Group>() : groupsFor(fromSize.width(), toSize.width());
-    std::vector<uint8_t> mixed(size_t(fromSize.width() + bytesRead));
-    std::vector<uint8_t> scaled(size_t(toSize.width() + atOnce));
-    for (int y = 0; y < toSize.height(); ++y) {
-        uint8_t *target = to + ptrdiff_t(y) * toStride;
-        const Place place = placeOf(y, fromSize.height(), toSize.height());
-        mixRows(from, fromStride, fromSize.width(), place, isWidthKept ? target : mixed.data());
-        if (isWidthKept)
-            continue;
-        scaleRow(mixed.data(), groups, scaled.data());
-        memcpy(target, scaled.data(), size_t(toSize.width()));
-    }
+#endif
+    libyuv::ScalePlane(from, fromStride, fromSize.width(), fromSize.height(), to, toStride, toSize.width(),
+                       toSize.height(), libyuv::kFilterBox);
 }
