@@ -1,7 +1,6 @@
 #include "platform/frameplanes.h"
 
 #include "platform/jpegdecoder.h"
-#include "platform/planecolours.h"
 
 namespace
 {
@@ -49,8 +48,6 @@ std::optional<PicturePlanes> FramePlanes::read(const FramePtr &frame, const QRec
 std::optional<PicturePlanes> FramePlanes::readRaw(const FramePtr &frame, const QRect &part)
 {
     release();
-    if (!areKnown(frame->info.colorimetry))
-        return {};
     m_frame = frame;
     m_mapped = std::make_unique<MappedFrame>(frame->info, frame->picture.get(), GST_MAP_READ);
     return m_mapped->isValid() ? planesOf(m_mapped->get(), part, &m_memory) : std::nullopt;

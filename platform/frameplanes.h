@@ -9,8 +9,7 @@ class FramePlanes
 public:
     // What the zoom's part of the frame is made of, for a picture of `size`: a JPEG is decoded at the least
     // scale that has the pixels for it. Of the JPEG asked for last, what is there already is used again.
-    // Nothing for a damaged frame, and for raw formats without planes or of unusual colours. Good until the
-    // next call.
+    // Nothing for a damaged frame, and for raw formats without planes. Good until the next call.
     std::optional<PicturePlanes> read(const FramePtr &frame, const QRect &part, const QSize &size);
 
     // Lets go of the frame asked for last.

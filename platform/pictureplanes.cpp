@@ -35,8 +35,7 @@ std::optional<Packing> packingOf(GstVideoFormat format)
 bool isPlanar(GstVideoFormat format)
 {
     return format == GST_VIDEO_FORMAT_I420 || format == GST_VIDEO_FORMAT_YV12 ||
-           format == GST_VIDEO_FORMAT_Y42B || format == GST_VIDEO_FORMAT_Y444 ||
-           format == GST_VIDEO_FORMAT_Y41B;
+           format == GST_VIDEO_FORMAT_Y42B || format == GST_VIDEO_FORMAT_Y444;
 }
 
 bool isHalfPlanar(GstVideoFormat format)

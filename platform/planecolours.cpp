@@ -11,26 +11,28 @@ namespace
 
 // libyuv's description of colours, and the one for the same with red and blue exchanged.
 struct Constants {
-    const libyuv::YuvConstants *straight = nullptr;
-    const libyuv::YuvConstants *exchanged = nullptr;
+    const libyuv::YuvConstants *straight;
+    const libyuv::YuvConstants *exchanged;
 };
+
+// Which of those that libyuv knows are nearest: those of SMPTE 240M and of the FCC differ from them by less
+// than is seen.
 
 Constants constantsOf(const GstVideoColorimetry &colours)
 {
     using namespace libyuv;
     const bool isFull = colours.range == GST_VIDEO_COLOR_RANGE_0_255;
     switch (colours.matrix) {
-    case GST_VIDEO_COLOR_MATRIX_BT601:
-        return isFull ? Constants{&kYuvJPEGConstants, &kYvuJPEGConstants}
-                      : Constants{&kYuvI601Constants, &kYvuI601Constants};
     case GST_VIDEO_COLOR_MATRIX_BT709:
+    case GST_VIDEO_COLOR_MATRIX_SMPTE240M:
         return isFull ? Constants{&kYuvF709Constants, &kYvuF709Constants}
                       : Constants{&kYuvH709Constants, &kYvuH709Constants};
     case GST_VIDEO_COLOR_MATRIX_BT2020:
         return isFull ? Constants{&kYuvV2020Constants, &kYvuV2020Constants}
                       : Constants{&kYuv2020Constants, &kYvu2020Constants};
     default:
-        return {};
+        return isFull ? Constants{&kYuvJPEGConstants, &kYvuJPEGConstants}
+                      : Constants{&kYuvI601Constants, &kYvuI601Constants};
     }
 }
 
@@ -113,11 +115,6 @@ QSize halfWide(const QSize &size)
 }
 
 } // namespace
-
-bool areKnown(const GstVideoColorimetry &colours)
-{
-    return constantsOf(colours).straight != nullptr;
-}
 
 bool toBgrx(const PicturePlanes &planes, uint8_t *out, int stride)
 {

@@ -2,9 +2,6 @@
 
 #include "platform/pictureplanes.h"
 
-// Whether the operations below know what these colours mean.
-bool areKnown(const GstVideoColorimetry &colours);
-
 // The planes as 32-bit BGRx rows, at the size that they have. False when their colour is of no usual size.
 bool toBgrx(const PicturePlanes &planes, uint8_t *out, int stride);
 
