@@ -119,19 +119,14 @@ void MoviePictures::put(const PicturePlanes &planes, const Turn &turn, const QRe
                         GstVideoFrame *picture)
 {
     const QSize upright = turn.turned(place.size());
-    if (!turn.isNone())
-        m_upright.create(upright, halved(upright));
-    const PicturePlanes before = m_upright.planes(upright, halved(upright), planes.colours);
+    const PicturePlanes from = turn.isNone() ? planes : scaled(planes, upright, halved(upright), &m_upright);
     for (int i = 0; i < planeCount; ++i) {
         const QRect target = onPlane(place, i);
         uint8_t *pixels = pixelOf(picture, i, target.topLeft());
         const int stride = GST_VIDEO_FRAME_COMP_STRIDE(picture, i);
-        if (turn.isNone()) {
-            scalePlane(planes.data[i], planes.stride[i], planes.sizeOf(i), pixels, stride, target.size());
-            continue;
-        }
-        scalePlane(planes.data[i], planes.stride[i], planes.sizeOf(i), m_upright.row(i, 0), before.stride[i],
-                   before.sizeOf(i));
-        turnPlane(before.data[i], before.stride[i], before.sizeOf(i), turn, pixels, stride);
+        if (turn.isNone())
+            scalePlane(from.data[i], from.stride[i], from.sizeOf(i), pixels, stride, target.size());
+        else
+            turnPlane(from.data[i], from.stride[i], from.sizeOf(i), turn, pixels, stride);
     }
 }

@@ -147,10 +147,9 @@ std::optional<PicturePlanes> planesOf(GstVideoFrame *frame, const QRect &part, P
     return {};
 }
 
-PicturePlanes scaled(const PicturePlanes &planes, const QSize &size, PlaneMemory *memory)
+PicturePlanes scaled(const PicturePlanes &planes, const QSize &size, const QSize &colourSize,
+                     PlaneMemory *memory)
 {
-    const bool isHalfHigh = planes.colourSize.height() < planes.size.height();
-    const QSize colourSize(halved(size).width(), isHalfHigh ? halved(size).height() : size.height());
     memory->create(size, colourSize);
     PicturePlanes target = memory->planes(size, colourSize, planes.colours);
     for (int i = 0; i < 3; ++i) {

@@ -43,9 +43,9 @@ private:
 // planes of brightness and colour.
 std::optional<PicturePlanes> planesOf(GstVideoFrame *frame, const QRect &part, PlaneMemory *memory);
 
-// The planes at that size, their colour half as wide and, unless it was as high as the brightness, half as
-// high. Planes that have their size already stay what they are.
-PicturePlanes scaled(const PicturePlanes &planes, const QSize &size, PlaneMemory *memory);
+// The planes at these sizes. Those that have their size already stay what they are.
+PicturePlanes scaled(const PicturePlanes &planes, const QSize &size, const QSize &colourSize,
+                     PlaneMemory *memory);
 
 // Half of each side, as a picture's colour mostly has it.
 inline QSize halved(const QSize &size)

@@ -61,7 +61,9 @@ bool ScreenPixels::convertPlanes(const PicturePlanes &planes, cv::Mat *pixels)
     const int stride = int(pixels->step);
     if (planes.size == size && toBgrx(planes, pixels->data, stride))
         return true;
-    return toBgrx(scaled(planes, size, &m_scaled), pixels->data, stride);
+    const bool isHalfHigh = planes.colourSize.height() < planes.size.height();
+    const QSize colourSize(halved(size).width(), isHalfHigh ? halved(size).height() : size.height());
+    return toBgrx(scaled(planes, size, colourSize, &m_scaled), pixels->data, stride);
 }
 
 bool ScreenPixels::convertRgb(const CapturedFrame &frame, const QRect &part, cv::Mat *pixels)
