@@ -57,9 +57,8 @@ GstVideoInfo pictureInfo(GstVideoFormat format, const QSize &size)
     return info;
 }
 
-BufferHandle wrapPixels(const cv::Mat &pixels)
+BufferHandle wrapPixels(uint8_t *pixels, size_t bytes)
 {
-    const gsize bytes = pixels.total() * pixels.elemSize();
     return BufferHandle(
-        gst_buffer_new_wrapped_full(GstMemoryFlags(0), pixels.data, bytes, 0, bytes, nullptr, nullptr));
+        gst_buffer_new_wrapped_full(GstMemoryFlags(0), pixels, bytes, 0, bytes, nullptr, nullptr));
 }

@@ -4,8 +4,6 @@
 
 #include <QRect>
 
-#include <opencv2/core/mat.hpp>
-
 // Converts pictures between pixel formats and sizes with GStreamer's converter, which it keeps for as long
 // as the kind of conversion stays the same. For one thread at a time.
 class FrameConverter
@@ -32,4 +30,4 @@ private:
 GstVideoInfo pictureInfo(GstVideoFormat format, const QSize &size);
 
 // The pixels in a buffer, which does not own them.
-BufferHandle wrapPixels(const cv::Mat &pixels);
+BufferHandle wrapPixels(uint8_t *pixels, size_t bytes);

@@ -25,15 +25,16 @@ constexpr double longestSoundGap = 2; // seconds
 enum class Start { Runs, NoPicture, Failed };
 
 // Of that frame, or of the next whole one; null when none comes.
-FramePtr wholePicture(FramePtr frame, const NewestFrame &frames, const Framing &framing,
+FramePtr wholePicture(const FramePtr &first, const NewestFrame &frames, const Framing &framing,
                       const GstVideoInfo &info)
 {
-    const auto limit = std::chrono::steady_clock::now() + wholeFrameWait;
     FramePlanes planes;
     MoviePictures pictures;
     FramePtr picture;
-    while (frame && !(picture = pictures.make(frame, &planes, framing, info)))
-        frame = frames.waitForOther(frame, limit);
+    frames.tryFrom(first, [&](const FramePtr &frame) {
+        picture = pictures.make(frame, &planes, framing, info);
+        return picture != nullptr;
+    });
     return picture;
 }
 

@@ -6,9 +6,6 @@
 #include <condition_variable>
 #include <mutex>
 
-// How long a picture waits for a frame that is not damaged.
-constexpr std::chrono::seconds wholeFrameWait(1);
-
 // The latest frame of a camera, handed from the thread that grabs it to whoever needs a picture.
 class NewestFrame
 {
@@ -29,7 +26,17 @@ public:
         return m_frame;
     }
 
-    // Waits for a frame other than `known` until the limit; null when none came.
+    // Tries this frame, which may be damaged, and then each newer one, until one is good or a second has
+    // passed.
+    template<typename IsGood> void tryFrom(FramePtr frame, IsGood isGood) const
+    {
+        const auto limit = std::chrono::steady_clock::now() + std::chrono::seconds(1);
+        while (frame && !isGood(frame))
+            frame = waitForOther(frame, limit);
+    }
+
+private:
+    // Null when none came until the limit.
     FramePtr waitForOther(const FramePtr &known, std::chrono::steady_clock::time_point limit) const
     {
         std::unique_lock<std::mutex> lock(m_mutex);
@@ -37,7 +44,6 @@ public:
         return came ? m_frame : FramePtr();
     }
 
-private:
     mutable std::mutex m_mutex;
     mutable std::condition_variable m_arrived;
     FramePtr m_frame;

@@ -50,7 +50,8 @@ bool ScreenPixels::convert(const FramePtr &frame, const QRect &part, FramePlanes
     if (convertRgb(*frame, part, pixels))
         return true;
     const GstVideoInfo target = pictureInfo(GST_VIDEO_FORMAT_BGRx, size);
-    return m_general.convert(frame->info, frame->picture.get(), part, target, wrapPixels(*pixels).get());
+    return m_general.convert(frame->info, frame->picture.get(), part, target,
+                             wrapPixels(pixels->data, target.size).get());
 }
 
 // Scaled before they get their colour: that way there are half the bytes to scale, and as many to colour as

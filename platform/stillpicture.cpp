@@ -12,7 +12,6 @@
 #include <QTransform>
 
 #include <cerrno>
-#include <chrono>
 #include <utility>
 
 namespace
@@ -34,9 +33,7 @@ QImage largeImage(const QSize &size)
 
 BufferHandle wrapImage(QImage *image)
 {
-    const auto bytes = gsize(image->sizeInBytes());
-    return BufferHandle(
-        gst_buffer_new_wrapped_full(GstMemoryFlags(0), image->bits(), bytes, 0, bytes, nullptr, nullptr));
+    return wrapPixels(image->bits(), size_t(image->sizeInBytes()));
 }
 
 // A frame as RGB, and whether all of it came from the camera.
@@ -64,6 +61,23 @@ bool convert(const GstVideoInfo &info, GstBuffer *buffer, const QRect &part, QIm
         .convert(info, buffer, part, rgb, wrapImage(image).get());
 }
 
+RgbPicture rgbPicture(const FramePtr &frame)
+{
+    if (frame->isJpeg())
+        return decoded(*frame);
+    const QRect whole(QPoint(0, 0), frame->size());
+    RgbPicture picture{largeImage(whole.size()), !frame->isDamaged};
+    if (picture.image.isNull())
+        return {};
+    FramePlanes planes;
+    const auto found = planes.read(frame, whole, whole.size());
+    if (!(found && toRgb(*found, picture.image.bits(), picture.image.bytesPerLine())) &&
+        !convert(frame->info, frame->picture.get(), whole, &picture.image))
+        return {};
+    return picture;
+}
+
+// The part that the zoom shows, at the whole picture's size.
 RgbPicture zoomed(RgbPicture picture, const Zoom &zoom)
 {
     const QSize size = picture.image.size();
@@ -77,23 +91,6 @@ RgbPicture zoomed(RgbPicture picture, const Zoom &zoom)
     return larger;
 }
 
-// The part of the frame that the zoom shows, at the frame's size.
-RgbPicture rgbPicture(const FramePtr &frame, const Zoom &zoom)
-{
-    if (frame->isJpeg())
-        return zoomed(decoded(*frame), zoom);
-    const QSize size = frame->size();
-    RgbPicture picture{largeImage(size), !frame->isDamaged};
-    if (picture.image.isNull())
-        return {};
-    FramePlanes planes;
-    const auto found = zoom.isNone() ? planes.read(frame, zoom.shownPart(size), size) : std::nullopt;
-    if (!(found && toRgb(*found, picture.image.bits(), picture.image.bytesPerLine())) &&
-        !convert(frame->info, frame->picture.get(), zoom.shownPart(size), &picture.image))
-        return {};
-    return picture;
-}
-
 QImage turned(const QImage &image, const Turn &turn)
 {
     return turn.isNone() ? image : image.transformed(QTransform().rotate(turn.degrees()));
@@ -103,15 +100,13 @@ QImage turned(const QImage &image, const Turn &turn)
 // better than nothing.
 QImage wholePicture(const StillOrder &order)
 {
-    const auto limit = std::chrono::steady_clock::now() + wholeFrameWait;
     QImage last;
-    for (FramePtr frame = order.frame; frame; frame = order.frames->waitForOther(frame, limit)) {
-        RgbPicture picture = rgbPicture(frame, order.framing.zoom);
-        if (picture.isWhole)
-            return turned(picture.image, order.framing.turn);
+    order.frames->tryFrom(order.frame, [&](const FramePtr &frame) {
+        const RgbPicture picture = zoomed(rgbPicture(frame), order.framing.zoom);
         if (!picture.image.isNull())
             last = picture.image;
-    }
+        return picture.isWhole;
+    });
     return turned(last, order.framing.turn);
 }
 

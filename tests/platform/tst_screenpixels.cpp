@@ -40,7 +40,7 @@ static int mostDifference(const FramePtr &frame, const QRect &part, const QSize 
     if (!ScreenPixels().convert(frame, part, &planes, &shown) ||
         !FrameConverter(GST_VIDEO_RESAMPLER_METHOD_LINEAR)
              .convert(frame->info, frame->picture.get(), part, pictureInfo(GST_VIDEO_FORMAT_BGRx, size),
-                      wrapPixels(expected).get()))
+                      wrapPixels(expected.data, expected.total() * 4).get()))
         return INT_MAX;
     int most = 0;
     for (int i = 0; i < size.width() * size.height() * 4; ++i) {
