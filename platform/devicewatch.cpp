@@ -4,16 +4,14 @@
 #include "platform/providerwatch.h"
 #include "util/files/alivewait.h"
 
+#include <QDateTime>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
 
 #include <algorithm>
 #include <thread>
 #include <utility>
-
-#include <sys/stat.h>
 
 namespace
 {
@@ -26,7 +24,6 @@ constexpr auto settlingTime = std::chrono::milliseconds(500);
 
 constexpr char deviceFolder[] = "/dev";
 constexpr char soundCardFolder[] = "/dev/snd";
-constexpr char soundCardProvider[] = "alsadeviceprovider";
 // A sound server that starts anew has another one of these in the user's run folder.
 constexpr const char *serverFiles[] = {"pulse/pid", "pulse/native", "pipewire-0", "pipewire-0.lock"};
 
@@ -42,14 +39,9 @@ QString runFolder()
 QString serversNow()
 {
     QString servers;
-    for (const char *file : serverFiles) {
-        struct stat status = {};
-        const QByteArray path = QFile::encodeName(runFolder() + QLatin1Char('/') + QLatin1String(file));
-        if (stat(path.constData(), &status) == 0)
-            servers += QStringLiteral("%1 %2 %3;")
-                           .arg(status.st_ino)
-                           .arg(status.st_ctim.tv_sec)
-                           .arg(status.st_ctim.tv_nsec);
+    for (const char *name : serverFiles) {
+        const QFileInfo file(runFolder() + QLatin1Char('/') + QLatin1String(name));
+        servers += file.metadataChangeTime().toString(Qt::ISODateWithMs) + QLatin1Char(';');
     }
     return servers;
 }
@@ -68,24 +60,12 @@ bool isSoundServers(const ProviderWatch &provider)
 
 bool isSoundCards(const ProviderWatch &provider)
 {
-    return provider.name() == QLatin1String(soundCardProvider);
+    return provider.name() == QLatin1String("alsadeviceprovider");
 }
 
 bool isNotKernels(const ProviderWatch &provider)
 {
     return provider.name() != QLatin1String("v4l2deviceprovider");
-}
-
-bool isNamed(GstPluginFeature *feature, const char *name)
-{
-    return g_strcmp0(gst_plugin_feature_get_name(feature), name) == 0;
-}
-
-// The kernel's cameras first: where a server lists the same camera too, the order of the list must not
-// depend on which of the two was quicker.
-bool comesFirst(GstPluginFeature *a, GstPluginFeature *b)
-{
-    return isNamed(a, "v4l2deviceprovider") && !isNamed(b, "v4l2deviceprovider");
 }
 
 // A provider that is ranked NONE is switched off, as everywhere in GStreamer.
@@ -132,26 +112,24 @@ DeviceWatch::DeviceWatch() : m_firstListingLimit(firstListingLimit)
 
 void DeviceWatch::addProviders()
 {
+    const auto mayRun = [this](const ProviderWatch &provider) {
+        return !isSoundCards(provider) || mayLookForSoundCards();
+    };
     GList *factories = providerFactories();
-    std::vector<GstPluginFeature *> ordered;
-    for (GList *link = factories; link; link = link->next)
-        ordered.push_back(GST_PLUGIN_FEATURE(link->data));
-    std::stable_sort(ordered.begin(), ordered.end(), comesFirst);
-
-    for (GstPluginFeature *feature : ordered) {
-        auto *factory = GST_DEVICE_PROVIDER_FACTORY(feature);
+    for (GList *link = factories; link; link = link->next) {
+        auto *factory = GST_DEVICE_PROVIDER_FACTORY(link->data);
         const bool hasCameras = gst_device_provider_factory_has_classes(factory, cameraClass);
         if (!hasCameras && !gst_device_provider_factory_has_classes(factory, microphoneClass))
             continue;
-        ProviderHandle provider(gst_device_provider_factory_get(factory));
-        if (!provider)
-            continue;
-        const bool isCards = isNamed(feature, soundCardProvider);
-        m_providers.push_back(std::make_unique<ProviderWatch>(
-            std::move(provider), factory, [this, isCards] { return !isCards || mayLookForSoundCards(); },
-            [this] { emit changed(); }));
+        if (ProviderHandle provider{gst_device_provider_factory_get(factory)})
+            m_providers.push_back(
+                std::make_unique<ProviderWatch>(std::move(provider), mayRun, [this] { emit changed(); }));
     }
     gst_plugin_feature_list_free(factories);
+    // The kernel's cameras first: where a server lists the same camera too, the order of the list must not
+    // depend on which of the two was quicker.
+    std::stable_partition(m_providers.begin(), m_providers.end(),
+                          [](const auto &provider) { return !isNotKernels(*provider); });
 }
 
 // Looking for sound cards opens each, which takes it from a sound server that is just opening it.
@@ -197,14 +175,16 @@ std::vector<CaptureDevice> DeviceWatch::microphones() const
     return listed(microphoneClass);
 }
 
-void DeviceWatch::awaitCameras()
+std::vector<CaptureDevice> DeviceWatch::awaitCameras()
 {
     awaitFirstListing(cameraClass);
+    return cameras();
 }
 
-void DeviceWatch::awaitMicrophones()
+std::vector<CaptureDevice> DeviceWatch::awaitMicrophones()
 {
     awaitFirstListing(microphoneClass);
+    return microphones();
 }
 
 void DeviceWatch::awaitFirstListing(const char *deviceClass)
@@ -256,8 +236,7 @@ void DeviceWatch::watchFolders()
     m_settling.setSingleShot(true);
     m_settling.setInterval(settlingTime);
     connect(&m_settling, &QTimer::timeout, this, &DeviceWatch::lookAtFolders);
-    const auto settle = [this] { m_settling.start(); };
-    connect(&m_folders, &QFileSystemWatcher::directoryChanged, this, settle);
+    connect(&m_folders, &QFileSystemWatcher::directoryChanged, &m_settling, qOverload<>(&QTimer::start));
     connect(
         this, &DeviceWatch::changed, this,
         [this] {

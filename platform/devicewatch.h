@@ -38,11 +38,11 @@ public:
     // Every microphone that is there, as each provider lists it. Waits for nothing. From any thread.
     std::vector<CaptureDevice> microphones() const;
 
-    // Waits, with timers and signals going on, while the first listing of cameras or of microphones is under
-    // way: up to a second and a half from the start of the watching, later not at all. What is listed after
-    // that leads to changed().
-    void awaitCameras();
-    void awaitMicrophones();
+    // The same once they are listed for the first time, which is waited for with timers and signals going on:
+    // up to a second and a half from the start of the watching, later not at all. What is listed after that
+    // leads to changed().
+    std::vector<CaptureDevice> awaitCameras();
+    std::vector<CaptureDevice> awaitMicrophones();
 
     // Has a camera whose opening hangs count as not there until that thread ends.
     void setAside(const CaptureDevice &camera, QThread *opening);

@@ -95,18 +95,12 @@ bool LiveVideoData::followDevices()
 
 std::vector<CaptureDevice> LiveVideoData::awaitCameras()
 {
-    if (!followDevices())
-        return {};
-    DeviceWatch::instance().awaitCameras();
-    return DeviceWatch::instance().cameras();
+    return followDevices() ? DeviceWatch::instance().awaitCameras() : std::vector<CaptureDevice>();
 }
 
 std::vector<CaptureDevice> LiveVideoData::awaitMicrophones()
 {
-    if (!followDevices())
-        return {};
-    DeviceWatch::instance().awaitMicrophones();
-    return DeviceWatch::instance().microphones();
+    return followDevices() ? DeviceWatch::instance().awaitMicrophones() : std::vector<CaptureDevice>();
 }
 
 void LiveVideoData::Create()

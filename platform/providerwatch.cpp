@@ -38,11 +38,10 @@ auto isDevice(GstDevice *device)
 
 } // namespace
 
-ProviderWatch::ProviderWatch(ProviderHandle provider, GstDeviceProviderFactory *factory,
-                             std::function<bool()> mayRun, std::function<void()> changed)
+ProviderWatch::ProviderWatch(ProviderHandle provider, std::function<bool(const ProviderWatch &)> mayRun,
+                             std::function<void()> changed)
     : m_provider(std::move(provider)), m_bus(gst_device_provider_get_bus(m_provider.get())),
-      m_factory(GST_DEVICE_PROVIDER_FACTORY(gst_object_ref(factory))), m_mayRun(std::move(mayRun)),
-      m_changed(std::move(changed))
+      m_mayRun(std::move(mayRun)), m_changed(std::move(changed))
 {
 }
 
@@ -57,19 +56,16 @@ void ProviderWatch::restart()
     gst_bus_post(m_bus.get(), gst_message_new_application(nullptr, gst_structure_new_empty(restartCommand)));
 }
 
-bool ProviderWatch::announcesChanges() const
-{
-    return GST_DEVICE_PROVIDER_GET_CLASS(m_provider.get())->start != nullptr;
-}
-
 QString ProviderWatch::name() const
 {
-    return QString::fromLatin1(gst_plugin_feature_get_name(m_factory.get()));
+    return QString::fromLatin1(
+        gst_plugin_feature_get_name(gst_device_provider_get_factory(m_provider.get())));
 }
 
 bool ProviderWatch::lists(const char *deviceClass) const
 {
-    return gst_device_provider_factory_has_classes(m_factory.get(), deviceClass);
+    return gst_device_provider_factory_has_classes(gst_device_provider_get_factory(m_provider.get()),
+                                                   deviceClass);
 }
 
 std::vector<CaptureDevice> ProviderWatch::devices(const char *deviceClass) const
@@ -110,7 +106,7 @@ bool ProviderWatch::startProvider()
     // What an earlier start announced is not to be heard any more.
     gst_bus_set_flushing(m_bus.get(), TRUE);
     gst_bus_set_flushing(m_bus.get(), FALSE);
-    m_isRunning = m_mayRun() && gst_device_provider_start(m_provider.get());
+    m_isRunning = m_mayRun(*this) && gst_device_provider_start(m_provider.get());
     return m_isRunning;
 }
 
@@ -120,9 +116,9 @@ void ProviderWatch::listAll()
     std::vector<CaptureDevice> listed;
     GList *devices = gst_device_provider_get_devices(m_provider.get());
     for (GList *link = devices; link; link = link->next)
-        listed.push_back(describe(GST_DEVICE(link->data)));
+        listed.push_back(describeDevice(GST_DEVICE(link->data), name()));
     g_list_free_full(devices, gst_object_unref);
-    if (!announcesChanges())
+    if (!gst_device_provider_can_monitor(m_provider.get()))
         keepPresent(m_listed, &listed);
     setListed(std::move(listed));
 }
@@ -193,14 +189,9 @@ void ProviderWatch::react(GstMessage *message)
     m_changed();
 }
 
-CaptureDevice ProviderWatch::describe(GstDevice *device) const
-{
-    return describeDevice(device, name());
-}
-
 void ProviderWatch::add(GstDevice *device)
 {
-    const CaptureDevice described = describe(device);
+    const CaptureDevice described = describeDevice(device, name());
     const std::lock_guard<std::mutex> lock(m_mutex);
     // The first listing can come once more as announcements.
     if (std::none_of(m_listed.begin(), m_listed.end(), isDevice(device)))
@@ -215,7 +206,7 @@ void ProviderWatch::remove(GstDevice *device)
 
 void ProviderWatch::replace(GstDevice *device, GstDevice *replaced)
 {
-    const CaptureDevice described = describe(device);
+    const CaptureDevice described = describeDevice(device, name());
     const std::lock_guard<std::mutex> lock(m_mutex);
     std::replace_if(m_listed.begin(), m_listed.end(), isDevice(replaced), described);
 }

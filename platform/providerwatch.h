@@ -16,8 +16,7 @@ class ProviderWatch
 public:
     // `mayRun` is asked, in the watching thread, before the provider is started; it may take its time.
     // `changed` is called from the watching thread after each change of the list.
-    // The factory, which made the provider, is borrowed.
-    ProviderWatch(ProviderHandle provider, GstDeviceProviderFactory *factory, std::function<bool()> mayRun,
+    ProviderWatch(ProviderHandle provider, std::function<bool(const ProviderWatch &)> mayRun,
                   std::function<void()> changed);
 
     // Starts the thread. This object must live as long as the process. A provider that does not start is
@@ -26,8 +25,6 @@ public:
     // Has the provider started afresh: it may not have noticed that its server ended, or it announces nothing
     // by itself. What is listed stays until it has listed again.
     void restart();
-    // Whether the provider tells of changes by itself.
-    bool announcesChanges() const;
     // Whether it is started.
     bool isRunning() const { return m_isRunning; }
 
@@ -48,7 +45,6 @@ private:
     void listAll();
     void setListed(std::vector<CaptureDevice> listed);
     void pause(std::chrono::seconds length);
-    CaptureDevice describe(GstDevice *device) const;
     void follow();
     static bool isRestart(GstMessage *message);
     void react(GstMessage *message);
@@ -58,8 +54,7 @@ private:
 
     const ProviderHandle m_provider;
     const BusHandle m_bus;
-    const std::unique_ptr<GstDeviceProviderFactory, GstObjectRelease> m_factory;
-    const std::function<bool()> m_mayRun;
+    const std::function<bool(const ProviderWatch &)> m_mayRun;
     const std::function<void()> m_changed;
 
     std::atomic<bool> m_isRunning{false};
