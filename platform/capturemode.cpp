@@ -30,12 +30,6 @@ const char *const rawFormats[] = {"I420", "YV12", "NV12", "NV21", "YUY2", "UYVY"
                                   "NV16", "NV61", "Y42B", "Y444", "BGRx", "RGBx", "xRGB", "xBGR",
                                   "BGRA", "RGBA", "ARGB", "ABGR", "BGR",  "RGB"};
 
-struct Rate {
-    int numerator = 0;
-    int denominator = 1;
-    double value() const { return double(numerator) / denominator; }
-};
-
 int rawFormatCost(const QString &format)
 {
     const auto found = std::find(std::begin(rawFormats), std::end(rawFormats), format);
@@ -111,18 +105,18 @@ std::vector<QSize> sizesOf(const GstStructure *structure)
 }
 
 // The rate of a range that comes nearest to the wanted one without falling below what is smooth.
-Rate rateOfRange(const GValue *range)
+FrameRate rateOfRange(const GValue *range)
 {
     const GValue *low = gst_value_get_fraction_range_min(range);
     const GValue *high = gst_value_get_fraction_range_max(range);
-    const Rate slowest{gst_value_get_fraction_numerator(low), gst_value_get_fraction_denominator(low)};
-    const Rate fastest{gst_value_get_fraction_numerator(high), gst_value_get_fraction_denominator(high)};
+    const FrameRate slowest{gst_value_get_fraction_numerator(low), gst_value_get_fraction_denominator(low)};
+    const FrameRate fastest{gst_value_get_fraction_numerator(high), gst_value_get_fraction_denominator(high)};
     if (fastest.value() < wantedRate)
         return fastest;
-    return slowest.value() > wantedRate ? slowest : Rate{int(wantedRate), 1};
+    return slowest.value() > wantedRate ? slowest : FrameRate{int(wantedRate), 1};
 }
 
-bool suitsBetter(const Rate &a, const Rate &b)
+bool suitsBetter(const FrameRate &a, const FrameRate &b)
 {
     const bool aReaches = a.value() >= wantedRate - rateTolerance;
     const bool bReaches = b.value() >= wantedRate - rateTolerance;
@@ -131,14 +125,14 @@ bool suitsBetter(const Rate &a, const Rate &b)
     return aReaches ? a.value() < b.value() : a.value() > b.value();
 }
 
-Rate suitedRate(const GstStructure *structure)
+FrameRate suitedRate(const GstStructure *structure)
 {
-    Rate best;
+    FrameRate best;
     const GValue *value = gst_structure_get_value(structure, "framerate");
     if (!value)
         return best;
     forEachValue(value, [&](const GValue *one) {
-        Rate rate;
+        FrameRate rate;
         if (GST_VALUE_HOLDS_FRACTION(one))
             rate = {gst_value_get_fraction_numerator(one), gst_value_get_fraction_denominator(one)};
         else if (GST_VALUE_HOLDS_FRACTION_RANGE(one))
@@ -184,7 +178,7 @@ bool describeCoding(const GstStructure *structure, CaptureMode *mode)
 
 bool isSmooth(const CaptureMode &mode)
 {
-    return mode.framesPerSecond() >= smoothRate - rateTolerance;
+    return mode.rate.value() >= smoothRate - rateTolerance;
 }
 
 qint64 area(const QSize &size)
@@ -195,7 +189,7 @@ qint64 area(const QSize &size)
 // Whether two rates give the same movement to the eye; what differs by less is decided by the coding.
 bool sameRate(const CaptureMode &a, const CaptureMode &b)
 {
-    return std::abs(a.framesPerSecond() - b.framesPerSecond()) < 1.0;
+    return std::abs(a.rate.value() - b.rate.value()) < 1.0;
 }
 
 bool betterAtOneSize(const CaptureMode &a, const CaptureMode &b)
@@ -203,7 +197,7 @@ bool betterAtOneSize(const CaptureMode &a, const CaptureMode &b)
     if (isSmooth(a) != isSmooth(b))
         return isSmooth(a);
     if (!sameRate(a, b))
-        return suitsBetter({a.rateNumerator, a.rateDenominator}, {b.rateNumerator, b.rateDenominator});
+        return suitsBetter(a.rate, b.rate);
     if (a.coding != b.coding)
         return a.coding < b.coding;
     return rawFormatCost(a.rawFormat) < rawFormatCost(b.rawFormat);
@@ -211,8 +205,8 @@ bool betterAtOneSize(const CaptureMode &a, const CaptureMode &b)
 
 bool isReadable(const CaptureMode &mode)
 {
-    return mode.framesPerSecond() >= readableRate - rateTolerance &&
-           mode.size.width() >= readableSize.width() && mode.size.height() >= readableSize.height();
+    return mode.rate.value() >= readableRate - rateTolerance && mode.size.width() >= readableSize.width() &&
+           mode.size.height() >= readableSize.height();
 }
 
 bool betterNative(const CaptureMode &a, const CaptureMode &b)
@@ -234,9 +228,7 @@ std::vector<CaptureMode> captureModes(const GstCaps *caps)
         CaptureMode mode;
         if (!inSystemMemory(caps, i) || !describeCoding(structure, &mode))
             continue;
-        const Rate rate = suitedRate(structure);
-        mode.rateNumerator = rate.numerator;
-        mode.rateDenominator = rate.denominator;
+        mode.rate = suitedRate(structure);
         for (const QSize &size : sizesOf(structure)) {
             mode.size = size;
             modes.push_back(mode);
@@ -291,8 +283,8 @@ CapsHandle fixedCaps(const CaptureMode &mode)
         gst_caps_set_simple(caps.get(), "format", G_TYPE_STRING, mode.rawFormat.toLatin1().constData(),
                             nullptr);
     // A camera that names no rate has a single one.
-    if (mode.rateNumerator > 0)
-        gst_caps_set_simple(caps.get(), "framerate", GST_TYPE_FRACTION, mode.rateNumerator,
-                            mode.rateDenominator, nullptr);
+    if (mode.rate.numerator > 0)
+        gst_caps_set_simple(caps.get(), "framerate", GST_TYPE_FRACTION, mode.rate.numerator,
+                            mode.rate.denominator, nullptr);
     return caps;
 }

@@ -8,6 +8,14 @@
 
 #include <vector>
 
+// Frames a second; none when a camera does not tell.
+struct FrameRate {
+    int numerator = 0;
+    int denominator = 1;
+
+    double value() const { return double(numerator) / denominator; }
+};
+
 // One way in which a camera can deliver its picture.
 struct CaptureMode {
     enum class Coding { Raw, Jpeg, H264 };
@@ -15,10 +23,8 @@ struct CaptureMode {
     Coding coding = Coding::Raw;
     QString rawFormat; // GStreamer's name of the pixel format; empty unless raw
     QSize size;        // pixels
-    int rateNumerator = 0;
-    int rateDenominator = 1;
+    FrameRate rate;
 
-    double framesPerSecond() const { return double(rateNumerator) / rateDenominator; }
     bool isValid() const { return !size.isEmpty(); }
 };
 

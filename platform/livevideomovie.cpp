@@ -63,8 +63,8 @@ void LiveVideoData::startMovie(const QString &path)
     MovieSettings settings;
     settings.path = path;
     settings.picture = MoviePictures::infoOf(m_framing.shownSize(atPress->size()));
-    if (m_mode.rateNumerator > 0)
-        settings.framesPerSecond = qMax(1, qRound(m_mode.framesPerSecond()));
+    if (m_mode.rate.numerator > 0)
+        settings.framesPerSecond = qMax(1, qRound(m_mode.rate.value()));
     settings.microphone = *microphone;
     const auto movie = std::make_shared<MovieRecorder>(settings);
     m_startingMovie = movie;
