@@ -7,19 +7,19 @@ void CameraMemory::choose(const CaptureDevice &camera)
     m_chosen = camera;
 }
 
-const CaptureDevice *CameraMemory::pick(const std::vector<CaptureDevice> &listed)
+CaptureDevice CameraMemory::pick(const std::vector<CaptureDevice> &listed)
 {
-    const CaptureDevice *picked = again(listed, m_chosen);
-    if (picked)
-        m_chosen = *picked; // listed anew it is another device of GStreamer's
+    CaptureDevice picked = again(listed, m_chosen);
+    if (picked.device)
+        m_chosen = picked; // listed anew it is another device of GStreamer's
     else
         picked = again(listed, m_last);
-    if (!picked && !listed.empty())
-        picked = &listed.front();
+    if (!picked.device && !listed.empty())
+        picked = listed.front();
     m_beside.clear();
     m_gone.reset();
-    if (picked)
-        m_last = *picked;
+    if (picked.device)
+        m_last = picked;
     return picked;
 }
 
@@ -52,28 +52,24 @@ bool CameraMemory::canReopen(const std::vector<CaptureDevice> &listed) const
     // A stream mostly knows of its camera's going before the list does.
     std::copy_if(listed.begin(), listed.end(), std::back_inserter(cameras),
                  [this](const CaptureDevice &camera) { return camera.device != m_gone; });
-    return again(cameras, m_chosen) || again(cameras, m_last) ||
+    return again(cameras, m_chosen).device || again(cameras, m_last).device ||
            std::any_of(cameras.begin(), cameras.end(),
                        [this](const CaptureDevice &camera) { return !wasBeside(camera); });
 }
 
 // Two cameras of one make are told apart by their sockets only, and the lost one may come back in another
 // socket: what was there beside it is not it.
-const CaptureDevice *CameraMemory::again(const std::vector<CaptureDevice> &listed,
-                                         const CaptureDevice &camera) const
+CaptureDevice CameraMemory::again(const std::vector<CaptureDevice> &listed, const CaptureDevice &camera) const
 {
     if (!camera.device)
-        return nullptr;
+        return {};
     std::vector<CaptureDevice> possible;
     for (const CaptureDevice &other : listed) {
         if (camera.device != m_last.device || !wasBeside(other))
             possible.push_back(other);
     }
     const CaptureDevice *found = findAgain(possible, camera);
-    if (!found)
-        return nullptr;
-    return &*std::find_if(listed.begin(), listed.end(),
-                          [found](const CaptureDevice &other) { return other.device == found->device; });
+    return found ? *found : CaptureDevice();
 }
 
 bool CameraMemory::wasBeside(const CaptureDevice &camera) const

@@ -15,8 +15,8 @@ public:
     void choose(const CaptureDevice &camera);
 
     // Which of the cameras that are there to open: the chosen one, else the one that was open last, else the
-    // first. Null when there is none. What it answers becomes the one that was open last.
-    const CaptureDevice *pick(const std::vector<CaptureDevice> &listed);
+    // first. One without a device when there is none. What it answers becomes the one that was open last.
+    CaptureDevice pick(const std::vector<CaptureDevice> &listed);
 
     // These are listed now: what a provider that was started afresh lists anew is known to be the same.
     void follow(const std::vector<CaptureDevice> &listed);
@@ -29,7 +29,7 @@ public:
     bool canReopen(const std::vector<CaptureDevice> &listed) const;
 
 private:
-    const CaptureDevice *again(const std::vector<CaptureDevice> &listed, const CaptureDevice &camera) const;
+    CaptureDevice again(const std::vector<CaptureDevice> &listed, const CaptureDevice &camera) const;
     bool wasBeside(const CaptureDevice &camera) const;
 
     CaptureDevice m_chosen;              // without a device before a choice

@@ -129,13 +129,13 @@ void LiveVideoData::Create()
 
 bool LiveVideoData::chooseCamera(const std::vector<CaptureDevice> &listed)
 {
-    const CaptureDevice *camera = m_memory.pick(listed);
-    if (!camera)
+    const CaptureDevice camera = m_memory.pick(listed);
+    if (!camera.device)
         return false;
     // A camera that still hangs must not keep another one waiting.
-    if (camera->device != m_camera.device)
+    if (camera.device != m_camera.device)
         m_cameraInUse = std::make_shared<std::timed_mutex>();
-    m_camera = *camera;
+    m_camera = camera;
     m_modes = modesOf(m_camera);
     m_mode = nativeMode(m_modes);
     return m_mode.isValid();
