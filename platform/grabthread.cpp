@@ -60,12 +60,15 @@ QImage GrabThread::picture() const
     return m_image;
 }
 
-CameraFault GrabThread::overdue() const
+CameraFailure GrabThread::overdue() const
 {
     const auto silent = std::chrono::steady_clock::now() - m_lastSignOfLife.load();
-    if (!m_isLive)
-        return silent > openingLimit ? CameraFault::NotAnswering : CameraFault::None;
-    return silent > silenceLimit ? CameraFault::Silent : CameraFault::None;
+    if (!m_isLive && silent > openingLimit)
+        return {CameraFault::NotAnswering,
+                QStringLiteral("It has given no picture within fifteen seconds of being opened.")};
+    if (m_isLive && silent > silenceLimit)
+        return {CameraFault::Silent, QStringLiteral("It has given no picture for three seconds.")};
+    return {};
 }
 
 CameraFailure GrabThread::failure() const

@@ -55,8 +55,8 @@ public:
     // Whether the camera has not answered to being opened yet.
     bool isOpening() const { return m_isOpening; }
     // Whether the camera has used up its time: NotAnswering without a first frame fifteen seconds after the
-    // start, Silent without a further one for three; else None.
-    CameraFault overdue() const;
+    // start, Silent without a further one for three; else without a fault.
+    CameraFailure overdue() const;
     // Why the camera could not be opened or broke off; once deviceerr() was emitted.
     CameraFailure failure() const;
 

@@ -314,11 +314,9 @@ bool LiveVideoData::isListed() const
 // Runs for as long as the camera is open: a silent camera, or a movie that cannot go on, tells nobody.
 void LiveVideoData::watch()
 {
-    const CameraFault overdue = m_grabThread ? m_grabThread->overdue() : CameraFault::None;
-    if (overdue == CameraFault::Silent)
-        lose({overdue, QStringLiteral("It has given no picture for three seconds.")});
-    else if (overdue == CameraFault::NotAnswering)
-        lose({overdue, QStringLiteral("It has given no picture within fifteen seconds of being opened.")});
+    const CameraFailure overdue = m_grabThread ? m_grabThread->overdue() : CameraFailure();
+    if (overdue.fault != CameraFault::None)
+        lose(overdue);
     else
         RecordMovie();
 }
