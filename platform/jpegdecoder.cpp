@@ -1,5 +1,7 @@
 #include "platform/jpegdecoder.h"
 
+#include "platform/largepixels.h"
+
 #include <array>
 #include <cstdio>
 #include <cstring>
@@ -182,12 +184,6 @@ GstVideoColorimetry jpegColours()
 
 } // namespace
 
-QSize JpegDecoder::sizeOf(GstBuffer *jpeg, const QSize &announced)
-{
-    Reading reading(jpeg);
-    return reading.readHeader() && isCredible(reading.size(), announced) ? reading.size() : QSize();
-}
-
 std::optional<PicturePlanes> JpegDecoder::decode(GstBuffer *jpeg, const QSize &announced, int denominator,
                                                  PlaneMemory *memory)
 {
@@ -209,13 +205,17 @@ std::optional<PicturePlanes> JpegDecoder::decode(GstBuffer *jpeg, const QSize &a
     return planes;
 }
 
-bool JpegDecoder::decodeRgb(GstBuffer *jpeg, QImage *image)
+QImage JpegDecoder::decodeRgb(GstBuffer *jpeg, const QSize &announced, bool *isWhole)
 {
+    *isWhole = false;
     Reading reading(jpeg);
-    if (!reading.readHeader() || reading.size() != image->size())
-        return false;
-    uchar *pixels = image->bits();
-    const auto stride = image->bytesPerLine();
+    if (!reading.readHeader() || !isCredible(reading.size(), announced))
+        return {};
+    QImage image = largeImage(reading.size());
+    if (image.isNull())
+        return image;
+    uchar *pixels = image.bits();
+    const auto stride = image.bytesPerLine();
     const bool isThrough = reading.attempt([=](jpeg_decompress_struct *info) {
         info->out_color_space = JCS_RGB;
         jpeg_start_decompress(info);
@@ -226,7 +226,8 @@ bool JpegDecoder::decodeRgb(GstBuffer *jpeg, QImage *image)
         jpeg_finish_decompress(info);
     });
     // Nothing else has written to the memory of rows that did not come.
-    for (int y = int(reading.jpeg().output_scanline); !isThrough && y < image->height(); ++y)
+    for (int y = int(reading.jpeg().output_scanline); !isThrough && y < image.height(); ++y)
         memset(pixels + ptrdiff_t(y) * stride, 0, size_t(stride));
-    return isThrough && reading.isWhole();
+    *isWhole = isThrough && reading.isWhole();
+    return image;
 }

@@ -4,8 +4,8 @@
 #include "platform/frameconverter.h"
 #include "platform/frameplanes.h"
 #include "platform/jpegdecoder.h"
+#include "platform/largepixels.h"
 #include "platform/planecolours.h"
-#include "util/files/largebytes.h"
 #include "util/files/photofile.h"
 
 #include <QFile>
@@ -16,20 +16,6 @@
 
 namespace
 {
-
-// An RGB image in memory that comes fast; null when there is none.
-QImage largeImage(const QSize &size)
-{
-    const int stride = (size.width() * 3 + 3) & ~3;
-    auto *pixels = new LargeBytes(size_t(stride) * size_t(size.height()));
-    if (pixels->size() == 0) {
-        delete pixels;
-        return {};
-    }
-    return QImage(
-        pixels->data(), size.width(), size.height(), stride, QImage::Format_RGB888,
-        [](void *memory) { delete static_cast<LargeBytes *>(memory); }, pixels);
-}
 
 BufferHandle wrapImage(QImage *image)
 {
@@ -42,17 +28,6 @@ struct RgbPicture {
     bool isWhole = false;
 };
 
-RgbPicture decoded(const CapturedFrame &frame)
-{
-    RgbPicture picture;
-    const QSize size = JpegDecoder::sizeOf(frame.picture.get(), frame.size());
-    if (size.isEmpty())
-        return picture;
-    picture.image = largeImage(size);
-    picture.isWhole = !picture.image.isNull() && JpegDecoder::decodeRgb(frame.picture.get(), &picture.image);
-    return picture;
-}
-
 // The part of a raw picture, at its own size or, with GStreamer's best scaling, at another.
 bool convert(const GstVideoInfo &info, GstBuffer *buffer, const QRect &part, QImage *image)
 {
@@ -63,10 +38,13 @@ bool convert(const GstVideoInfo &info, GstBuffer *buffer, const QRect &part, QIm
 
 RgbPicture rgbPicture(const FramePtr &frame)
 {
-    if (frame->isJpeg())
-        return decoded(*frame);
+    RgbPicture picture;
+    if (frame->isJpeg()) {
+        picture.image = JpegDecoder::decodeRgb(frame->picture.get(), frame->size(), &picture.isWhole);
+        return picture;
+    }
     const QRect whole(QPoint(0, 0), frame->size());
-    RgbPicture picture{largeImage(whole.size()), !frame->isDamaged};
+    picture = {largeImage(whole.size()), !frame->isDamaged};
     if (picture.image.isNull())
         return {};
     FramePlanes planes;

@@ -62,13 +62,10 @@ void write(const QString &path, const QByteArray &bytes)
     static PlaneMemory memory;
     const QSize announced(640, 480);
     GstBuffer *frame = gst_buffer_new_memdup(bytes.constData(), gsize(bytes.size()));
-    const QSize size = JpegDecoder::sizeOf(frame, announced);
     for (const int denominator : {1, 2, 4, 8})
         JpegDecoder::decode(frame, announced, denominator, &memory);
-    if (!size.isEmpty()) {
-        QImage image(size, QImage::Format_RGB888);
-        JpegDecoder::decodeRgb(frame, &image);
-    }
+    bool isWhole = false;
+    JpegDecoder::decodeRgb(frame, announced, &isWhole);
     gst_buffer_unref(frame);
 }
 
