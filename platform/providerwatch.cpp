@@ -31,11 +31,6 @@ void keepPresent(const std::vector<CaptureDevice> &old, std::vector<CaptureDevic
     }
 }
 
-auto isDevice(GstDevice *device)
-{
-    return [device](const CaptureDevice &listed) { return listed.device.get() == device; };
-}
-
 } // namespace
 
 ProviderWatch::ProviderWatch(ProviderHandle provider, std::function<bool(const ProviderWatch &)> mayRun,
@@ -110,13 +105,22 @@ bool ProviderWatch::startProvider()
     return m_isRunning;
 }
 
+// Only a new one is looked at: when others go, the process may be at its end, and with it what reads names.
+CaptureDevice ProviderWatch::described(GstDevice *device) const
+{
+    const auto known = std::find_if(m_listed.begin(), m_listed.end(), [device](const CaptureDevice &listed) {
+        return listed.device.get() == device;
+    });
+    return known != m_listed.end() ? *known : describeDevice(device, name());
+}
+
 // Devices that are only in use are not found anew by some providers, so those whose node is there stay.
 void ProviderWatch::listAll()
 {
     std::vector<CaptureDevice> listed;
     GList *devices = gst_device_provider_get_devices(m_provider.get());
     for (GList *link = devices; link; link = link->next)
-        listed.push_back(describeDevice(GST_DEVICE(link->data), name()));
+        listed.push_back(described(GST_DEVICE(link->data)));
     g_list_free_full(devices, gst_object_unref);
     if (!gst_device_provider_can_monitor(m_provider.get()))
         keepPresent(m_listed, &listed);
@@ -150,63 +154,14 @@ bool ProviderWatch::isRestart(GstMessage *message)
     return gst_message_has_name(message, restartCommand);
 }
 
-// Until it is to be started afresh.
+// Until it is to be started afresh. Whatever it tells, a device has come, gone or changed: so a sound server
+// tells of the new default microphone, and of the one that it no longer is.
 void ProviderWatch::follow()
 {
     for (;;) {
         const MessageHandle message(gst_bus_timed_pop(m_bus.get(), GST_CLOCK_TIME_NONE));
-        if (!message)
-            continue;
-        if (isRestart(message.get()))
+        if (message && isRestart(message.get()))
             return;
-        react(message.get());
+        listAll();
     }
-}
-
-void ProviderWatch::react(GstMessage *message)
-{
-    GstDevice *device = nullptr;
-    GstDevice *replaced = nullptr;
-    switch (GST_MESSAGE_TYPE(message)) {
-    case GST_MESSAGE_DEVICE_ADDED:
-        gst_message_parse_device_added(message, &device);
-        add(device);
-        break;
-    case GST_MESSAGE_DEVICE_REMOVED:
-        gst_message_parse_device_removed(message, &device);
-        remove(device);
-        break;
-    case GST_MESSAGE_DEVICE_CHANGED:
-        // So a sound server tells of the new default microphone, and of the one that it no longer is.
-        gst_message_parse_device_changed(message, &device, &replaced);
-        replace(device, replaced);
-        gst_object_unref(replaced);
-        break;
-    default:
-        return;
-    }
-    gst_object_unref(device);
-    m_changed();
-}
-
-void ProviderWatch::add(GstDevice *device)
-{
-    const CaptureDevice described = describeDevice(device, name());
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    // The first listing can come once more as announcements.
-    if (std::none_of(m_listed.begin(), m_listed.end(), isDevice(device)))
-        m_listed.push_back(described);
-}
-
-void ProviderWatch::remove(GstDevice *device)
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    m_listed.erase(std::remove_if(m_listed.begin(), m_listed.end(), isDevice(device)), m_listed.end());
-}
-
-void ProviderWatch::replace(GstDevice *device, GstDevice *replaced)
-{
-    const CaptureDevice described = describeDevice(device, name());
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    std::replace_if(m_listed.begin(), m_listed.end(), isDevice(replaced), described);
 }

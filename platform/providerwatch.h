@@ -42,15 +42,12 @@ public:
 private:
     void run();
     bool startProvider();
+    CaptureDevice described(GstDevice *device) const;
     void listAll();
     void setListed(std::vector<CaptureDevice> listed);
     void pause(std::chrono::seconds length);
     void follow();
     static bool isRestart(GstMessage *message);
-    void react(GstMessage *message);
-    void add(GstDevice *device);
-    void remove(GstDevice *device);
-    void replace(GstDevice *device, GstDevice *replaced);
 
     const ProviderHandle m_provider;
     const BusHandle m_bus;
