@@ -36,8 +36,11 @@ int rawFormatCost(const QString &format)
     return int(found - std::begin(rawFormats));
 }
 
+// Nothing for what is not told.
 template<typename Visit> void forEachValue(const GValue *value, Visit visit)
 {
+    if (!value)
+        return;
     if (GST_VALUE_HOLDS_LIST(value)) {
         for (guint i = 0; i < gst_value_list_get_size(value); ++i)
             forEachValue(gst_value_list_get_value(value, i), visit);
@@ -47,18 +50,6 @@ template<typename Visit> void forEachValue(const GValue *value, Visit visit)
     } else {
         visit(value);
     }
-}
-
-QStringList stringsOf(const GstStructure *structure, const char *field)
-{
-    QStringList strings;
-    if (const GValue *value = gst_structure_get_value(structure, field)) {
-        forEachValue(value, [&](const GValue *one) {
-            if (G_VALUE_HOLDS_STRING(one))
-                strings << QString::fromLatin1(g_value_get_string(one));
-        });
-    }
-    return strings;
 }
 
 struct IntRange {
@@ -71,15 +62,13 @@ struct IntRange {
 std::vector<IntRange> intRanges(const GstStructure *structure, const char *field)
 {
     std::vector<IntRange> ranges;
-    if (const GValue *value = gst_structure_get_value(structure, field)) {
-        forEachValue(value, [&](const GValue *one) {
-            if (G_VALUE_HOLDS_INT(one))
-                ranges.push_back({g_value_get_int(one), g_value_get_int(one), 1});
-            else if (GST_VALUE_HOLDS_INT_RANGE(one))
-                ranges.push_back({gst_value_get_int_range_min(one), gst_value_get_int_range_max(one),
-                                  std::max(1, gst_value_get_int_range_step(one))});
-        });
-    }
+    forEachValue(gst_structure_get_value(structure, field), [&](const GValue *one) {
+        if (G_VALUE_HOLDS_INT(one))
+            ranges.push_back({g_value_get_int(one), g_value_get_int(one), 1});
+        else if (GST_VALUE_HOLDS_INT_RANGE(one))
+            ranges.push_back({gst_value_get_int_range_min(one), gst_value_get_int_range_max(one),
+                              std::max(1, gst_value_get_int_range_step(one))});
+    });
     return ranges;
 }
 
@@ -128,10 +117,7 @@ bool suitsBetter(const FrameRate &a, const FrameRate &b)
 FrameRate suitedRate(const GstStructure *structure)
 {
     FrameRate best;
-    const GValue *value = gst_structure_get_value(structure, "framerate");
-    if (!value)
-        return best;
-    forEachValue(value, [&](const GValue *one) {
+    forEachValue(gst_structure_get_value(structure, "framerate"), [&](const GValue *one) {
         FrameRate rate;
         if (GST_VALUE_HOLDS_FRACTION(one))
             rate = {gst_value_get_fraction_numerator(one), gst_value_get_fraction_denominator(one)};
@@ -147,11 +133,13 @@ FrameRate suitedRate(const GstStructure *structure)
 QString usableRawFormat(const GstStructure *structure)
 {
     QString best;
-    for (const QString &format : stringsOf(structure, "format")) {
-        const int cost = rawFormatCost(format);
-        if (cost < int(std::size(rawFormats)) && (best.isEmpty() || cost < rawFormatCost(best)))
+    forEachValue(gst_structure_get_value(structure, "format"), [&](const GValue *one) {
+        if (!G_VALUE_HOLDS_STRING(one))
+            return;
+        const QString format = QString::fromLatin1(g_value_get_string(one));
+        if (rawFormatCost(format) < rawFormatCost(best))
             best = format;
-    }
+    });
     return best;
 }
 
