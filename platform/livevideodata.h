@@ -15,7 +15,6 @@
 
 #include <memory>
 #include <mutex>
-#include <set>
 #include <vector>
 
 class MovieRecorder;
@@ -185,7 +184,6 @@ private:
     void finishMovies();
     bool awaitMicrophone();
     void lookAtMovieFiles();
-    void tellBrokenFiles();
 
     // Photos: livevideostill.cpp
     PhotoFault savePhoto(const QString &path);
@@ -213,8 +211,7 @@ private:
     std::shared_ptr<MovieRecorder> m_movie;
     std::shared_ptr<MovieRecorder> m_startingMovie; // while Record() waits for it
     std::vector<std::shared_ptr<MovieRecorder>> m_unfinished;
-    std::set<std::shared_ptr<MovieRecorder>> m_toldBroken; // of the unfinished ones
-    QTimer m_fileWatch;                                    // runs while there are unfinished ones
+    QTimer m_fileWatch;                          // runs while there are unfinished ones
     std::shared_ptr<GstDevice> m_deafMicrophone; // that the last movie could not open; null when it could
     bool m_lacksPicture = false;
     bool m_isRecordCalled = false;

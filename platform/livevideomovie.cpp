@@ -155,27 +155,22 @@ void LiveVideoData::tellMovieEnd(const std::shared_ptr<MovieRecorder> &movie, Mo
 
 void LiveVideoData::lookAtMovieFiles()
 {
-    const bool hadUnfinished = !m_unfinished.empty();
-    tellBrokenFiles();
-    m_unfinished.erase(std::remove_if(m_unfinished.begin(), m_unfinished.end(),
-                                      [](const auto &movie) { return movie->isFinished(); }),
-                       m_unfinished.end());
-    if (!hadUnfinished || !m_unfinished.empty())
+    if (m_unfinished.empty())
+        return;
+    const auto finished = std::stable_partition(m_unfinished.begin(), m_unfinished.end(),
+                                                [](const auto &movie) { return !movie->isFinished(); });
+    // Of the others too: a disk that hangs may let none of them end.
+    auto broken = std::count_if(m_unfinished.begin(), m_unfinished.end(),
+                                [](const auto &movie) { return movie->takeBreak(); });
+    m_unfinished.erase(finished, m_unfinished.end());
+    const QPointer<LiveVideoData> self(this);
+    for (; self && m_listener && broken > 0; --broken)
+        m_listener->movieFileIsBroken();
+    if (!self || !m_unfinished.empty())
         return;
     m_fileWatch.stop();
-    m_toldBroken.clear();
     if (m_listener)
         m_listener->movieFilesAreFinished();
-}
-
-// At once: a disk that hangs may let none of them end.
-void LiveVideoData::tellBrokenFiles()
-{
-    for (const auto &movie : m_unfinished) {
-        const bool isNews = movie->fileFault() != MovieEnd::None && m_toldBroken.insert(movie).second;
-        if (isNews && m_listener)
-            m_listener->movieFileIsBroken();
-    }
 }
 
 bool LiveVideoData::isFinishingMovie()

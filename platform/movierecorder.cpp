@@ -145,7 +145,7 @@ void MovieRecorder::fail(MovieEnd why, const QString &line)
             return;
         m_end = why;
         if (m_state == State::Finishing)
-            m_fileFault = why;
+            m_isBreakNews = true;
     }
     qCWarning(movieLog).noquote().nospace() << m_settings.path << ": " << line;
     // It may be what failed.
@@ -253,10 +253,10 @@ bool MovieRecorder::hasIndexFor(GstClockTime time)
     return true;
 }
 
-MovieEnd MovieRecorder::fileFault() const
+bool MovieRecorder::takeBreak()
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    return m_fileFault;
+    return std::exchange(m_isBreakNews, false);
 }
 
 MovieEnd MovieRecorder::end() const

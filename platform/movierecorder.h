@@ -63,8 +63,8 @@ public:
     void discard();
     // Whether the file is finished, and waiting for that; false when it has not come in that time.
     bool isFinished() const;
-    // Why a finished file lacks its end; None when it does not.
-    MovieEnd fileFault() const;
+    // Whether its file has been found to lack its end since this was asked last. Found before it is finished.
+    bool takeBreak();
     bool waitForFile(std::chrono::milliseconds limit);
 
 private:
@@ -109,7 +109,7 @@ private:
     std::deque<FramePtr> m_kept; // for the start
     gsize m_keptBytes = 0;
     MovieEnd m_end = MovieEnd::None;
-    MovieEnd m_fileFault = MovieEnd::None;
+    bool m_isBreakNews = false; // for takeBreak()
     bool m_isDiscarded = false;
     bool m_hasAllFrames = false;
     bool m_isFileComplete = false;
