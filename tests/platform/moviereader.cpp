@@ -2,6 +2,8 @@
 
 #include "tests/plugins/counterpicture.h"
 
+#include <QProcess>
+
 #include <algorithm>
 #include <cstdlib>
 
@@ -105,4 +107,12 @@ std::vector<double> latenesses(const MovieContents &movie)
         }
     }
     return late;
+}
+
+bool playsInAnotherPlayer(const QString &path)
+{
+    QProcess player;
+    player.start("ffmpeg",
+                 {"-v", "error", "-xerror", "-i", path, "-map", "0:v", "-map", "0:a", "-f", "null", "-"});
+    return player.waitForFinished() && player.exitCode() == 0 && player.readAllStandardError().isEmpty();
 }

@@ -33,3 +33,6 @@ MovieContents readMovie(const QString &path);
 
 // Of a movie of flashes and beeps: by how many seconds each beep is later than the flash beside it.
 std::vector<double> latenesses(const MovieContents &movie);
+
+// Whether one that is not ours plays picture and sound to the end.
+bool playsInAnotherPlayer(const QString &path);
