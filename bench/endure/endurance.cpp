@@ -24,7 +24,7 @@ struct Holdings {
     int threads;
     int descriptors;
     int xResources;
-    double memory; // megabytes, the process's share
+    double memory; // megabytes of its own, without what it maps of files, which others map too
 };
 
 QString processFile(qint64 process, const char *name)
@@ -40,11 +40,12 @@ int entries(const QString &folder)
 double memory(qint64 process)
 {
     QFile file(processFile(process, "smaps_rollup"));
-    static const QRegularExpression share("\nPss:\\s+(\\d+) kB");
-    return share.match(file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray())
-               .captured(1)
-               .toDouble() /
-           1024;
+    static const QRegularExpression own("\nPss_(?:Anon|Shmem):\\s+(\\d+) kB");
+    auto shares = own.globalMatch(file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray());
+    double kilobytes = 0;
+    while (shares.hasNext())
+        kilobytes += shares.next().captured(1).toDouble();
+    return kilobytes / 1024;
 }
 
 // All that the X server keeps for the program's connections.

@@ -22,6 +22,23 @@ bool isLive()
     return isPictureShown() && Program::rowLooks(Program::screen()) == "EEEEE";
 }
 
+QImage dialogPicture()
+{
+    constexpr int fromBelow = 1;
+    const QList<QByteArray> windows =
+        Program::xdotool({"search", "--onlyvisible", "--name", "^Orvane"}).split('\n');
+    return QGuiApplication::primaryScreen()->grabWindow(windows.value(fromBelow).toULong()).toImage();
+}
+
+// While the dialog waits, its bar moves.
+bool standsStill(QImage *dialog)
+{
+    constexpr int barMilliseconds = 300; // many of its steps
+    *dialog = dialogPicture();
+    QTest::qWait(barMilliseconds);
+    return dialogPicture() == *dialog;
+}
+
 } // namespace
 
 void tell(const QString &promise, double figure, double limit, const char *unit)
@@ -77,7 +94,7 @@ void Lesson::awaitLive()
     await("the live picture", isLive);
 }
 
-void Lesson::await(const char *what, const std::function<bool()> &condition)
+void Lesson::await(const char *what, const std::function<bool()> &condition, int windows)
 {
     constexpr int patienceMilliseconds = 4000;
     constexpr int limitMilliseconds = 90000;
@@ -86,7 +103,7 @@ void Lesson::await(const char *what, const std::function<bool()> &condition)
     QElapsedTimer waited;
     for (waited.start(); !QTest::qWaitFor(isOver, patienceMilliseconds);) {
         // Before the window is shown, the message is alone.
-        if (Program::windows() > 1 || Program::rowLooks(Program::screen()) == "....") {
+        if (Program::windows() > windows || Program::rowLooks(Program::screen()) == "....") {
             Program::press("Return");
             throw MessageIsShown();
         }
@@ -172,7 +189,7 @@ void Lesson::changeSettings()
     await("the live picture", [] { return Program::windows("") == 1 && isLive(); });
 }
 
-void Lesson::load(const QString &folder)
+QImage Lesson::load(const QString &folder)
 {
     Program::click(Program::liveRow(4));
     await("the list", [] { return Program::buttonsShown() == 4; });
@@ -181,9 +198,14 @@ void Lesson::load(const QString &folder)
     Program::xdotool({"type", folder});
     Program::press("Return");
     await("the loading", [] { return Program::windows() == 2; });
-    await("the loading's end", [] { return Program::press("Return"), Program::windows() == 1; });
+    QImage told;
+    await(
+        "the loading's end", [&told] { return standsStill(&told); }, 2);
+    await(
+        "the dialog's end", [] { return Program::press("Return"), Program::windows() == 1; }, 2);
     Program::click(Program::row(0));
     awaitLive();
+    return told;
 }
 
 void Lesson::leaveSaving()

@@ -33,7 +33,8 @@ public:
     // Starts it with an environment; what it tells goes to stderr. Its picture may take some time.
     void launch(const QProcessEnvironment &environment = QProcessEnvironment::systemEnvironment());
     // Waits for the condition, as long as a disk may hang; ends the whole program, telling what did not come.
-    void await(const char *what, const std::function<bool()> &condition);
+    // A window more than these is a message.
+    void await(const char *what, const std::function<bool()> &condition, int windows = 1);
 
     void awaitLive();
 
@@ -47,7 +48,8 @@ public:
     void walk();
     void loseCamera();
     void changeSettings();
-    void load(const QString &folder);
+    // Returns what the dialog shows at its end.
+    QImage load(const QString &folder);
     // Ends the program.
     void leaveSaving();
 
