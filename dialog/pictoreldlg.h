@@ -162,6 +162,7 @@ private:
     void loadRecordedMovie();
     void loadMovie(const QString &path);
     void tellOfMovie(Cause end);
+    void tellOfPlayer();
     void showInPictureView(const QString &name, const QString &folder);
     void SetPictureListMode(const QStringList &names);
     void addTile(const QString &name, const QRect &place, int number, bool zoomable);

@@ -106,6 +106,18 @@ void CPictorelDlg::OnMovieFinished()
     m_timerView->Stop();
 }
 
+// Who has gone on to another screen does not need it any more.
+void CPictorelDlg::tellOfPlayer()
+{
+    if (m_isLeaving || m_mode != DisplayMode::Movie)
+        return;
+    // A message in the middle of a wait would keep it from ending.
+    if (isWaitingAlive())
+        QTimer::singleShot(retryPeriod, this, &CPictorelDlg::tellOfPlayer);
+    else
+        WebcamUtil::WarningMessage(tr("Load failed."), this);
+}
+
 void CPictorelDlg::setMovieTime()
 {
     // Half a second more rounds to the nearest second.

@@ -103,6 +103,7 @@ void MovieWidget::restart()
 {
     if (++m_restarts > mostRestarts) {
         noteBreakdown();
+        emit startFailed();
         return;
     }
     m_standstill->start(standstillMilliseconds << m_restarts); // it may only have been slow

@@ -27,6 +27,10 @@ public:
     // As disp(): the player's own would not know of the wish.
     void pause() { disp(); }
 
+signals:
+    // After several tries.
+    void startFailed();
+
 public slots:
     // Makes the player, which takes some time, when a movie is soon to be loaded; Create() does it else.
     void prepare();

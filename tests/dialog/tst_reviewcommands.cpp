@@ -228,6 +228,14 @@ void TestReviewCommands::moviesOfAnyKindAreWatchedAndPasted()
         QTRY_VERIFY(main.button("MoviePause")->isVisible());
         QTRY_VERIFY_WITH_TIMEOUT(main.button("MoviePlay")->isVisible(), 6000);
     }
+    // What the player does not play after several tries is told.
+    main.press("List");
+    choose(main, 1);
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("movie2.mov: The player does not play it"));
+    const Answers answers({"OK"});
+    main.press("Show");
+    QTRY_COMPARE_WITH_TIMEOUT(answers.told(), QStringList("Load failed."), 20000);
+    QCOMPARE(main.buttons(), QString("Live+ MoviePlay+ List+ Close+"));
 }
 
 QTEST_MAIN(TestReviewCommands)
