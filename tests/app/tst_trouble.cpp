@@ -29,10 +29,14 @@ private slots:
     void leavingOtherwiseAsksOrSaves();
     void theSessionEnds();
     void theScreenChanges();
+    void theSessionBusDies();
+    void theWindowManagerDies();
     void theXServerDies();
 
 private:
     static void answerMessage();
+    static void startMovie();
+    static void stopMovie();
 
     std::unique_ptr<TestDevices> m_devices;
 };
@@ -69,6 +73,21 @@ void TestTrouble::answerMessage()
     QTRY_COMPARE(Program::windows(), 2);
     Program::press("Return");
     QTRY_COMPARE(Program::windows(), 1);
+}
+
+void TestTrouble::startMovie()
+{
+    Program::click(Program::liveRow(3));
+    QTRY_COMPARE(Program::rowLooks(Program::screen()), QString("dddEd"));
+}
+
+// Looks at it and goes back.
+void TestTrouble::stopMovie()
+{
+    Program::click(Program::liveRow(3));
+    QTRY_COMPARE(Program::buttonsShown(), 3);
+    Program::click(Program::row(0));
+    QTRY_COMPARE(Program::rowLooks(Program::screen()), QString("EEEEE"));
 }
 
 void TestTrouble::aMovieEndsWithItsDisk()
@@ -302,6 +321,57 @@ void TestTrouble::theScreenChanges()
     panel.show();
     QTRY_COMPARE(Program::look(Program::screen(), Program::exitButton() - QPoint(0, height)), 'E');
     QTRY_COMPARE(Program::look(Program::screen(), Program::liveRow(0) - QPoint(0, height)), 'E');
+}
+
+void TestTrouble::theSessionBusDies()
+{
+    QProcess bus;
+    bus.start("dbus-daemon", {"--session", "--nofork", "--print-address"});
+    QVERIFY(bus.waitForReadyRead(10000));
+    QProcessEnvironment session = QProcessEnvironment::systemEnvironment();
+    session.insert("DBUS_SESSION_BUS_ADDRESS", bus.readLine().trimmed());
+    Program program;
+    program.process().setProcessEnvironment(session);
+    QVERIFY(program.start());
+    startMovie();
+    bus.kill();
+    QVERIFY(bus.waitForFinished());
+    stopMovie();
+    QVERIFY(program.quit());
+    QCOMPARE(saved().entryList(QDir::Files).size(), 2);
+}
+
+static Window managerOfWindows()
+{
+    Display *display = QX11Info::display();
+    return XGetSelectionOwner(display, XInternAtom(display, "WM_S0", 0));
+}
+
+// The lesson goes on without one, and under the next one.
+void TestTrouble::theWindowManagerDies()
+{
+    const Window first = managerOfWindows();
+    QProcess manager;
+    manager.start("openbox", {"--replace"});
+    QTRY_VERIFY(managerOfWindows() != first && managerOfWindows() != 0);
+    Program program;
+    QVERIFY(program.start());
+    startMovie();
+    manager.kill();
+    QVERIFY(manager.waitForFinished());
+    QTRY_COMPARE(managerOfWindows(), Window(0));
+    stopMovie();
+
+    // It outlives this test, for the next one.
+    QVERIFY(QProcess::startDetached("openbox", QStringList()));
+    QTRY_VERIFY(managerOfWindows() != 0);
+    startMovie();
+    stopMovie();
+    Program::click(Program::exitButton());
+    QTRY_COMPARE(Program::windows(), 2);
+    QTRY_VERIFY((Program::answer(Program::Yes), Program::windows() < 2));
+    QVERIFY(program.waitForEnd());
+    QCOMPARE(saved().entryList(QDir::Files).size(), 4);
 }
 
 // While a movie is shown, when most would be taken down.
