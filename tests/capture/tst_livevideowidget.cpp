@@ -7,17 +7,19 @@
 #include <QLabel>
 #include <QtTest>
 
+#include <atomic>
 #include <ctime>
 #include <sys/time.h>
 
 // Where the clock stands still, in milliseconds since 1970; else it goes. Found before the C library's.
-static qint64 stoppedClock = 0;
+static std::atomic<qint64> stoppedClock{0};
 extern "C" int gettimeofday(timeval *now, void *) noexcept
 {
     timespec real = {};
     clock_gettime(CLOCK_REALTIME, &real);
-    *now = stoppedClock != 0 ? timeval{stoppedClock / 1000, stoppedClock % 1000 * 1000}
-                             : timeval{real.tv_sec, real.tv_nsec / 1000};
+    const qint64 stopped = stoppedClock;
+    *now = stopped != 0 ? timeval{stopped / 1000, stopped % 1000 * 1000}
+                        : timeval{real.tv_sec, real.tv_nsec / 1000};
     return 0;
 }
 
