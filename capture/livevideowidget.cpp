@@ -7,6 +7,7 @@
 #include "platform/playerplugins.h"
 #include "util/desktop/accessiblerole.h"
 #include "util/desktop/fonts.h"
+#include "util/files/alivewait.h"
 #include "util/webcamutil.h"
 
 #include <QFrame>
@@ -17,7 +18,6 @@
 #include <QTimer>
 
 #include <chrono>
-#include <thread>
 #include <utility>
 
 namespace
@@ -27,6 +27,8 @@ using namespace std::chrono_literals;
 
 // Most cameras open in a fraction of this, and a note would only flash up.
 constexpr auto noteworthyOpening = 700ms;
+// A sound server that hangs is not waited for.
+constexpr auto playerPatience = 2s;
 
 const QColor captionColour(Qt::green);
 
@@ -47,7 +49,7 @@ void LiveVideoWidget::prepare()
 
 void LiveVideoWidget::preparePlayer()
 {
-    std::thread(loadPlayerPlugins).detach();
+    m_playerLoading = startAside(loadPlayerPlugins);
 }
 
 LiveVideoWidget::LiveVideoWidget(QWidget *parent, Qt::WindowFlags flags)
@@ -75,6 +77,9 @@ LiveVideoWidget::~LiveVideoWidget()
 {
     letGo();
     CDriverProxy::get()->initialize(nullptr);
+    // The libraries that it looks through are taken down when the program ends.
+    if (m_playerLoading.valid())
+        m_playerLoading.wait_for(playerPatience);
 }
 
 void LiveVideoWidget::setUpPictureFrame()

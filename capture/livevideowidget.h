@@ -7,6 +7,7 @@
 #include <QStringList>
 #include <QWidget>
 
+#include <future>
 #include <memory>
 
 class LiveCapture;
@@ -36,7 +37,7 @@ public:
     static void prepare();
     // Loads in the background what the player of a recorded movie takes, so that the first one begins at
     // once.
-    static void preparePlayer();
+    void preparePlayer();
 
     // Opens no camera.
     explicit LiveVideoWidget(QWidget *parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags());
@@ -165,6 +166,7 @@ private:
     bool isBusy() const { return m_busy > 0; }
 
     const std::unique_ptr<LiveCapture> m_capture;
+    std::future<void> m_playerLoading;
     int m_busy = 0;
     bool m_isLossToTell = false; // held back while something waits
     QLabel *m_liveCaption = nullptr;

@@ -59,7 +59,7 @@ CPictorelDlg::CPictorelDlg(QWidget *parent, Qt::WindowFlags flags)
     m_liveView->Start();
     TransitionMode(DisplayMode::Live);
     SetLocalConnect();
-    QTimer::singleShot(playerDelay, this, &LiveVideoWidget::preparePlayer);
+    QTimer::singleShot(playerDelay, m_liveView, &LiveVideoWidget::preparePlayer);
 
     // A picture is never mirrored, whatever the language.
     m_liveView->setLayoutDirection(Qt::LeftToRight);
