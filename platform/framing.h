@@ -8,6 +8,7 @@ struct Framing {
     Zoom zoom; // of the camera's picture, before it is turned
     Turn turn;
 
+    bool isNone() const { return zoom.isNone() && turn.isNone(); }
     // Of a picture of that size, as it is shown when there is room for all of its pixels.
     QSize shownSize(const QSize &picture) const { return turn.turned(picture); }
     QRect shownPart(const QSize &picture) const { return zoom.shownPart(picture); }

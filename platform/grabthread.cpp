@@ -164,8 +164,10 @@ void GrabThread::record(const FramePtr &frame)
         movie = m_movie;
         framing = m_view.framing;
     }
-    if (!movie)
+    if (!movie) {
+        m_moviePictures.release();
         return;
+    }
     if (!movie->wants(frame->clockTime)) {
         letGo(movie);
         return;

@@ -20,6 +20,13 @@ struct GstMiniObjectRelease {
 struct GFree {
     void operator()(void *memory) const { g_free(memory); }
 };
+struct GstBufferPoolRelease {
+    void operator()(GstBufferPool *pool) const
+    {
+        gst_buffer_pool_set_active(pool, FALSE);
+        gst_object_unref(pool);
+    }
+};
 struct GErrorFree {
     void operator()(GError *error) const { g_error_free(error); }
 };
@@ -32,6 +39,7 @@ struct GstStructureFree {
 
 using ElementHandle = std::unique_ptr<GstElement, GstObjectRelease>;
 using PadHandle = std::unique_ptr<GstPad, GstObjectRelease>;
+using BufferPoolHandle = std::unique_ptr<GstBufferPool, GstBufferPoolRelease>;
 using BusHandle = std::unique_ptr<GstBus, GstObjectRelease>;
 using ClockHandle = std::unique_ptr<GstClock, GstObjectRelease>;
 using ProviderHandle = std::unique_ptr<GstDeviceProvider, GstObjectRelease>;

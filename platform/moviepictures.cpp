@@ -54,6 +54,18 @@ void blackenAround(const QRect &place, GstVideoFrame *picture)
     }
 }
 
+// What most raw cameras send, shown as it comes and not larger than a movie may be.
+bool unpack(const CapturedFrame &frame, GstVideoFrame *picture)
+{
+    if (frame.isJpeg() || frame.isDamaged)
+        return false;
+    MappedFrame mapped(frame.info, frame.picture.get(), GST_MAP_READ);
+    if (!mapped.isValid() || !unpackInto(picture, mapped.get()))
+        return false;
+    changeColours(frame.info.colorimetry, picture);
+    return true;
+}
+
 } // namespace
 
 GstVideoInfo MoviePictures::infoOf(const QSize &shown)
@@ -73,7 +85,9 @@ FramePtr MoviePictures::make(const FramePtr &frame, FramePlanes *planes, const F
     auto made = std::make_shared<CapturedFrame>();
     made->info = info;
     made->clockTime = frame->clockTime;
-    made->picture = BufferHandle(gst_buffer_new_allocate(nullptr, info.size, nullptr));
+    made->picture = memoryOf(guint(info.size));
+    if (!made->picture)
+        return {};
     MappedFrame picture(info, made->picture.get(), GST_MAP_READWRITE);
     const QRect place = placeIn(made->size(), framing.shownSize(frame->size()));
     if (!picture.isValid() || !draw(frame, planes, framing, place, picture.get()))
@@ -82,9 +96,28 @@ FramePtr MoviePictures::make(const FramePtr &frame, FramePlanes *planes, const F
     return made;
 }
 
+// That of a picture which the encoder is through with, as fresh memory would have to be cleared by the
+// system.
+BufferHandle MoviePictures::memoryOf(guint bytes)
+{
+    if (!m_pool || bytes != m_pictureBytes) {
+        m_pool.reset(gst_buffer_pool_new());
+        m_pictureBytes = bytes;
+        GstStructure *config = gst_buffer_pool_get_config(m_pool.get());
+        gst_buffer_pool_config_set_params(config, nullptr, bytes, 0, 0);
+        gst_buffer_pool_set_config(m_pool.get(), config);
+        gst_buffer_pool_set_active(m_pool.get(), TRUE);
+    }
+    GstBuffer *buffer = nullptr;
+    gst_buffer_pool_acquire_buffer(m_pool.get(), &buffer, nullptr);
+    return BufferHandle(buffer);
+}
+
 bool MoviePictures::draw(const FramePtr &frame, FramePlanes *planes, const Framing &framing,
                          const QRect &place, GstVideoFrame *picture)
 {
+    if (framing.isNone() && unpack(*frame, picture))
+        return true;
     const QRect part = framing.shownPart(frame->size());
     const std::optional<PicturePlanes> found = planes->read(frame, part, framing.turn.turned(place.size()));
     if (found) {

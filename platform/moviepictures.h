@@ -18,13 +18,19 @@ public:
     FramePtr make(const FramePtr &frame, FramePlanes *planes, const Framing &framing,
                   const GstVideoInfo &info);
 
+    // Keeps no memory for further pictures.
+    void release() { m_pool.reset(); }
+
 private:
+    BufferHandle memoryOf(guint bytes);
     bool draw(const FramePtr &frame, FramePlanes *planes, const Framing &framing, const QRect &place,
               GstVideoFrame *picture);
     bool drawGenerally(const CapturedFrame &frame, const Framing &framing, const QRect &place,
                        GstVideoFrame *picture);
     void put(const PicturePlanes &planes, const Turn &turn, const QRect &place, GstVideoFrame *picture);
 
+    BufferPoolHandle m_pool; // null without a movie
+    guint m_pictureBytes = 0;
     FrameConverter m_general{GST_VIDEO_RESAMPLER_METHOD_LINEAR};
     PlaneMemory m_upright; // before it is turned
 };

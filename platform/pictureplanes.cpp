@@ -13,6 +13,7 @@ namespace
 // Cameras' formats of two bytes a pixel, all of which read as one of two when the colours are swapped.
 struct Packing {
     decltype(&libyuv::YUY2ToI422) split;
+    decltype(&libyuv::YUY2ToI420) splitHalfHigh; // the colours
     bool isSwapped;
 };
 
@@ -20,13 +21,11 @@ std::optional<Packing> packingOf(GstVideoFormat format)
 {
     switch (format) {
     case GST_VIDEO_FORMAT_YUY2:
-        return Packing{libyuv::YUY2ToI422, false};
     case GST_VIDEO_FORMAT_YVYU:
-        return Packing{libyuv::YUY2ToI422, true};
+        return Packing{libyuv::YUY2ToI422, libyuv::YUY2ToI420, format == GST_VIDEO_FORMAT_YVYU};
     case GST_VIDEO_FORMAT_UYVY:
-        return Packing{libyuv::UYVYToI422, false};
     case GST_VIDEO_FORMAT_VYUY:
-        return Packing{libyuv::UYVYToI422, true};
+        return Packing{libyuv::UYVYToI422, libyuv::UYVYToI420, format == GST_VIDEO_FORMAT_VYUY};
     default:
         return {};
     }
@@ -145,6 +144,26 @@ std::optional<PicturePlanes> planesOf(GstVideoFrame *frame, const QRect &part, P
     if (isPlanar(format))
         return cropped(asTheyStand(frame), part);
     return {};
+}
+
+bool unpackInto(GstVideoFrame *i420, GstVideoFrame *frame)
+{
+    const std::optional<Packing> packing = packingOf(GST_VIDEO_FRAME_FORMAT(frame));
+    const int width = GST_VIDEO_FRAME_WIDTH(frame);
+    const int height = GST_VIDEO_FRAME_HEIGHT(frame);
+    if (!packing || width != GST_VIDEO_FRAME_WIDTH(i420) || height != GST_VIDEO_FRAME_HEIGHT(i420))
+        return false;
+    const int second = packing->isSwapped ? 2 : 1;
+    const int third = 3 - second;
+    const auto data = [i420](int plane) {
+        return static_cast<uint8_t *>(GST_VIDEO_FRAME_PLANE_DATA(i420, plane));
+    };
+    packing->splitHalfHigh(static_cast<const uint8_t *>(GST_VIDEO_FRAME_PLANE_DATA(frame, 0)),
+                           GST_VIDEO_FRAME_PLANE_STRIDE(frame, 0), data(0),
+                           GST_VIDEO_FRAME_PLANE_STRIDE(i420, 0), data(second),
+                           GST_VIDEO_FRAME_PLANE_STRIDE(i420, second), data(third),
+                           GST_VIDEO_FRAME_PLANE_STRIDE(i420, third), width, height);
+    return true;
 }
 
 PicturePlanes scaled(const PicturePlanes &planes, const QSize &size, const QSize &colourSize,

@@ -43,6 +43,10 @@ private:
 // planes of brightness and colour.
 std::optional<PicturePlanes> planesOf(GstVideoFrame *frame, const QRect &part, PlaneMemory *memory);
 
+// Takes a whole raw picture apart straight into one of its size, which spares a copy. False for one that is
+// not packed, or of another size.
+bool unpackInto(GstVideoFrame *i420, GstVideoFrame *frame);
+
 // The planes at these sizes. Those that have their size already stay what they are.
 PicturePlanes scaled(const PicturePlanes &planes, const QSize &size, const QSize &colourSize,
                      PlaneMemory *memory);
