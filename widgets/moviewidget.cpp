@@ -121,6 +121,18 @@ void MovieWidget::noteBreakdown()
     emit finished();
 }
 
+bool MovieWidget::hasStopped()
+{
+    return m_isPlayWanted && !m_isStarting && mediaObject()->state() == Phonon::StoppedState;
+}
+
+// At a movie's end the player stops before it tells of the end, after which nothing is wanted of it.
+void MovieWidget::lookForBreakdown()
+{
+    if (hasStopped())
+        noteBreakdown();
+}
+
 void MovieWidget::endStart()
 {
     m_standstill->stop();
@@ -182,8 +194,8 @@ void MovieWidget::followWish()
 {
     if (isPlaying())
         endStart();
-    else if (m_isPlayWanted && !m_isStarting && mediaObject()->state() == Phonon::StoppedState)
-        noteBreakdown();
+    else if (hasStopped())
+        QMetaObject::invokeMethod(this, &MovieWidget::lookForBreakdown, Qt::QueuedConnection);
     rewind();
     if (m_isPlayWanted && !m_isStarting && isPaused())
         start();

@@ -51,6 +51,8 @@ private:
     void start();
     void restart();
     void noteBreakdown();
+    bool hasStopped();
+    void lookForBreakdown();
     void endStart();
     void rewind();
     void followWish();
