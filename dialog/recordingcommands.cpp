@@ -31,7 +31,6 @@ void CPictorelDlg::OnMovieStop()
     if (!facts().isMovieRunning() || isWaitingAlive())
         return;
     const Cause end = facts().movie.why;
-    QTimer::singleShot(0, m_movieView, &MovieWidget::prepare); // while the file is waited for
     if (m_liveView->isCreate())
         m_liveView->RecordStop();
     m_timerView->Stop();
@@ -54,6 +53,7 @@ void CPictorelDlg::loadRecordedMovie()
 
 void CPictorelDlg::loadMovie(const QString &path)
 {
+    static_cast<void>(waitAlive([this] { return m_movieView->prepare(); }, noLimit, Input::KeptThroughout));
     m_movieView->Create(path);
     // Until then there is no time to be shown.
     connect(m_movieView->mediaObject(), &Phonon::MediaObject::totalTimeChanged, this,

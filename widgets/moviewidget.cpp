@@ -8,10 +8,12 @@
 #include <QTimer>
 #include <QUrl>
 
+#include <phonon/AudioOutput>
 #include <phonon/MediaObject>
 #include <phonon/MediaSource>
 #include <phonon/VideoWidget>
 
+#include <iterator>
 #include <utility>
 
 namespace
@@ -49,7 +51,8 @@ MovieWidget::MovieWidget(QWidget *parent)
 
 bool MovieWidget::Create(const QString &path)
 {
-    prepare();
+    while (!prepare()) {
+    }
     forgetWish();
     endStart();
     m_isToRewind = false;
@@ -62,11 +65,36 @@ bool MovieWidget::Create(const QString &path)
 }
 
 // The first word with the player loads all of its machinery, which would take a quarter of the program's
-// start.
-void MovieWidget::prepare()
+// start, and in one piece would let the window stand still.
+bool MovieWidget::prepare()
 {
-    if (std::exchange(m_isPrepared, true))
-        return;
+    static constexpr void (MovieWidget::*parts[])() = {&MovieWidget::loadSound, &MovieWidget::loadPicture,
+                                                       &MovieWidget::makeWindow, &MovieWidget::makePlayer};
+    if (m_partsMade == std::size(parts))
+        return true;
+    (this->*parts[m_partsMade++])();
+    return false;
+}
+
+// Its plug-ins stay, for the player's own.
+void MovieWidget::loadSound()
+{
+    const Phonon::AudioOutput first;
+}
+
+void MovieWidget::loadPicture()
+{
+    const Phonon::VideoWidget first;
+}
+
+// The picture is drawn into a window of the X server's, which needs one for each widget around it.
+void MovieWidget::makeWindow()
+{
+    winId();
+}
+
+void MovieWidget::makePlayer()
+{
     // Phonon measures the window for the picture before it knows the movie's size, and a square is what it
     // takes then. Given the whole widget, the sink keeps the movie's proportions itself.
     videoWidget()->setAspectRatio(Phonon::VideoWidget::AspectRatioWidget);

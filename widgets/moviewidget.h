@@ -2,6 +2,8 @@
 
 #include <phonon/VideoPlayer>
 
+#include <cstddef>
+
 class QLabel;
 class QTimer;
 
@@ -24,6 +26,10 @@ public:
     // with finished() and a line on stderr.
     bool isPlayWanted() const { return m_isPlayWanted; }
 
+    // Makes the next part of the player, some twenty milliseconds' work; true when none is left. Create()
+    // makes at once what is lacking.
+    bool prepare();
+
     // As disp(): the player's own would not know of the wish.
     void pause() { disp(); }
 
@@ -32,8 +38,6 @@ signals:
     void startFailed();
 
 public slots:
-    // Makes the player, which takes some time, when a movie is soon to be loaded; Create() does it else.
-    void prepare();
     // Loads the movie; true, also when it turns out not to be playable.
     bool Create(const QString &path);
     void Release(); // nothing is to be released
@@ -47,6 +51,10 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
+    void loadSound();
+    void loadPicture();
+    void makeWindow();
+    void makePlayer();
     void showFirstPicture();
     void start();
     void restart();
@@ -62,7 +70,7 @@ private:
     QTimer *m_firstPicture; // runs from showing the movie until it is held
     QTimer *m_standstill;   // runs while it is starting, until it is given up
     QString m_path;
-    bool m_isPrepared = false;
+    std::size_t m_partsMade = 0;
     bool m_created = false;
     bool m_isPlayWanted = false;
     bool m_isStarting = false; // told to play, and does not yet
