@@ -19,6 +19,11 @@ constexpr char restartCommand[] = "orvane-restart";
 constexpr std::chrono::seconds shortestPause = 1s;
 constexpr std::chrono::seconds longestPause = 60s;
 
+QString nameOf(GstDeviceProvider *provider)
+{
+    return QString::fromLatin1(gst_plugin_feature_get_name(gst_device_provider_get_factory(provider)));
+}
+
 // Adds to a new listing what only the old one has and is still there.
 void keepPresent(const std::vector<CaptureDevice> &old, std::vector<CaptureDevice> *listed)
 {
@@ -36,7 +41,7 @@ void keepPresent(const std::vector<CaptureDevice> &old, std::vector<CaptureDevic
 ProviderWatch::ProviderWatch(ProviderHandle provider, std::function<bool(const ProviderWatch &)> mayRun,
                              std::function<void()> changed)
     : m_provider(std::move(provider)), m_bus(gst_device_provider_get_bus(m_provider.get())),
-      m_mayRun(std::move(mayRun)), m_changed(std::move(changed))
+      m_name(nameOf(m_provider.get())), m_mayRun(std::move(mayRun)), m_changed(std::move(changed))
 {
 }
 
@@ -49,12 +54,6 @@ void ProviderWatch::start()
 void ProviderWatch::restart()
 {
     gst_bus_post(m_bus.get(), gst_message_new_application(nullptr, gst_structure_new_empty(restartCommand)));
-}
-
-QString ProviderWatch::name() const
-{
-    return QString::fromLatin1(
-        gst_plugin_feature_get_name(gst_device_provider_get_factory(m_provider.get())));
 }
 
 bool ProviderWatch::lists(const char *deviceClass) const

@@ -34,7 +34,7 @@ public:
     // Whether the provider has listed its devices once, or has refused to start.
     bool isFirstListingDone() const { return m_isFirstListingDone; }
     // The provider's own.
-    QString name() const;
+    QString name() const { return m_name; }
 
     // The devices of this class, in the order of listing.
     std::vector<CaptureDevice> devices(const char *deviceClass) const;
@@ -51,6 +51,7 @@ private:
 
     const ProviderHandle m_provider;
     const BusHandle m_bus;
+    const QString m_name;
     const std::function<bool(const ProviderWatch &)> m_mayRun;
     const std::function<void()> m_changed;
 
