@@ -56,8 +56,8 @@ bool MovieWidget::Create(const QString &path)
     forgetWish();
     endStart();
     m_isToRewind = false;
-    load(Phonon::MediaSource(QUrl::fromLocalFile(path)));
     m_path = path;
+    loadFile();
     m_created = true;
     if (isVisible())
         showFirstPicture();
@@ -107,6 +107,11 @@ void MovieWidget::makePlayer()
     m_caption->raise();
 }
 
+void MovieWidget::loadFile()
+{
+    load(Phonon::MediaSource(QUrl::fromLocalFile(m_path)));
+}
+
 void MovieWidget::Release() {}
 
 void MovieWidget::Play()
@@ -125,8 +130,9 @@ void MovieWidget::start()
     play();
 }
 
-// Now and then the player comes to a standstill while it is starting, which only stopping ends, or forgets
-// that it was told to, as after movies that it could not play.
+// Now and then the player comes to a standstill while it is starting, which only stopping ends. After a movie
+// that it could not play it may forget that it was told to, or never begin with the next one until that is
+// loaded anew.
 void MovieWidget::restart()
 {
     if (++m_restarts > mostRestarts) {
@@ -136,6 +142,7 @@ void MovieWidget::restart()
     }
     m_standstill->start(standstillMilliseconds << m_restarts); // it may only have been slow
     stop();
+    loadFile();
     play();
 }
 

@@ -55,6 +55,7 @@ private:
     void loadPicture();
     void makeWindow();
     void makePlayer();
+    void loadFile();
     void showFirstPicture();
     void start();
     void restart();
