@@ -7,8 +7,18 @@
 #include <QPointer>
 #include <QThreadPool>
 
+#include <sys/resource.h>
+
 namespace
 {
+
+// The window goes first where both want to run.
+void yieldToWindow()
+{
+    constexpr int niceness = 10;
+    constexpr id_t thisThread = 0;
+    setpriority(PRIO_PROCESS, thisThread, niceness);
+}
 
 constexpr int thumbnailPriority = 0;
 constexpr int picturePriority = 1;
@@ -48,6 +58,7 @@ void PictureLoader::start(int id, const std::function<QImage()> &read, int prior
     const auto work = [isWanted, id, read, self = QPointer<PictureLoader>(this)] {
         if (!isWanted())
             return;
+        yieldToWindow();
         const auto deliver = [isWanted, id, self, picture = read()] {
             if (isWanted())
                 emit self->loaded(id, picture);

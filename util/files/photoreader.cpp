@@ -97,9 +97,22 @@ void widenRow(QRgb *wide, const uchar *pixels, qint64 width)
         wide[x] = qRgb(pixels[0], pixels[1], pixels[2]);
 }
 
+// Null when there is no memory for it.
+QImage makeImage(const Head &head)
+{
+    const int width = int(head.width);
+    const int lineBytes = width * int(sizeof(QRgb));
+    auto memory = std::make_unique<LargeBytes>(size_t(lineBytes) * size_t(head.height));
+    if (memory->size() == 0)
+        return {};
+    const auto release = [](void *held) { delete static_cast<LargeBytes *>(held); };
+    uchar *pixels = memory->data();
+    return {pixels, width, int(head.height), lineBytes, QImage::Format_RGB32, release, memory.release()};
+}
+
 QImage unfilter(const LargeBytes &rows, const Head &head)
 {
-    QImage image(int(head.width), int(head.height), QImage::Format_RGB32);
+    QImage image = makeImage(head);
     if (image.isNull())
         return {};
     const qint64 bytes = head.width * bytesPerPixel;
