@@ -10,6 +10,8 @@ using namespace std::chrono_literals;
 // How soon the thread sees that it is to stop or paint anew while no frames come.
 constexpr auto frameWait = 50ms;
 
+// How long a frame can be under way from its capture.
+constexpr auto underWayLimit = 250ms;
 // Some cameras wake up for seconds. One that has been let go by its earlier user or has started by then never
 // will.
 constexpr auto openingLimit = 15s;
@@ -88,6 +90,7 @@ void GrabThread::run()
     if (pipeline.open()) {
         m_isOpening = false;
         grabUntilStopped(pipeline);
+        grabLastOfMovie(pipeline);
         endMovie();
     }
     fail(pipeline.failure());
@@ -125,6 +128,22 @@ void GrabThread::grabUntilStopped(CameraPipeline &pipeline)
             show(frame ? frame : newest(), view());
         m_planes.release();
     }
+}
+
+// What was captured before the movie's end, and comes after the thread was asked to end.
+void GrabThread::grabLastOfMovie(CameraPipeline &pipeline)
+{
+    const auto limit = std::chrono::steady_clock::now() + underWayLimit;
+    while (hasMovie() && !pipeline.hasFailed() && std::chrono::steady_clock::now() < limit) {
+        if (const FramePtr frame = pipeline.nextFrame(frameWait))
+            record(frame);
+    }
+}
+
+bool GrabThread::hasMovie() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_movie != nullptr;
 }
 
 // Hands on every frame that has come and returns the last: the window never gets behind.

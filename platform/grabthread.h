@@ -77,6 +77,8 @@ private:
 
     bool waitForAccess(std::unique_lock<std::timed_mutex> &access);
     void grabUntilStopped(CameraPipeline &pipeline);
+    void grabLastOfMovie(CameraPipeline &pipeline);
+    bool hasMovie() const;
     void fail(CameraFailure failure);
     FramePtr grabAllWaiting(CameraPipeline &pipeline);
     void deliver(const FramePtr &frame);

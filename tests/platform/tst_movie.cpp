@@ -19,6 +19,7 @@ class TestMovie : public QObject
 
 private slots:
     void init() { m_folder = std::make_unique<QTemporaryDir>(); }
+    void holdsEveryFrameFromThePressOn_data();
     void holdsEveryFrameFromThePressOn();
     void givesUpADiskThatHangs();
     void showsWhatZoomShows();
@@ -35,11 +36,29 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 
+using Ending = void (*)(LiveVideoData &);
+Q_DECLARE_METATYPE(Ending)
+
+void TestMovie::holdsEveryFrameFromThePressOn_data()
+{
+    QTest::addColumn<Ending>("end");
+    QTest::newRow("Stop") << Ending([](LiveVideoData &capture) { capture.RecordStop(); });
+    QTest::newRow("the camera is closed") << Ending([](LiveVideoData &capture) { capture.Release(); });
+    QTest::newRow("Stop, and another size is waiting") << Ending([](LiveVideoData &capture) {
+        capture.SetResolution(320, 240);
+        capture.RecordStop();
+    });
+}
+
 void TestMovie::holdsEveryFrameFromThePressOn()
 {
+    QFETCH(Ending, end);
     constexpr qint64 period = 1000000 / 15;
     TestDevices devices;
-    devices.camera("cam").formats("YUY2 640x480 15").content("counter").set("under-way", "70");
+    devices.camera("cam")
+        .formats("YUY2 640x480 15;YUY2 320x240 15")
+        .content("counter")
+        .set("under-way", "70");
     devices.camera("cam").set("dim-room", "exposure_dynamic_framerate");
     devices.microphone("mic");
     devices.write();
@@ -50,7 +69,7 @@ void TestMovie::holdsEveryFrameFromThePressOn()
     camera.capture.Record(path());
     QTest::qWait(1500);
     const qint64 stop = nowMicroseconds();
-    camera.capture.RecordStop();
+    end(camera.capture);
     QTRY_VERIFY(!camera.capture.isFinishingMovie());
     const std::vector<MovieContents::Frame> frames = readMovie(path()).frames;
     QVERIFY(frames.size() > 20);
