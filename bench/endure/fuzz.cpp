@@ -5,6 +5,7 @@
 #include "platform/jpegdecoder.h"
 #include "settings/settingsfile.h"
 #include "util/files/capturelist.h"
+#include "util/files/pasterequest.h"
 #include "util/files/photofile.h"
 
 #include <QDir>
@@ -53,6 +54,28 @@ void write(const QString &path, const QByteArray &bytes)
     const QStringList paired = pairedMovies(folder.path());
     for (const QString &name : captures + paired) {
         if (!QFile::exists(folder.filePath(name)) || name.contains('/'))
+            std::abort();
+    }
+}
+
+// The files' folder, and their names.
+[[maybe_unused]] void request(const QByteArray &bytes)
+{
+    const QTemporaryDir drop;
+    QStringList words;
+    for (const QByteArray &word : bytes.split('\0'))
+        words << QFile::decodeName(word);
+    if (!writePasteRequest(drop.path(), {"0", "1x1", words.first(), words.mid(1)}))
+        return;
+    QFile file(QDir(drop.path()).entryInfoList(QDir::Files).value(0).filePath());
+    if (!file.open(QIODevice::ReadOnly))
+        std::abort();
+    QList<QByteArray> lines = file.readAll().split('\n');
+    if (lines.size() < 4 || !lines.takeLast().isEmpty() || lines.takeFirst() != "0" ||
+        lines.takeFirst() != "1x1")
+        std::abort();
+    for (const QByteArray &line : lines) {
+        if (!words.removeOne(QString::fromUtf8(line)))
             std::abort();
     }
 }
