@@ -6,7 +6,8 @@
 #include <QString>
 #include <QTemporaryDir>
 
-// A file system of its own of so many bytes, for tests of a full disk. It takes root to mount one.
+// A file system of its own of so many bytes, for tests of a full disk. It takes root to mount one, of the
+// machine or of a user namespace.
 class SmallDisk
 {
 public:
@@ -46,7 +47,7 @@ public:
 private:
     bool remount(const QString &how) const
     {
-        return QProcess::execute("mount", {"-o", "remount," + how, m_path}) == 0;
+        return QProcess::execute("mount", {"-o", "remount,bind," + how, m_path}) == 0;
     }
 
     QTemporaryDir m_folder;
