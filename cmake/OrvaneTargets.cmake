@@ -27,23 +27,29 @@ function(orvane_add_folder folder)
   target_link_libraries(orvane_${folder} PUBLIC orvane_common ${ARG_LINKS} PRIVATE ${ARG_HIDES})
 endfunction()
 
-# orvane_add_test(<name> SOURCES ... LINKS ... [TIMEOUT seconds] [SCREEN WxH]): a QtTest program that ctest runs on a
+# orvane_add_test(<name> SOURCES ... LINKS ... [TIMEOUT seconds] [SCREENS WxH...]): a QtTest program that ctest runs on a
 # display, a home folder and a temporary folder of its own, with the test devices for its cameras.
 function(orvane_add_test name)
-  cmake_parse_arguments(ARG "" "TIMEOUT;SCREEN" "SOURCES;LINKS" ${ARGN})
+  cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LINKS;SCREENS" ${ARGN})
   if(NOT ARG_TIMEOUT)
     set(ARG_TIMEOUT 120)
   endif()
   if(CMAKE_CXX_FLAGS MATCHES "sanitize=thread") # which takes ten times as long
     math(EXPR ARG_TIMEOUT "${ARG_TIMEOUT} * 10")
   endif()
-  if(NOT ARG_SCREEN)
-    set(ARG_SCREEN 1024x768)
-  endif()
   add_executable(${name} ${ARG_SOURCES})
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/tests)
   target_link_libraries(${name} PRIVATE orvane_testheaders ${ARG_LINKS} Qt5::Test)
-  add_test(NAME ${name} COMMAND ${PROJECT_SOURCE_DIR}/tests/support/on-own-display --screen ${ARG_SCREEN}
-    ${PROJECT_BINARY_DIR} $<TARGET_FILE:${name}>)
-  set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT})
+  set(run ${PROJECT_SOURCE_DIR}/tests/support/on-own-display)
+  set(program ${PROJECT_BINARY_DIR} $<TARGET_FILE:${name}>)
+  if(NOT ARG_SCREENS)
+    add_test(NAME ${name} COMMAND ${run} ${program})
+    set(tests ${name})
+  endif()
+  foreach(screen ${ARG_SCREENS})
+    add_test(NAME ${name}_${screen} COMMAND ${run} --screen ${screen} ${program})
+    list(APPEND tests ${name}_${screen})
+  endforeach()
+  # Those that may take longest come first.
+  set_tests_properties(${tests} PROPERTIES TIMEOUT ${ARG_TIMEOUT} COST ${ARG_TIMEOUT})
 endfunction()
