@@ -5,7 +5,7 @@
 #include <QImage>
 #include <QProcess>
 #include <QScreen>
-#include <QtTest>
+#include <QTest>
 
 #include <unistd.h>
 

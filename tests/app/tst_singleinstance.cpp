@@ -2,6 +2,7 @@
 #include "tests/support/testdevices.h"
 
 #include <QLocalSocket>
+#include <QStandardPaths>
 
 #include <csignal>
 #include <sys/stat.h>

@@ -2,7 +2,9 @@
 #include "app/translator.h"
 
 #include <QApplication>
-#include <QtTest>
+#include <QScopeGuard>
+#include <QSettings>
+#include <QTest>
 
 // The look-up of the whiteboard software's language.
 class TestTranslator : public QObject

@@ -3,6 +3,7 @@
 #include "tests/support/smalldisk.h"
 #include "tests/support/testdevices.h"
 
+#include <QScopeGuard>
 #include <QSettings>
 #include <QX11Info>
 

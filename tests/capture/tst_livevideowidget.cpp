@@ -5,7 +5,10 @@
 #include "util/webcamutil.h"
 
 #include <QLabel>
-#include <QtTest>
+#include <QRegularExpression>
+#include <QScopeGuard>
+#include <QSignalSpy>
+#include <QTest>
 
 #include <atomic>
 #include <ctime>

@@ -1,8 +1,8 @@
 #include "capture/timerwidget.h"
 
 #include <QSignalSpy>
+#include <QTest>
 #include <QTimer>
-#include <QtTest>
 
 // Ticks are given by hand: the tests tell what each second shows and signals, not how long a second is.
 class TestTimerWidget : public QObject

@@ -15,8 +15,8 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
+#include <QTest>
 #include <QTimer>
-#include <QtTest>
 
 #include <linux/capability.h>
 #include <memory>

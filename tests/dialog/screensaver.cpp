@@ -1,6 +1,6 @@
 #include "tests/dialog/screensaver.h"
 
-#include <QtTest>
+#include <QTest>
 
 // Last: Xlib's macros break Qt's headers.
 #include <X11/extensions/scrnsaver.h>

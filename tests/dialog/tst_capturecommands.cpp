@@ -4,6 +4,8 @@
 #include "widgets/moviewidget.h"
 #include "widgets/picturelistview.h"
 
+#include <QScopeGuard>
+
 #include <sys/statvfs.h>
 
 // The disk is as full as a test wants it to be: this one is found before the C library's.

@@ -4,6 +4,8 @@
 #include "widgets/moviewidget.h"
 #include "widgets/picturelistview.h"
 
+#include <QProcess>
+
 class TestReviewCommands : public QObject
 {
     Q_OBJECT

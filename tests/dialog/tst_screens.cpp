@@ -1,6 +1,6 @@
 #include "dialog/screen.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <algorithm>
 

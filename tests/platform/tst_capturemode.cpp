@@ -1,6 +1,6 @@
 #include "platform/capturemode.h"
 
-#include <QtTest>
+#include <QTest>
 
 class TestCaptureMode : public QObject
 {

@@ -2,6 +2,8 @@
 #include "tests/platform/camerawindow.h"
 #include "tests/platform/moviereader.h"
 
+#include <QRegularExpression>
+
 // Hardware is that of a plug-in of its own.
 class TestH264Coders : public QObject
 {

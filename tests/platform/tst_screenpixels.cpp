@@ -2,7 +2,7 @@
 #include "platform/moviepictures.h"
 #include "platform/screenpixels.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <random>
 

@@ -1,6 +1,6 @@
 #include "tests/support/simulatedsound.h"
 
-#include <QtTest>
+#include <QTest>
 
 // A track over minutes, whose moments are told to it.
 class TestSoundTrack : public QObject

@@ -2,7 +2,9 @@
 #include "tests/support/smalldisk.h"
 #include "util/files/freespace.h"
 
+#include <QFileSystemWatcher>
 #include <QProcess>
+#include <QScopeGuard>
 
 #include <atomic>
 #include <thread>

@@ -1,9 +1,10 @@
 #include "platform/livevideodata.h"
 
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QWidget>
-#include <QtTest>
 
 #include <gst/gst.h>
 

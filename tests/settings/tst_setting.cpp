@@ -1,7 +1,7 @@
 #include "settings/setting.h"
 #include "tests/support/modalanswer.h"
 
-#include <QtTest>
+#include <QTest>
 #include <QtWidgets>
 
 class TestSetting : public QObject

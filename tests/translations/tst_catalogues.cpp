@@ -10,8 +10,10 @@
 #include <QFontMetrics>
 #include <QLabel>
 #include <QLayout>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTest>
 #include <QTranslator>
-#include <QtTest>
 
 // Each catalogue against the texts that the program's sources ask for, and against the room that its windows
 // have for them.

@@ -2,7 +2,7 @@
 
 #include <QDBusConnection>
 #include <QProcess>
-#include <QtTest>
+#include <QTest>
 
 // Stands for a desktop's screen saver. Two of its cookies at a time would be one too many.
 class Desktop : public QObject

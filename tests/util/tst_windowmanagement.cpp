@@ -2,7 +2,7 @@
 
 #include <QProcess>
 #include <QScreen>
-#include <QtTest>
+#include <QTest>
 
 #include <csignal>
 #include <unistd.h>

@@ -1,7 +1,10 @@
 #include "util/files/freespace.h"
 #include "util/webcamutil.h"
 
-#include <QtTest>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTest>
+#include <QTimer>
 
 #include <fcntl.h>
 #include <functional>

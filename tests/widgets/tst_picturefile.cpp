@@ -3,7 +3,7 @@
 #include "widgets/picturefile.h"
 
 #include <QRandomGenerator>
-#include <QtTest>
+#include <QTest>
 
 #include <algorithm>
 #include <sys/resource.h>

@@ -3,7 +3,8 @@
 
 #include <QScrollBar>
 #include <QScroller>
-#include <QtTest>
+#include <QSignalSpy>
+#include <QTest>
 
 class TestPictureListView : public QObject
 {

@@ -4,8 +4,11 @@
 #include "widgets/stretchbitmapbutton.h"
 
 #include <QLabel>
+#include <QProcess>
+#include <QRegularExpression>
 #include <QScreen>
-#include <QtTest>
+#include <QSignalSpy>
+#include <QTest>
 
 #include <phonon/MediaObject>
 
