@@ -54,7 +54,7 @@ class TestViews : public QObject
     {
         QSignalSpy read(widget.findChild<PictureLoader *>(), &PictureLoader::loaded);
         widget.Loadbmp(name, m_dir.path());
-        QVERIFY(read.wait());
+        QVERIFY(read.wait(30000)); // reading gives way to all else
     }
 
     const QSet<QRgb> black{QColor(Qt::black).rgb()};
@@ -113,7 +113,7 @@ private slots:
         widget.Loadbmp("photo2.png", m_dir.path());
         QCOMPARE(widget.fileName(), QString("photo2.png"));
         QCOMPARE(colours(widget), QSet<QRgb>{hues[0].rgb()});
-        QVERIFY(read.wait());
+        QVERIFY(read.wait(30000)); // reading gives way to all else
         QCOMPARE(colours(widget), QSet<QRgb>{hues[2].rgb()});
         widget.Loadbmp("photo1.png", m_dir.path());
         widget.showPicture("photo3.png", image);
