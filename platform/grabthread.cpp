@@ -10,8 +10,6 @@ using namespace std::chrono_literals;
 // How soon the thread sees that it is to stop or paint anew while no frames come.
 constexpr auto frameWait = 50ms;
 
-// How long a frame can be under way from its capture.
-constexpr auto underWayLimit = 250ms;
 // Some cameras wake up for seconds. One that has been let go by its earlier user or has started by then never
 // will.
 constexpr auto openingLimit = 15s;
@@ -133,7 +131,7 @@ void GrabThread::grabUntilStopped(CameraPipeline &pipeline)
 // What was captured before the movie's end, and comes after the thread was asked to end.
 void GrabThread::grabLastOfMovie(CameraPipeline &pipeline)
 {
-    const auto limit = std::chrono::steady_clock::now() + underWayLimit;
+    const auto limit = std::chrono::steady_clock::now() + MovieRecorder::lastFrameLimit;
     while (hasMovie() && !pipeline.hasFailed() && std::chrono::steady_clock::now() < limit) {
         if (const FramePtr frame = pipeline.nextFrame(frameWait))
             record(frame);

@@ -23,9 +23,6 @@ using namespace std::chrono_literals;
 // end of a movie would take too long.
 constexpr gsize mostWaitingBytes = gsize(128) << 20;
 
-// Frames are on their way for one or two of their periods. A camera that hangs sends none any more.
-constexpr auto lastFrameLimit = 300ms;
-
 // How long a slow disk may take nothing of what is left of a movie before it is given up.
 constexpr auto closingLimit = 10s;
 

@@ -27,6 +27,10 @@ public:
 
     const MovieSettings &settings() const { return m_settings; }
 
+    // How long after the end the frames from before it are waited for. They are on their way for one or two
+    // of their periods; a camera that hangs sends none any more.
+    static constexpr std::chrono::milliseconds lastFrameLimit{300};
+
     // Starts recording; the movie begins with this frame, which is on the screen, or with the first that was
     // given if that is older. False when the file cannot be made or an element is missing. Takes as long as
     // the disk does to open the file. Any thread, once.
