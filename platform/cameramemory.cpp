@@ -29,7 +29,8 @@ void CameraMemory::follow(const std::vector<CaptureDevice> &listed)
     std::copy_if(
         listed.begin(), listed.end(), std::back_inserter(still), [this](const CaptureDevice &camera) {
             return std::any_of(m_beside.begin(), m_beside.end(), [&camera](const CaptureDevice &beside) {
-                return isSameDevice(camera, beside);
+                // Another one may have the node by now of one that was pulled out.
+                return isSameMake(camera, beside) && isSameDevice(camera, beside);
             });
         });
     m_beside = std::move(still);

@@ -89,11 +89,6 @@ bool namesInfrared(const QString &name)
     return name.endsWith(QLatin1String(" IR")) || name.contains(QLatin1String(" IR "));
 }
 
-bool isSameMake(const CaptureDevice &a, const CaptureDevice &b)
-{
-    return a.name == b.name && a.vendor == b.vendor && a.product == b.product && a.serial == b.serial;
-}
-
 // A sound server mixes, resamples and survives an unplugged device, which the bare card does not.
 int microphonePreference(const CaptureDevice &device)
 {
@@ -152,6 +147,11 @@ std::vector<CaptureMode> modesOf(const CaptureDevice &camera)
 bool isUsableCamera(const CaptureDevice &device)
 {
     return !namesInfrared(device.name) && !modesOf(device).empty();
+}
+
+bool isSameMake(const CaptureDevice &a, const CaptureDevice &b)
+{
+    return a.name == b.name && a.vendor == b.vendor && a.product == b.product && a.serial == b.serial;
 }
 
 bool isSameDevice(const CaptureDevice &a, const CaptureDevice &b)

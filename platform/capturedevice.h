@@ -33,6 +33,9 @@ std::vector<CaptureMode> modesOf(const CaptureDevice &camera);
 // Whether a picture for a lesson can come from it: neither a node that gives no picture nor an infrared twin.
 bool isUsableCamera(const CaptureDevice &device);
 
+// Whether all that their maker gave them is alike.
+bool isSameMake(const CaptureDevice &a, const CaptureDevice &b);
+
 // Whether both are the same piece of hardware, seen through different providers or listed again.
 bool isSameDevice(const CaptureDevice &a, const CaptureDevice &b);
 

@@ -22,6 +22,8 @@ struct CoderTrial {
 // some seconds, five of which nothing happens in at most; any thread, one at a time.
 CoderTrial tryCoders(const QString &encoder, const QString &decoder);
 
+// What both take of the processor, for the log.
+QString comparison(const CoderTrial &hardware, const CoderTrial &software);
 // Whether hardware takes less of the processor, but longer than software and than the movie lasts; other work
 // may be the reason for that.
 bool isTooSlow(const CoderTrial &hardware, const CoderTrial &software);

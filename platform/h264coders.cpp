@@ -96,7 +96,7 @@ void prove(const H264Coder (&coders)[n], const CoderTrial &software, const Try &
         const QString why = shortcoming(trial, software);
         if (why.isNull()) {
             qCInfo(movieLog).noquote().nospace()
-                << coder.element << " is used: it takes less of the processor.";
+                << coder.element << " is used: it takes " << comparison(trial, software) << '.';
             *inUse = &coder;
             return;
         }
