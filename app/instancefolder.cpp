@@ -9,17 +9,21 @@
 
 InstanceFolder::InstanceFolder(const QString &path)
     : m_folder(open(QFile::encodeName(path), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC)),
-      m_lock(path + ".lock")
+      m_lock(path + "/.lock") // in the folder, where no other user can lay one
 {
-    // Beside the folder: a file that is held open would keep its disk from being unmounted. However long a
-    // lesson lasts: only a holder that has ended leaves a lock to be taken over.
-    m_lock.setStaleLockTime(0);
 }
 
 InstanceFolder::~InstanceFolder() = default;
 
 bool InstanceFolder::lock()
 {
+    // However long a lesson lasts: only a holder that has ended leaves a lock to be taken over. Whoever was
+    // killed just as it made the lock has left one without a holder's name.
+    qint64 process = 0;
+    QString host;
+    QString program;
+    constexpr int writingMs = 2000;
+    m_lock.setStaleLockTime(m_lock.getLockInfo(&process, &host, &program) ? 0 : writingMs);
     return m_lock.tryLock() || m_lock.error() != QLockFile::LockFailedError;
 }
 

@@ -21,6 +21,8 @@ constexpr qint64 maximumMessageBytes = 65536;       // above any message: no sen
 constexpr char taken = '+';                         // the answer to a message
 constexpr unsigned long retryMs = 20;               // between two looks for an instance that is just starting
 
+constexpr int successionMs = 200; // between two looks whether it has ended
+
 int remaining(const QDeadlineTimer &deadline)
 {
     return static_cast<int>(deadline.remainingTime());
@@ -38,6 +40,10 @@ QtSingleApplication::QtSingleApplication(const QString &appId, int &argc, char *
     const QString working = makeWorkingFolder();
     if (!working.isEmpty())
         addFolder(working);
+    connect(&m_succession, &QTimer::timeout, this, [this] {
+        if (becomeInstance())
+            m_succession.stop();
+    });
     becomeInstance();
 }
 
@@ -78,7 +84,10 @@ void QtSingleApplication::listen()
 
 bool QtSingleApplication::isRunning()
 {
-    return !becomeInstance();
+    const bool isAnother = !becomeInstance();
+    if (isAnother)
+        m_succession.start(successionMs);
+    return isAnother;
 }
 
 bool QtSingleApplication::sendMessage(const QString &message, int timeoutMs)

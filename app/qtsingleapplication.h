@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QString>
+#include <QTimer>
 
 #include <memory>
 #include <vector>
@@ -28,7 +29,8 @@ public:
     // case this process has become the instance, and when the instance did not answer in time. Blocks.
     bool sendMessage(const QString &message, int timeoutMs);
 
-    // Whether another process is the instance.
+    // Whether another process is the instance. While it is, and the event loop runs, this process waits to
+    // become the instance when that one ends: later starts must find it.
     bool isRunning();
 
 signals:
@@ -45,4 +47,5 @@ private:
     std::vector<std::unique_ptr<InstanceFolder>> m_folders;
     const InstanceFolder *m_other = nullptr; // that another process holds; null when none was found
     bool m_isInstance = false;
+    QTimer m_succession;
 };

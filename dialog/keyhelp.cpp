@@ -181,9 +181,17 @@ bool KeyHelp::eventFilter(QObject *watched, QEvent *event)
     else if (watched != this && watched->parent() == parent() &&
              (type == QEvent::Show || type == QEvent::ZOrderChange))
         raise(); // over what the window shows only now
-    else if (watched == window()->windowHandle())
+    else if (isOfWindow(watched))
         return isVisible() ? takesFromWindow(*event) : takesRestOfPress(*event);
     return QWidget::eventFilter(watched, event);
+}
+
+// Once a movie has been shown, each widget has a window of its own in this one, which gets the mouse.
+bool KeyHelp::isOfWindow(const QObject *watched) const
+{
+    const QWindow *top = window()->windowHandle();
+    const auto *part = qobject_cast<const QWindow *>(watched);
+    return part && (part == top || top->isAncestorOf(part, QWindow::ExcludeTransients));
 }
 
 // Whether the window, which gets all input before its widgets and shortcuts do, shall not get the event.

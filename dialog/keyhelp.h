@@ -25,6 +25,7 @@ private:
     void fillTable();
     void fillWindow();
     void setLetters(int pixels);
+    bool isOfWindow(const QObject *watched) const;
     bool takesFromWindow(QEvent &event);
     bool takesRestOfPress(QEvent &event);
     void leave(bool isPointerDown);

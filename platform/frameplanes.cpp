@@ -65,6 +65,11 @@ bool FramePlanes::decode(const FramePtr &frame, int denominator)
     return m_decoded.has_value();
 }
 
+bool FramePlanes::hasFoundDamage(const CapturedFrame &jpeg) const
+{
+    return m_frame.get() == &jpeg && m_denominator && !m_decoded;
+}
+
 void FramePlanes::release()
 {
     m_mapped.reset();

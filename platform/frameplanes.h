@@ -12,6 +12,9 @@ public:
     // Nothing for a damaged frame, and for raw formats without planes. Good until the next call.
     std::optional<PicturePlanes> read(const FramePtr &frame, const QRect &part, const QSize &size);
 
+    // Whether the JPEG asked for last is this one, and turned out to be damaged.
+    bool hasFoundDamage(const CapturedFrame &jpeg) const;
+
     // Lets go of the frame asked for last.
     void release();
 

@@ -16,12 +16,6 @@ constexpr auto openingLimit = 15s;
 // Even a dim room's long exposures bring several frames in this time.
 constexpr auto silenceLimit = 3s;
 
-// A camera that has changed its pictures without telling may send none that can, until it is opened anew.
-bool canBeRead(const CapturedFrame &frame)
-{
-    return frame.isJpeg() || MappedFrame(frame.info, frame.picture.get(), GST_MAP_READ).isValid();
-}
-
 // An image over the matrix's pixels, which it keeps alive.
 QImage imageOver(const cv::Mat &pixels)
 {
@@ -124,8 +118,20 @@ void GrabThread::grabUntilStopped(CameraPipeline &pipeline)
         // A changed view shows the frame that is there already rather than wait for the next.
         if (m_isViewChanged.exchange(false) || frame)
             show(frame ? frame : newest(), view());
+        if (frame && canBeRead(*frame))
+            m_lastSignOfLife = std::chrono::steady_clock::now();
         m_planes.release();
     }
+}
+
+// A camera with a bad cable, or one that has changed its pictures without telling, may send none that can,
+// until it is opened anew. A JPEG shows it when it is decoded: while nobody looks, each one counts.
+bool GrabThread::canBeRead(const CapturedFrame &frame) const
+{
+    if (frame.isDamaged)
+        return false;
+    return frame.isJpeg() ? !m_planes.hasFoundDamage(frame)
+                          : MappedFrame(frame.info, frame.picture.get(), GST_MAP_READ).isValid();
 }
 
 // What was captured before the movie's end, and comes after the thread was asked to end.
@@ -164,11 +170,12 @@ FramePtr GrabThread::grabAllWaiting(CameraPipeline &pipeline)
 
 void GrabThread::deliver(const FramePtr &frame)
 {
-    if (canBeRead(*frame))
-        m_lastSignOfLife = std::chrono::steady_clock::now();
     m_frames->put(frame);
-    if (!m_isLive.exchange(true))
+    if (!m_isLive) {
+        m_lastSignOfLife = std::chrono::steady_clock::now(); // whatever it is worth
+        m_isLive = true;
         tellPicture();
+    }
     record(frame);
 }
 

@@ -55,7 +55,8 @@ public:
     // Whether the camera has not answered to being opened yet.
     bool isOpening() const { return m_isOpening; }
     // Whether the camera has used up its time: NotAnswering without a first frame fifteen seconds after the
-    // start, Silent without a further one for three; else without a fault.
+    // start, Silent without a further one for three that was whole, as far as anybody looked; else without a
+    // fault.
     CameraFailure overdue() const;
     // Why the camera could not be opened or broke off; once deviceerr() was emitted.
     CameraFailure failure() const;
@@ -81,6 +82,7 @@ private:
     bool hasMovie() const;
     void fail(CameraFailure failure);
     FramePtr grabAllWaiting(CameraPipeline &pipeline);
+    bool canBeRead(const CapturedFrame &frame) const;
     void deliver(const FramePtr &frame);
     void record(const FramePtr &frame);
     void letGo(const std::shared_ptr<MovieRecorder> &movie);

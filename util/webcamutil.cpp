@@ -233,34 +233,40 @@ void WebcamUtil::deleteData()
     });
 }
 
-// Waits for as long as it goes on. A folder on a server that has died would keep the program for ever.
-static bool moveAside(const QStringList &captures, const QString &working, const QString &save)
+static bool moveAll(const QString &working, const QString &base, const QStringList &except,
+                    const std::function<void()> &giveSign)
+{
+    // Once: a save that runs past midnight stays in one folder.
+    const QString save = makeSaveFolder(base);
+    if (save.isEmpty())
+        return false;
+    giveSign();
+    QStringList captures = capturesOldestFirst(working, {photoFilter(), movieFilter()});
+    for (const QString &name : except)
+        captures.removeAll(name);
+    return !captures.isEmpty() && moveCaptures(captures, working, save, giveSign);
+}
+
+// Waits for as long as it goes on, also for a disk that has to wake up first. A folder on a server that has
+// died would keep the program for ever.
+static bool moveAside(const QString &working, const QString &base, const QStringList &except)
 {
     using Clock = std::chrono::steady_clock;
     constexpr auto patience = std::chrono::minutes(2);
     const auto lastSign = std::make_shared<std::atomic<Clock::time_point>>(Clock::now());
-    auto moved = startAside(
-        [=] { return moveCaptures(captures, working, save, [lastSign] { *lastSign = Clock::now(); }); });
+    auto moved =
+        startAside([=] { return moveAll(working, base, except, [lastSign] { *lastSign = Clock::now(); }); });
     const auto isOver = [&] { return isReady(moved) || Clock::now() - lastSign->load() > patience; };
     waitAlive(isOver, noLimit, Input::KeptThroughout);
     if (!isReady(moved))
-        noteSilentDisk("saveData", save);
+        noteSilentDisk("saveData", base);
     return isReady(moved) && moved.get();
 }
 
 bool WebcamUtil::saveData(const QString &dir, const QStringList &except)
 {
     const QString working = getTemporaryPath();
-    if (working.isEmpty())
-        return false;
-    // Once: a save that runs past midnight stays in one folder.
-    const QString save = CreateSavePath(dir);
-    if (save.isEmpty())
-        return false;
-    QStringList captures = getFileList({photoFilter(), movieFilter()});
-    for (const QString &name : except)
-        captures.removeAll(name);
-    return !captures.isEmpty() && moveAside(captures, working, save);
+    return !working.isEmpty() && moveAside(working, dir, except);
 }
 
 void WebcamUtil::infoMessage(const QString &text, QWidget *parent)

@@ -84,7 +84,8 @@ private:
     Lesson m_lesson;
     const QTemporaryDir m_sources;
     const QTemporaryDir m_otherDisk{"/dev/shm/orvane-endure.XXXXXX"};
-    QMap<QString, QByteArray> m_known; // of what was whole
+    QMap<QString, QByteArray> m_known; // of what was whole, also where it is only to be loaded
+    QSet<QString> m_captured;          // what has stood among the program's captures
     QElapsedTimer m_recorded;          // since a movie was seen to be recorded, which ended after its length
     int m_movieLength = 0;             // milliseconds
     int m_loaded = 0;
@@ -153,6 +154,8 @@ void Ordeal::killOnce()
     } catch (const ProgramHasEnded &) {
         if (!isToDie)
             miss(&m_dead, "a start", "does not come to a picture");
+    } catch (const MessageIsShown &) {
+        miss(&m_dead, "a message", "comes in the way");
     }
 }
 
@@ -180,6 +183,7 @@ void Ordeal::lookAt()
     m_recorded.invalidate();
     const Captures all = captures();
     for (auto capture = all.begin(); capture != all.end(); ++capture) {
+        m_captured += capture.key();
         if (m_known.contains(capture.key())) {
             if (checksum(capture.value()) != m_known[capture.key()])
                 miss(&m_damaged, "damaged", capture.value());
@@ -193,8 +197,7 @@ void Ordeal::lookAt()
             miss(&m_shortened, "too short", capture.value());
     }
     for (auto known = m_known.begin(); known != m_known.end(); ++known) {
-        const bool isStillToBeLoaded = known.key().startsWith("photo2024") && !all.contains(known.key());
-        if (!all.contains(known.key()) && !isStillToBeLoaded)
+        if (!all.contains(known.key()) && m_captured.contains(known.key()))
             miss(&m_lost, "lost", known.key());
     }
     if (m_firstStrays < 0)
@@ -214,7 +217,7 @@ void Ordeal::end()
     }
     if (!Program::captures().isEmpty())
         miss(&m_twice, "not saved", Program::captures().join(' '));
-    tell("starts that failed", m_dead, 0, "");
+    tell("starts and steps that failed", m_dead, 0, "");
     tell("captures that are not whole", m_damaged, 0, "");
     tell("captures lost", m_lost, 0, "");
     tell("captures standing twice after the last save", m_twice, 0, "");

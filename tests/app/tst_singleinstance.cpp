@@ -2,6 +2,7 @@
 #include "tests/support/testdevices.h"
 
 #include <QLocalSocket>
+#include <QLockFile>
 #include <QStandardPaths>
 
 #include <csignal>
@@ -79,6 +80,39 @@ private slots:
         Program second;
         second.process().start(ORVANE_PROGRAM, QStringList());
         QTRY_COMPARE_WITH_TIMEOUT(Program::windows(), 2, 15000);
+
+        // The second succeeds it, and is found by those that come then.
+        first.process().kill();
+        QVERIFY(first.waitForEnd());
+        const QLockFile lock(runtime + "/Orvane/.lock");
+        const auto holder = [&lock] {
+            qint64 process = 0;
+            QString host;
+            QString program;
+            return lock.getLockInfo(&process, &host, &program) ? process : 0;
+        };
+        QTRY_COMPARE(holder(), second.process().processId());
+        Program third;
+        third.process().start(ORVANE_PROGRAM, QStringList());
+        QVERIFY(third.process().waitForFinished(4000));
+    }
+
+    // By one that was killed while it made them, and by another user.
+    void locksWithoutAHolderHoldNoStart()
+    {
+        const QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+        const QStringList paths = {runtime + "/Orvane/.lock", Program::workingFolder().filePath(".lock"),
+                                   Program::workingFolder().path() + ".lock"};
+        for (const QString &path : paths) {
+            QFile lock(path);
+            QVERIFY2(lock.open(QIODevice::WriteOnly | QIODevice::Truncate), qPrintable(path));
+        }
+        Program first;
+        QVERIFY(first.start(false));
+        QElapsedTimer clock;
+        clock.start();
+        QCOMPARE(QProcess::execute(ORVANE_PROGRAM, {}), 0); // it is found, so there were no locks in its way
+        QVERIFY(clock.elapsed() < 5000);
     }
 };
 

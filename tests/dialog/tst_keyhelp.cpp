@@ -3,6 +3,9 @@
 #include "tests/dialog/mainwindow.h"
 #include "util/desktop/spokenlabel.h"
 #include "util/files/alivewait.h"
+#include "widgets/moviewidget.h"
+
+#include <QProcess>
 
 // The table of keys over the main window, by events as the X server's reach it.
 class TestKeyHelp : public QObject
@@ -13,6 +16,7 @@ private slots:
     void init();
     void goesWithTheNextPress_data();
     void goesWithTheNextPress();
+    void goesWithARealMouseAfterAMovie();
     void staysAboveWhatComes();
     void makesWayForMessages();
     void waitsForNothing();
@@ -96,6 +100,24 @@ void TestKeyHelp::goesWithTheNextPress()
     QTest::mouseClick(window(), Qt::LeftButton, Qt::NoModifier, list);
     QCOMPARE(m_main->window->currentMode(), DisplayMode::List);
     QVERIFY(!help());
+}
+
+// The player makes the X server know the widgets, which it then gives the mouse to.
+void TestKeyHelp::goesWithARealMouseAfterAMovie()
+{
+    while (!m_main->view<MovieWidget>()->prepare()) {
+    }
+    const QPoint list = m_main->button("List")->mapToGlobal(m_main->button("List")->rect().center());
+    const QStringList click = {"mousemove", QString::number(list.x()), QString::number(list.y()), "click",
+                               "1"};
+    key(Qt::Key_F1);
+    QVERIFY(isShown());
+    QCOMPARE(QProcess::execute("xdotool", click), 0);
+    QTRY_VERIFY(!isShown());
+    QTRY_COMPARE(QGuiApplication::mouseButtons(), Qt::NoButton);
+    QCOMPARE(m_main->window->currentMode(), DisplayMode::Live);
+    QCOMPARE(QProcess::execute("xdotool", click), 0);
+    QTRY_COMPARE(m_main->window->currentMode(), DisplayMode::List);
 }
 
 // A timed series goes on, and ends with its photos side by side.

@@ -26,13 +26,16 @@ void TestLoss::tellsALossOnce()
                  {"error-only", "unplugged", CameraFault::Unplugged},
                  {"error-first", "stall", CameraFault::Silent},
                  {"error-first", "other-size", CameraFault::Silent},
+                 {"error-first", "damaged", CameraFault::Silent},
                  {"error-first", "read-error", CameraFault::Failed},
                  {"error-first", "ends", CameraFault::Failed}};
     for (const auto &row : table) {
         const QByteArray name = QByteArray(row.fault) + ", " + row.order;
         TestDevices devices;
         // A camera whose going its provider never tells stays in the lists of later rows, hence the names.
-        devices.camera(name).name(name).order(row.order);
+        const bool isDamage = QByteArray(row.fault) == "damaged";
+        devices.camera(name).name(name).order(row.order).formats(isDamage ? "JPEG 640x480 30"
+                                                                          : "YUY2 640x480 30");
         devices.microphone("mic");
         devices.write();
         CameraWindow camera;
@@ -52,10 +55,14 @@ void TestLoss::tellsALossOnce()
             movieSize = QFileInfo(movie).size();
         });
         const bool isUnplugged = QByteArray(row.fault) == "unplugged";
-        if (isUnplugged)
+        if (isUnplugged) {
             devices.pull(name);
-        else
+        } else if (isDamage) {
+            devices.camera(name).set("damaged", "1"); // every frame
+            devices.write();
+        } else {
             devices.setFault(name, row.fault);
+        }
         QVERIFY2(camera.lost.wait(10000), name);
         QVERIFY2(camera.told.lost == row.told && camera.told.ended == MovieEnd::CameraLost, name);
         QVERIFY2(movieSize > 0 && !camera.capture.IsValidVideoDevice(), name);
@@ -66,6 +73,7 @@ void TestLoss::tellsALossOnce()
         QVERIFY2(camera.capture.lastPhotoFault() == PhotoFault::NoPicture, name);
 
         camera.capture.Release();
+        devices.camera(name).set("damaged", "0");
         devices.setFault(name, "");
         devices.plug(name);
         QTRY_VERIFY2(camera.capture.GetVideoDeviceList().contains(name), name);

@@ -23,6 +23,14 @@ extern "C" int lstat(const char *path, struct stat *status) noexcept
     return fstatat(AT_FDCWD, path, status, AT_SYMLINK_NOFOLLOW);
 }
 
+// Likewise the making of folders.
+static std::mutex folders;
+extern "C" int mkdir(const char *path, mode_t mode) noexcept
+{
+    const std::lock_guard<std::mutex> answer(folders);
+    return int(syscall(SYS_mkdir, path, mode));
+}
+
 // The folders whose names were brought to the disk while the working copy was still there.
 static QString workingCopy;
 static QStringList synced;
@@ -179,6 +187,15 @@ private slots:
         QCOMPARE(names, QStringList{"photo1.png"});
     }
 
+    void aDiskThatWakesUpIsWaitedFor()
+    {
+        QVERIFY(write(working("photo1.png"), "x"));
+        std::unique_lock<std::mutex> asleep(folders);
+        QTimer::singleShot(3000, [&asleep] { asleep.unlock(); });
+        QVERIFY(WebcamUtil::saveData(base()));
+        QCOMPARE(everything(saved()), QStringList{"photo1.png"});
+    }
+
     void savesAll()
     {
         const QByteArray movie(64 << 20, 'm');
@@ -206,12 +223,15 @@ private slots:
 
     void newFoldersAreSharedAndLast()
     {
-        for (const auto &[base, made] :
-             {std::pair(0755U, 0755U), std::pair(0777U, 01777U), std::pair(02770U, 03775U)}) {
+        for (const auto &[base, made] : {std::pair(0755U, 0755U), std::pair(0777U, 01777U),
+                                         std::pair(02770U, 03775U), std::pair(0775U, 01775U)}) {
             init();
             QVERIFY(QDir(m_tmp->filePath("save")).removeRecursively() && write(working("photo1.png"), "x"));
             const QString folder = m_tmp->filePath("save");
-            QVERIFY(QDir().mkdir(folder) && chmod(QFile::encodeName(folder), base) == 0);
+            QVERIFY(QDir().mkdir(folder));
+            constexpr gid_t teachers = 12345;
+            const bool isOthers = chown(QFile::encodeName(folder), uid_t(-1), teachers) == 0; // of root alone
+            QCOMPARE(chmod(QFile::encodeName(folder), base), 0);
             workingCopy = working("photo1.png");
             synced.clear();
             QVERIFY(WebcamUtil::saveData(folder));
@@ -219,6 +239,8 @@ private slots:
                 struct stat status = {};
                 QCOMPARE(stat(QFile::encodeName(path), &status), 0);
                 QCOMPARE(status.st_mode & 07777U, made);
+                const bool isShared = base & S_IWGRP && !(base & S_IWOTH);
+                QCOMPARE(status.st_gid == teachers, isOthers && isShared);
                 QVERIFY2(synced.contains(path), qPrintable(synced.join(' ')));
             }
             QVERIFY2(synced.contains(folder), qPrintable(synced.join(' ')));

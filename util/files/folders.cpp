@@ -69,7 +69,7 @@ static QString madeFolder(const QDir &folder)
 }
 
 // Where several users save into one folder, each can add to what another has begun there, but take nothing
-// away.
+// away. A folder that does not hand its group down has it handed down here.
 static void shareLike(const QString &folder, const QString &path)
 {
     struct stat shared = {};
@@ -77,8 +77,12 @@ static void shareLike(const QString &folder, const QString &path)
     if (stat(QFile::encodeName(folder), &shared) != 0 || stat(QFile::encodeName(path), &made) != 0)
         return;
     const mode_t others = shared.st_mode & (S_IRWXG | S_IRWXO);
-    const bool isShared = others & ~made.st_mode & (S_IWGRP | S_IWOTH);
-    if (isShared && chmod(QFile::encodeName(path), made.st_mode | others | S_ISVTX) != 0)
+    const bool isGroups = (others & S_IWGRP) && !(others & S_IWOTH) && made.st_gid != shared.st_gid;
+    if (isGroups && chown(QFile::encodeName(path), uid_t(-1), shared.st_gid) != 0)
+        noteFileFault("share folder", path);
+    const bool isKeptFromOthers = others & ~made.st_mode & (S_IWGRP | S_IWOTH);
+    if ((isGroups || isKeptFromOthers) &&
+        chmod(QFile::encodeName(path), made.st_mode | others | S_ISVTX) != 0)
         noteFileFault("share folder", path);
 }
 
