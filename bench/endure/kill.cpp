@@ -73,7 +73,7 @@ private:
     QString folderToLoad();
     void recordMovie();
     Captures captures() const;
-    int strays() const;
+    QSet<QString> strays() const;
     static void miss(int *count, const char *what, const QString &which)
     {
         ++*count;
@@ -89,7 +89,7 @@ private:
     QElapsedTimer m_recorded;          // since a movie was seen to be recorded, which ended after its length
     int m_movieLength = 0;             // milliseconds
     int m_loaded = 0;
-    int m_firstStrays = -1;
+    QSet<QString> m_firstStrays;
     int m_dead = 0, m_damaged = 0, m_lost = 0, m_twice = 0, m_shortened = 0;
 };
 
@@ -165,16 +165,19 @@ Captures Ordeal::captures() const
 }
 
 // All other files of the program's: settings, locks, and what a death may have left.
-int Ordeal::strays() const
+QSet<QString> Ordeal::strays() const
 {
-    int all = -captures().size();
+    const QList<QString> places = captures().values();
+    const QSet<QString> known(places.begin(), places.end());
+    QSet<QString> all;
     for (const QString &folder : {Program::workingFolder().path(), QDir::homePath(), m_otherDisk.path(),
                                   qEnvironmentVariable("XDG_RUNTIME_DIR")}) {
         QDirIterator files(folder, QDir::Files | QDir::Hidden | QDir::System, QDirIterator::Subdirectories);
-        for (; files.hasNext(); files.next())
-            ++all;
+        while (files.hasNext())
+            all += files.next();
     }
-    return all;
+    all -= QDir::home().filePath(".config/QtProject.conf"); // what Qt's chooser of folders remembers
+    return all - known;
 }
 
 void Ordeal::lookAt()
@@ -200,7 +203,7 @@ void Ordeal::lookAt()
         if (!all.contains(known.key()) && m_captured.contains(known.key()))
             miss(&m_lost, "lost", known.key());
     }
-    if (m_firstStrays < 0)
+    if (m_firstStrays.isEmpty())
         m_firstStrays = strays();
 }
 
@@ -217,12 +220,15 @@ void Ordeal::end()
     }
     if (!Program::captures().isEmpty())
         miss(&m_twice, "not saved", Program::captures().join(' '));
+    int newStrays = 0;
+    for (const QString &path : strays() - m_firstStrays)
+        miss(&newStrays, "new", path);
     tell("starts and steps that failed", m_dead, 0, "");
     tell("captures that are not whole", m_damaged, 0, "");
     tell("captures lost", m_lost, 0, "");
     tell("captures standing twice after the last save", m_twice, 0, "");
     tell("movies short of more than their last second", m_shortened, 0, "");
-    tell("other files more than after the first", strays() - m_firstStrays, 0, "");
+    tell("other files more than after the first", newStrays, 0, "");
 }
 
 } // namespace

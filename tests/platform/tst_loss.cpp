@@ -14,6 +14,18 @@ private slots:
     void knowsTheFaultFromTheDriversWords();
 };
 
+static void breakOff(TestDevices *devices, const QString &camera, const QByteArray &fault)
+{
+    if (fault == "unplugged") {
+        devices->pull(camera);
+    } else if (fault == "damaged") {
+        devices->camera(camera).set("damaged", "1"); // every frame
+        devices->write();
+    } else {
+        devices->setFault(camera, fault);
+    }
+}
+
 void TestLoss::tellsALossOnce()
 {
     const struct {
@@ -54,15 +66,7 @@ void TestLoss::tellsALossOnce()
             isWhole = !camera.capture.isFinishingMovie();
             movieSize = QFileInfo(movie).size();
         });
-        const bool isUnplugged = QByteArray(row.fault) == "unplugged";
-        if (isUnplugged) {
-            devices.pull(name);
-        } else if (isDamage) {
-            devices.camera(name).set("damaged", "1"); // every frame
-            devices.write();
-        } else {
-            devices.setFault(name, row.fault);
-        }
+        breakOff(&devices, name, row.fault);
         QVERIFY2(camera.lost.wait(10000), name);
         QVERIFY2(camera.told.lost == row.told && camera.told.ended == MovieEnd::CameraLost, name);
         QVERIFY2(movieSize > 0 && !camera.capture.IsValidVideoDevice(), name);
@@ -73,8 +77,7 @@ void TestLoss::tellsALossOnce()
         QVERIFY2(camera.capture.lastPhotoFault() == PhotoFault::NoPicture, name);
 
         camera.capture.Release();
-        devices.camera(name).set("damaged", "0");
-        devices.setFault(name, "");
+        devices.camera(name).set("damaged", "0").fault("");
         devices.plug(name);
         QTRY_VERIFY2(camera.capture.GetVideoDeviceList().contains(name), name);
         QVERIFY2(camera.start(), name);
