@@ -189,10 +189,14 @@ private slots:
 
     void aDiskThatWakesUpIsWaitedFor()
     {
-        QVERIFY(write(working("photo1.png"), "x"));
+        QVERIFY(write(working("photo1.png"), "x") && QDir(m_tmp->filePath("save")).removeRecursively());
         std::unique_lock<std::mutex> asleep(folders);
-        QTimer::singleShot(3000, [&asleep] { asleep.unlock(); });
+        QTimer awakening;
+        connect(&awakening, &QTimer::timeout, this, [&asleep] { asleep.unlock(); });
+        awakening.setSingleShot(true);
+        awakening.start(3000);
         QVERIFY(WebcamUtil::saveData(base()));
+        QVERIFY(!asleep.owns_lock());
         QCOMPARE(everything(saved()), QStringList{"photo1.png"});
     }
 
