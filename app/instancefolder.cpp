@@ -5,11 +5,14 @@
 #include <QLocalSocket>
 
 #include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 #include <utility>
 
 InstanceFolder::InstanceFolder(const QString &path)
     : m_folder(open(QFile::encodeName(path), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC)),
-      m_lock(path + "/.lock") // in the folder, where no other user can lay one
+      // Beside the folder: a file that is held open would keep its disk from being unmounted.
+      m_lockPath(path + ".lock"), m_lock(m_lockPath)
 {
 }
 
@@ -24,7 +27,14 @@ bool InstanceFolder::lock()
     QString program;
     constexpr int writingMs = 2000;
     m_lock.setStaleLockTime(m_lock.getLockInfo(&process, &host, &program) ? 0 : writingMs);
-    return m_lock.tryLock() || m_lock.error() != QLockFile::LockFailedError;
+    return m_lock.tryLock() || m_lock.error() != QLockFile::LockFailedError || isLockForeign();
+}
+
+// There other users may have laid one, which would never go.
+bool InstanceFolder::isLockForeign() const
+{
+    struct stat status = {};
+    return lstat(QFile::encodeName(m_lockPath), &status) == 0 && status.st_uid != geteuid();
 }
 
 void InstanceFolder::unlock()

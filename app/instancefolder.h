@@ -32,7 +32,10 @@ public:
     QString socket() const;
 
 private:
+    bool isLockForeign() const;
+
     Descriptor m_folder;
+    const QString m_lockPath;
     QLockFile m_lock;
     std::unique_ptr<QLocalServer> m_server; // gone before the lock is
 };
