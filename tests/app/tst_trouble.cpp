@@ -86,7 +86,7 @@ void TestTrouble::startMovie()
 void TestTrouble::stopMovie()
 {
     Program::click(Program::liveRow(3));
-    QTRY_COMPARE(Program::buttonsShown(), 3);
+    QTRY_COMPARE_WITH_TIMEOUT(Program::buttonsShown(), 3, 15000);
     Program::click(Program::row(0));
     QTRY_COMPARE(Program::rowLooks(Program::screen()), QString("EEEEE"));
 }
