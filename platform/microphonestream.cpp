@@ -125,7 +125,8 @@ bool MicrophoneStream::build(const CaptureDevice &device)
     // Its stamps shall count its samples and nothing else: the track sees to the clocks.
     setIfPresent(source, "provide-clock", "false");
     setIfPresent(source, "slave-method", "none");
-    // Room for a burst of half a second, and for a reader that comes late, in microseconds. It delays nothing.
+    // Room for a burst of half a second, and for a reader that comes late, in microseconds. It delays
+    // nothing.
     setIfPresent(source, "buffer-time", "1000000");
     GstElement *last = source;
     for (const char *name : {"audioconvert", "audioresample", "appsink"}) {
