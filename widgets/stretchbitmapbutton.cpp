@@ -144,6 +144,16 @@ void CStretchBitmapButton::paintEvent(QPaintEvent *)
         paintFocusFrame(painter, rect());
 }
 
+// While another window had the focus, another button may have been given it; that one alone is told.
+bool CStretchBitmapButton::event(QEvent *event)
+{
+    if (event->type() == QEvent::WindowActivate && window()->focusWidget() != this) {
+        m_focusedByKeyboard = false;
+        update();
+    }
+    return QPushButton::event(event);
+}
+
 void CStretchBitmapButton::focusInEvent(QFocusEvent *event)
 {
     if (isByKeyboard(event->reason()))
