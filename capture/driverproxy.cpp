@@ -2,11 +2,6 @@
 
 #include <QLineF>
 
-namespace
-{
-
-} // namespace
-
 CDriverProxy *CDriverProxy::get()
 {
     static CDriverProxy proxy;

@@ -144,9 +144,32 @@ def lesson(reader):
     until("the keys to be said", lambda: "Ctrl+C: Copies what is shown" in " ".join(reader.said))
     subprocess.run(["xdotool", "key", "F1"], check=True)
 
+    load(reader)
+
     write_devices(MICROPHONE)
     reader.find("The video device is invalid.*", Atspi.Role.LABEL)
     until("the message's button to have the focus", lambda: reader.focused[-1] == "OK")
+    subprocess.run(["xdotool", "key", "Return"], check=True)
+
+    reader.press("Exit")
+    reader.find(r"Do you want to save the Photo / Movie data\?", Atspi.Role.LABEL)
+    until("the question's first answer to have the focus", lambda: reader.focused[-1] == "Yes")
+    reader.press("Cancel")
+
+
+def load(reader):
+    folder = os.path.expanduser("~/earlier")
+    os.mkdir(folder)
+    reader.press("List")
+    reader.press("Load")
+    until("the folder chooser", lambda: "Directory:" in reader.focused[-1])
+    subprocess.run(["xdotool", "type", folder], check=True)
+    subprocess.run(["xdotool", "key", "Return"], check=True)
+    reader.expect_said("File is loading. Please wait...", "File loaded successfully.")
+    until("the dialog's button to have the focus", lambda: reader.focused[-1] == "OK")
+    subprocess.run(["xdotool", "key", "Return"], check=True)
+    reader.press("Live")
+    reader.find("Live picture", Atspi.Role.IMAGE)
 
 
 def main():

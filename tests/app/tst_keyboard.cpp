@@ -1,4 +1,5 @@
 #include "tests/app/program.h"
+#include "tests/support/clipboard.h"
 #include "tests/support/testdevices.h"
 
 #include <QSettings>
@@ -19,11 +20,13 @@ private:
     static void pressAt(const QPoint &button, const QString &row);
     static void expectRow(const QString &row);
     static void changeSettings();
+    static void askForKeys();
     static void takePhoto();
     static void takeSeries();
     static void recordMovie();
+    static void load();
     static void chooseAndShow();
-    static void zoomAndPaste();
+    static void zoomCopyAndPaste();
     static void leave();
 };
 
@@ -88,12 +91,30 @@ void TestKeyboard::changeSettings()
     QCOMPARE(file.value("ContinuShootCount").toInt(), 2);
 }
 
+void TestKeyboard::askForKeys()
+{
+    const auto isDimmed = [] { return Program::brightness({60, 200}) < 50; };
+    QVERIFY(!isDimmed());
+    Program::press("F1");
+    QTRY_VERIFY(isDimmed());
+    Program::press("F1");
+    QTRY_VERIFY(!isDimmed());
+}
+
+// Turned and larger, at the second try.
 void TestKeyboard::takePhoto()
 {
+    Program::xdotool({"key", "r", "plus", "plus", "plus", "plus"});
+    pressAt(Program::liveRow(1), "ddddd");
+    QTRY_VERIFY(Program::showsPreview());
+    pressAt(Program::retryButton(), "EEEEE");
     pressAt(Program::liveRow(1), "ddddd");
     QTRY_VERIFY(Program::showsPreview());
     pressAt(Program::acceptButton(), "EEE.");
     QCOMPARE(Program::captures().size(), 1);
+    const QImage photo(Program::workingFolder().filePath(Program::captures().first()));
+    QCOMPARE(photo.size(), QSize(480, 640));
+    QVERIFY(photo.pixelColor(270, 340).hsvSaturation() < 40); // the white square in the middle has grown
     pressAt(Program::row(0), "EEEEE");
 }
 
@@ -120,7 +141,21 @@ void TestKeyboard::recordMovie()
     pressAt(Program::row(3), "EdEE"); // of photos
 }
 
-// The first and the last of three.
+void TestKeyboard::load()
+{
+    const QDir earlier(QDir::home().filePath("earlier"));
+    QVERIFY(earlier.mkpath(".") && QImage(64, 48, QImage::Format_RGB32).save(earlier.filePath("photo0.png")));
+    tabTo(Program::row(2));
+    Program::press("space");
+    QTRY_COMPARE(Program::windows("Load Directory"), 1);
+    Program::xdotool({"type", earlier.path()});
+    Program::press("Return");
+    QTRY_COMPARE(Program::windows(), 2);
+    QTRY_VERIFY((Program::press("Return"), Program::windows() == 1));
+    QCOMPARE(Program::captures({"photo*"}).size(), 4);
+}
+
+// The first and the third of four.
 void TestKeyboard::chooseAndShow()
 {
     const auto isStrip = [] { return focusFrame().top() < Program::height() - Program::buttonHeight(); };
@@ -139,7 +174,7 @@ void TestKeyboard::chooseAndShow()
     pressAt(Program::row(1), "EEE.");
 }
 
-void TestKeyboard::zoomAndPaste()
+void TestKeyboard::zoomCopyAndPaste()
 {
     const auto isZoomButton = [] {
         const QRect frame = focusFrame();
@@ -150,6 +185,8 @@ void TestKeyboard::zoomAndPaste()
     const QRect zoom = focusFrame();
     Program::press("space");
     QTRY_VERIFY(focusFrame().isValid() && focusFrame() != zoom); // the way back, at another place
+    Program::press("ctrl+c");
+    QTRY_VERIFY(onClipboard("text/uri-list").startsWith("file:///"));
     const QDir requests(Program::workingFolder().filePath("tmp"));
     tabTo(Program::row(1));
     Program::press("space");
@@ -170,20 +207,20 @@ void TestKeyboard::leave()
 void TestKeyboard::givesALesson()
 {
     TestDevices devices;
-    devices.camera("cam").formats("YUY2 640x480 30").content("page");
+    devices.camera("cam").formats("YUY2 640x480 30").content("quarters");
     devices.microphone("mic").sound("silence");
     devices.write();
     Program program;
     QVERIFY(program.start());
-    for (void (*part)() :
-         {changeSettings, takePhoto, takeSeries, recordMovie, chooseAndShow, zoomAndPaste, leave}) {
+    for (void (*part)() : {changeSettings, askForKeys, takePhoto, takeSeries, recordMovie, load,
+                           chooseAndShow, zoomCopyAndPaste, leave}) {
         part();
         if (QTest::currentTestFailed())
             return;
     }
     QVERIFY(program.waitForEnd());
     const QDir saved(QDir::home().filePath("VeltrixCamera/" + QDate::currentDate().toString("yyyyMMdd")));
-    QCOMPARE(saved.entryList({"photo*.png"}, QDir::Files).size(), 3);
+    QCOMPARE(saved.entryList({"photo*.png"}, QDir::Files).size(), 4);
     QCOMPARE(saved.entryList({"movie*.mov"}, QDir::Files).size(), 1);
 }
 

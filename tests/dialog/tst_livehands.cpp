@@ -18,6 +18,7 @@ private slots:
     void takesTheFirstFingersPressBack();
     void endsTheGestureWithThePicture_data();
     void endsTheGestureWithThePicture();
+    void tellsWhoListensOfTheFingers();
     void pinchesAnyCamera();
 
 private:
@@ -34,6 +35,7 @@ private:
     }
     QWidget *surface() const { return live()->childAt(at({0.5, 0.5})); }
     bool hasZoomCursor() const { return live()->cursor().shape() == Qt::BitmapCursor; }
+    bool hasClosedHand() const { return surface()->cursor().shape() == Qt::ClosedHandCursor; }
 
     // The colours in the four corners, but below the caption, and near the centre.
     static QString colours(const QImage &image);
@@ -213,34 +215,70 @@ void TestLiveHands::takesTheFirstFingersPressBack()
 void TestLiveHands::endsTheGestureWithThePicture_data()
 {
     QTest::addColumn<QString>("end");
+    QTest::addColumn<bool>("isDrag"); // of the enlarged picture by one hand, not the board's gesture
     for (const char *end : {"cancel", "hide", "loss"})
-        QTest::newRow(end) << end;
+        QTest::addRow("gesture, %s", end) << end << false;
+    for (const char *end : {"cancel", "hide", "loss", "loss by mouse", "hide by mouse"})
+        QTest::addRow("drag, %s", end) << end << true;
 }
 
 void TestLiveHands::endsTheGestureWithThePicture()
 {
     QFETCH(const QString, end);
-    open("Veltrix CX-20");
+    QFETCH(const bool, isDrag);
+    open(isDrag ? "Board Cam" : "Veltrix CX-20");
     const QPoint first = at({0.3, 0.4});
-    touch({first}, Qt::TouchPointPressed);
-    touch({first, first + QPoint(60, 0)}, Qt::TouchPointPressed);
-    touch({first, first + QPoint(61, 0)}, Qt::TouchPointMoved);
-    QVERIFY(hasZoomCursor());
+    if (isDrag) {
+        key("plus", 4);
+        QTRY_COMPARE(onScreen(), QString("rgbyw"));
+    }
+    if (end.endsWith("mouse"))
+        byHand(moveTo({0.3, 0.4}) + QStringList{"mousedown", "1"});
+    else
+        touch({first}, Qt::TouchPointPressed);
+    if (!isDrag) {
+        touch({first, first + QPoint(60, 0)}, Qt::TouchPointPressed);
+        touch({first, first + QPoint(61, 0)}, Qt::TouchPointMoved);
+    }
+    QTRY_VERIFY(isDrag ? hasClosedHand() : hasZoomCursor());
     const Answers answers({"OK"});
     if (end == "cancel") {
         QTouchEvent cancel(QEvent::TouchCancel, m_screen);
         QCoreApplication::sendEvent(surface(), &cancel);
-    } else if (end == "hide") {
-        m_main->press("List");
+    } else if (end.startsWith("hide")) {
+        m_main->button("List")->click();
     } else {
         m_main->devices.pull("cam");
     }
-    QTRY_VERIFY(!hasZoomCursor());
+    QTRY_VERIFY(!hasZoomCursor() && !hasClosedHand());
     CDriverExtraInfo info;
     CDriverProxy::get()->getExtraInfo(info);
     QCOMPARE(info.gestureState, 0);
-    if (end == "loss")
+    if (end.startsWith("loss"))
         QTRY_COMPARE(answers.told().size(), 1);
+    byHand({"mouseup", "1"});
+}
+
+void TestLiveHands::tellsWhoListensOfTheFingers()
+{
+    struct Fingers : IDriverEventListener {
+        void notifyFingerDown(const QPoint &, int finger) override { down << finger; }
+        void notifyFingerMove(const QPoint &at, int finger) override { places[finger] = at; }
+        void notifyFingerUp(const QPoint &, int finger) override { up << finger; }
+        QList<int> down, up;
+        QMap<int, QPoint> places;
+    } fingers;
+    open();
+    CDriverProxy::get()->initialize(&fingers);
+    const QPoint first = at({0.3, 0.4});
+    touch({first}, Qt::TouchPointPressed);
+    touch({first, first + QPoint(60, 0)}, Qt::TouchPointPressed);
+    touch({first, first + QPoint(80, 0)}, Qt::TouchPointMoved);
+    touch({first, first + QPoint(80, 0)}, Qt::TouchPointReleased);
+    CDriverProxy::get()->initialize(live());
+    QVERIFY(fingers.down.size() == 2 && fingers.down[0] != fingers.down[1]);
+    QCOMPARE(fingers.up, fingers.down);
+    QCOMPARE(fingers.places[fingers.down[1]], surface()->mapToGlobal(first + QPoint(80, 0)));
 }
 
 void TestLiveHands::pinchesAnyCamera()

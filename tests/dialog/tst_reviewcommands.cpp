@@ -1,10 +1,11 @@
 #include "capture/timerwidget.h"
 #include "dialog/layout.h"
 #include "tests/dialog/mainwindow.h"
+#include "tests/support/clipboard.h"
 #include "widgets/moviewidget.h"
 #include "widgets/picturelistview.h"
 
-#include <QProcess>
+#include <QToolTip>
 
 class TestReviewCommands : public QObject
 {
@@ -26,7 +27,10 @@ private:
     static void choose(const MainWindow &main, int row);
     static void checkList(const MainWindow &main, const QVector<Photo> &files);
     static QStringList takeRequest();
-    static QByteArray onClipboard(const QString &type);
+    static void copyByKey(const MainWindow &main)
+    {
+        QTest::keyClick(main.window->focusWidget(), Qt::Key_C, Qt::ControlModifier);
+    }
 };
 
 // White is 255, an empty viewer 0.
@@ -62,15 +66,6 @@ QStringList TestReviewCommands::takeRequest()
     const QString text = QString::fromUtf8(file.readAll());
     file.remove();
     return text.endsWith('\n') ? text.chopped(1).split('\n') : QStringList{"cut: " + text};
-}
-
-// As another program finds it.
-QByteArray TestReviewCommands::onClipboard(const QString &type)
-{
-    QProcess reader;
-    reader.start("xclip", {"-selection", "clipboard", "-o", "-t", type});
-    static_cast<void>(QTest::qWaitFor([&] { return reader.state() == QProcess::NotRunning; }));
-    return reader.readAllStandardOutput();
 }
 
 void TestReviewCommands::gridPlaces()
@@ -154,6 +149,8 @@ void TestReviewCommands::photosOfAnyKindAreChosenShownAndPasted()
     checkList(main, files);
     for (int row = names.size() - 1; row >= 0; --row)
         choose(main, row);
+    copyByKey(main);
+    QCOMPARE(onClipboard("text/uri-list").count("file:///"), 9);
     main.press("Show");
     QCOMPARE(main.tiles().size(), 9);
     QCOMPARE(main.buttons(), QString("Live+ PutPhoto+ List+ Close+"));
@@ -164,8 +161,11 @@ void TestReviewCommands::photosOfAnyKindAreChosenShownAndPasted()
     pasted.removeAt(1);
     QCOMPARE(takeRequest(), head + pasted);
 
+    auto *zoom = main.tiles().first()->findChild<CStretchBitmapButton *>();
+    QTest::mouseMove(zoom);
+    QTRY_COMPARE(QToolTip::text(), QString("Zoom"));
     // The button for going back comes under the finger, and under the key, that zoomed.
-    main.tiles().first()->findChild<CStretchBitmapButton *>()->setFocus(Qt::TabFocusReason);
+    zoom->setFocus(Qt::TabFocusReason);
     QTest::keyClick(main.window->focusWidget(), Qt::Key_Space);
     QCOMPARE(main.tiles().size(), 1);
     QCOMPARE(main.tiles().first()->geometry(), QRect(45, 0, 933, 700));
@@ -181,9 +181,15 @@ void TestReviewCommands::photosOfAnyKindAreChosenShownAndPasted()
     main.tiles().first()->findChildren<CStretchBitmapButton *>().last()->setFocus(Qt::TabFocusReason);
     QTest::keyClick(main.window->focusWidget(), Qt::Key_Space);
     QCOMPARE(main.tiles().size(), 9);
-    QTest::keyClick(main.window->focusWidget(), Qt::Key_C, Qt::ControlModifier);
+    copyByKey(main);
     QCOMPARE(onClipboard("text/uri-list").count("file:///"), 9);
     QCOMPARE(onClipboard("image/png"), QByteArray());
+    main.press("Live");
+    QTRY_VERIFY(main.button("Photo")->isEnabled());
+    main.press("Photo");
+    copyByKey(main);
+    QCOMPARE(QUrl(onClipboard("text/uri-list").trimmed()).toLocalFile(),
+             working(main.view<PictureWidget>()->fileName()));
     QVERIFY(WebcamUtil::saveData(QDir::homePath())); // also what could not be read
     QCOMPARE(MainWindow::captures(), QStringList());
 }
@@ -214,7 +220,7 @@ void TestReviewCommands::moviesOfAnyKindAreWatchedAndPasted()
             QTRY_VERIFY(player->totalTime() > 0); // it is loaded
         main.window->OnVXS();
         QCOMPARE(takeRequest(), QStringList({"1", "XXX", WebcamUtil::getTemporaryPath(), "/" + movie}));
-        QTest::keyClick(main.window.get(), Qt::Key_C, Qt::ControlModifier);
+        copyByKey(main);
         QCOMPARE(QUrl(onClipboard("text/uri-list").trimmed()).toLocalFile(), working(movie));
         main.press("MoviePlay");
         QCOMPARE(main.buttons(), QString("Live+ MoviePause+ List+ Close+"));

@@ -76,14 +76,23 @@ private slots:
         QVERIFY(place->maximum() > 500);
         QWidget *strip = list.viewport();
         QWindow *window = list.windowHandle();
-        for (const bool isHeldFirst : {false, true}) {
+        QTouchDevice *screen = QTest::createTouchDevice();
+        const auto touch = [=] { return QTest::touchEvent(window, screen); };
+        for (const QString hand : {"mouse", "mouse held first", "finger"}) {
+            const bool isFinger = hand == "finger";
             place->setValue(0);
-            QTest::mousePress(window, Qt::LeftButton, {}, {700, 100});
-            if (isHeldFirst) // for longer than a press is kept back
+            QPoint at(700, 100);
+            isFinger ? void(touch().press(0, at, window)) : QTest::mousePress(window, Qt::LeftButton, {}, at);
+            if (hand == "mouse held first") // for longer than a press is kept back
                 QTest::qWait(400);
-            for (int x = 680; x >= 500; x -= 20)
-                QTest::mouseMove(window, {x, 100}, 10);
-            QTest::mouseRelease(window, Qt::LeftButton, {}, {500, 100}, 10);
+            while (at.x() > 500) {
+                at.rx() -= 20;
+                QTest::qWait(10);
+                isFinger ? void(touch().move(0, at, window)) : QTest::mouseMove(window, at);
+            }
+            QTest::qWait(10);
+            isFinger ? void(touch().release(0, at, window))
+                     : QTest::mouseRelease(window, Qt::LeftButton, {}, at);
             const int atRelease = place->value();
             QVERIFY2(atRelease > 100, qPrintable(QString::number(atRelease)));
             QTRY_VERIFY(place->value() > atRelease + 20); // runs on

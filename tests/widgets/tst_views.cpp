@@ -1,3 +1,4 @@
+#include "util/desktop/look.h"
 #include "widgets/moviewidget.h"
 #include "widgets/pictureloader.h"
 #include "widgets/picturewidget.h"
@@ -71,6 +72,35 @@ private slots:
         QCOMPARE(button.findChild<QLabel *>()->text(), QString("  Movie /\n    Photo"));
         QCOMPARE(button.findChild<QLabel *>()->layoutDirection(), Qt::RightToLeft);
         QCOMPARE(button.layoutDirection(), Qt::LeftToRight); // the bitmap's drawing stays left of the caption
+    }
+
+    void captionStandsStraightAndIsGreyedOut()
+    {
+        applyLook();
+        CStretchBitmapButton button("SwitchPhoto");
+        button.setCaptionText("Photo /\n    Photo"); // both begin with the same letter
+        button.show();
+        auto *caption = button.findChild<QLabel *>();
+        // The letters of a line: the leftmost column in which there are any, and how light the lightest is.
+        const auto lettersOfLine = [caption](int line) {
+            QImage image(caption->size(), QImage::Format_RGB32);
+            image.fill(Qt::black);
+            caption->render(&image, {}, {}, QWidget::DrawChildren);
+            const int middle = image.height() / 2;
+            std::pair<int, int> found(image.width(), 0);
+            for (int y = line * middle; y < (line + 1) * middle; ++y) {
+                for (int x = 0; x < image.width(); ++x) {
+                    const int light = qGray(image.pixel(x, y));
+                    found = {light > 60 ? qMin(found.first, x) : found.first, qMax(found.second, light)};
+                }
+            }
+            return found;
+        };
+        QCOMPARE(lettersOfLine(0), lettersOfLine(1));
+        QVERIFY(lettersOfLine(0).second > 200);
+        button.setEnabled(false);
+        const int greyed = lettersOfLine(0).second;
+        QVERIFY2(greyed > 100 && greyed < 200, qPrintable(QString::number(greyed)));
     }
 
     // A small tile made large shows the small picture's few colours: the stored picture was scaled.
