@@ -103,8 +103,8 @@ public:
     // Of the surroundings of a point: pictures of a page have dark letters.
     static int brightness(const QPoint &point)
     {
-        const QPoint pixel = point * qApp->devicePixelRatio();
-        const QImage around = screen().copy(QRect(pixel - QPoint(4, 4), QSize(9, 9)));
+        const QImage around =
+            QGuiApplication::primaryScreen()->grabWindow(0, point.x() - 4, point.y() - 4, 9, 9).toImage();
         return qGray(around.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).pixel(0, 0));
     }
 

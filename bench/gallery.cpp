@@ -11,12 +11,18 @@ namespace
 {
 
 constexpr int photosInGrid = 3;
+constexpr int mostChosen = 9;
+constexpr int photosToLoad = 40; // which takes long enough to be looked at
 
-// What does not come is told, and the walk goes on.
-template<class Condition> void waitFor(const char *what, Condition condition, int milliseconds = 10000)
+int missed = 0;
+
+// What does not come is told and counted, and the walk goes on.
+template<class Condition> void waitFor(const char *what, Condition condition, int milliseconds = 20000)
 {
-    if (!QTest::qWaitFor(condition, milliseconds))
-        qWarning("waited in vain for %s", what);
+    if (QTest::qWaitFor(condition, milliseconds))
+        return;
+    qWarning("waited in vain for %s", what);
+    ++missed;
 }
 
 class Gallery
@@ -32,7 +38,10 @@ private:
     void recordMovie();
     void review();
     void zoom();
+    void choose(int count);
+    void view();
     void load();
+    void chooseTooMany();
     void settings();
     void leave();
 
@@ -41,6 +50,7 @@ private:
     static void waitForWindows(int count);
     static void waitUntilStill();
     void shoot(const QString &name);
+    void shootMoving(const QString &name);
 
     const QDir m_folder;
     int m_count = 0;
@@ -76,6 +86,9 @@ void Gallery::prepare()
     Program::press("F1");
     shoot("keys");
     Program::press("F1");
+    Program::press("r");
+    shoot("turned");
+    Program::xdotool({"key", "r", "r", "r"});
 }
 
 void Gallery::takePhotos()
@@ -102,6 +115,9 @@ void Gallery::recordMovie()
     shoot("recording");
     press(Program::liveRow(3), "EEE.");
     shoot("movie");
+    Program::click(Program::row(1));
+    QTest::qWait(700);
+    shootMoving("playing");
     press(Program::row(2), "EdEE");
     shoot("movies");
 }
@@ -110,21 +126,47 @@ void Gallery::review()
 {
     press(Program::row(3), "EdEE");
     shoot("list");
-    Program::press("space");
-    const QString language = QSettings("Quenmark", "Veltrix Software").value("locale").toString();
-    const QString next = QLocale(language).textDirection() == Qt::RightToLeft ? "Left" : "Right";
-    for (int more = 1; more < photosInGrid; ++more) {
-        Program::press(next);
-        Program::press("space");
-    }
+    choose(photosInGrid);
     waitForRow("EEEE");
     shoot("chosen");
     press(Program::row(1), "EEE.");
     shoot("grid");
     zoom();
     press(Program::row(2), "EdEE");
+    view();
     load();
+    chooseTooMany();
     press(Program::row(0), "EEEEE");
+}
+
+// The first ones, by key.
+void Gallery::choose(int count)
+{
+    const QString language = QSettings("Quenmark", "Veltrix Software").value("locale").toString();
+    const QString next = QLocale(language).textDirection() == Qt::RightToLeft ? "Left" : "Right";
+    Program::press("space");
+    for (int more = 1; more < count; ++more) {
+        Program::press(next);
+        Program::press("space");
+    }
+}
+
+void Gallery::view()
+{
+    choose(1);
+    waitForRow("EEEE");
+    press(Program::row(1), "EEE.");
+    shoot("view");
+    press(Program::row(2), "EdEE");
+}
+
+void Gallery::chooseTooMany()
+{
+    choose(mostChosen + 1);
+    waitForWindows(2);
+    shoot("toomany");
+    Program::press("Return");
+    waitForWindows(1);
 }
 
 void Gallery::zoom()
@@ -140,12 +182,19 @@ void Gallery::zoom()
 
 void Gallery::load()
 {
-    QDir::home().mkpath("Earlier lessons/20260301");
+    const QDir lesson(QDir::home().filePath("Earlier lessons/20260301"));
+    lesson.mkpath(".");
+    const QString photo = Program::workingFolder().filePath(Program::captures({"photo*"}).first());
+    for (int i = 0; i < photosToLoad; ++i)
+        QFile::copy(photo, lesson.filePath(QString("photo202603010900%1.png").arg(i, 5, 10, QChar('0'))));
     Program::click(Program::row(2));
     QTest::qWait(1000);
     shoot("folderchooser");
+    Program::xdotool({"type", lesson.path()});
     Program::press("Return");
     waitForWindows(2);
+    shootMoving("loading");
+    waitFor("the loaded photos", [] { return Program::captures().size() > photosToLoad; });
     QTest::qWait(700);
     shoot("loaded");
     Program::press("Return");
@@ -185,9 +234,7 @@ void Gallery::press(const QPoint &button, const QString &row)
 
 void Gallery::waitForRow(const QString &row)
 {
-    // A caption that is read from right to left may stand where the plate is looked at.
-    waitFor(
-        qPrintable(row), [&row] { return Program::rowLooks(Program::screen()) == row; }, 4000);
+    waitFor(qPrintable(row), [&row] { return Program::rowLooks(Program::screen()) == row; });
 }
 
 void Gallery::waitForWindows(int count)
@@ -213,6 +260,11 @@ void Gallery::shoot(const QString &name)
     // A pointer over a button would be followed by its tooltip.
     Program::xdotool({"mousemove", "0", "0"});
     waitUntilStill();
+    shootMoving(name);
+}
+
+void Gallery::shootMoving(const QString &name)
+{
     const QString number = QString("%1").arg(++m_count, 2, 10, QChar('0'));
     if (!Program::screen().save(m_folder.filePath(number + '-' + name + ".png")))
         qFatal("a picture cannot be written");
@@ -227,5 +279,5 @@ int main(int argc, char **argv)
     if (argc != 2)
         qFatal("usage: gallery FOLDER");
     Gallery(QString::fromLocal8Bit(argv[1])).walk();
-    return 0;
+    return missed > 0;
 }
