@@ -168,7 +168,7 @@ void Trials::report()
 
 } // namespace
 
-// disk [EVERY [FIRST]]: every so manieth change, all when left out, from the first on.
+// disk [EVERY [FIRST]]: every so manieth change and worse disk, all when left out, from the first on.
 int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
@@ -182,7 +182,7 @@ int main(int argc, char **argv)
         trials.run({change, change, errors[change % 3]});
     }
     constexpr int worseTrials = 8;
-    for (int trial = 0; trial < worseTrials; trial += every) {
+    for (int trial = first - 1; trial < worseTrials; trial += every) {
         const int change = 1 + changes * trial / worseTrials;
         trials.run({change, change, hang});
         trials.run({change, INT_MAX, EROFS}); // from then on it is read-only
