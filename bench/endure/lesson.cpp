@@ -22,6 +22,18 @@ bool isLive()
     return isPictureShown() && Program::rowLooks(Program::screen()) == "EEEEE";
 }
 
+// A screen without the live row, with so many buttons. Held up by the disk it has only grey ones for a while.
+bool isReview(int buttons)
+{
+    const QString looks = Program::rowLooks(Program::screen());
+    return looks.startsWith('E') && looks.size() == 4 && looks.size() - looks.count('.') == buttons;
+}
+
+bool isRecording()
+{
+    return Program::rowLooks(Program::screen()) == "dddEd";
+}
+
 QImage dialogPicture()
 {
     constexpr int fromBelow = 1;
@@ -121,7 +133,7 @@ void Lesson::takePhoto()
     Program::click(Program::liveRow(1));
     await("the photo", Program::showsPreview);
     Program::click(Program::acceptButton());
-    await("the photo's review", [] { return Program::buttonsShown() == 3; });
+    await("the photo's review", [] { return isReview(3); });
     Program::click(Program::row(0));
     awaitLive();
 }
@@ -133,7 +145,7 @@ void Lesson::takeSeries()
         Program::click(Program::liveRow(2));
         await("a photo of the series", [=] { return Program::captures({"photo*"}).size() == before + shot; });
     }
-    await("the series' grid", [] { return Program::buttonsShown() == 3; });
+    await("the series' grid", [] { return isReview(3); });
     Program::click(Program::row(0));
     awaitLive();
 }
@@ -141,13 +153,14 @@ void Lesson::takeSeries()
 void Lesson::startMovie()
 {
     Program::click(Program::liveRow(3));
-    await("the recording", [] { return Program::rowLooks(Program::screen()) == "dddEd"; });
+    await("the recording", isRecording);
 }
 
 void Lesson::stopMovie(int lookMilliseconds)
 {
+    await("the button that stops", isRecording);
     Program::click(Program::liveRow(3));
-    await("the movie", [] { return Program::buttonsShown() == 3 && isPictureShown(); });
+    await("the movie", [] { return isReview(3) && isPictureShown(); });
     QTest::qWait(lookMilliseconds);
     Program::click(Program::row(0));
     awaitLive();
@@ -193,7 +206,7 @@ void Lesson::changeSettings()
 QImage Lesson::load(const QString &folder)
 {
     Program::click(Program::liveRow(4));
-    await("the list", [] { return Program::buttonsShown() == 4; });
+    await("the list", [] { return isReview(4); });
     Program::click(Program::row(2));
     await("the chooser", [] { return Program::windows("Load Directory") == 1; });
     Program::xdotool({"type", folder});
