@@ -222,7 +222,7 @@ void MovieRecorder::keepFirst(const FramePtr &first)
 
 size_t MovieRecorder::mostWaitingFrames() const
 {
-    return size_t(mostWaitingSeconds * m_settings.framesPerSecond);
+    return size_t(mostWaitingSeconds) * size_t(m_settings.framesPerSecond);
 }
 
 bool MovieRecorder::isBehind() const
