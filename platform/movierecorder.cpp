@@ -19,10 +19,9 @@ namespace
 
 using namespace std::chrono_literals;
 
-// What may wait for the start, or for the encoder, which on a slow machine take more than a second; with more
-// frames than these the end of a movie would take too long.
+// What may wait for the start or for the encoder, beside a second's worth of frames; with more of them the
+// end of a movie would take too long.
 constexpr gsize mostWaitingBytes = gsize(128) << 20;
-constexpr int mostWaitingSeconds = 3;
 
 // How long a slow disk may take nothing of what is left of a movie before it is given up.
 constexpr auto closingLimit = 10s;
@@ -206,7 +205,7 @@ void MovieRecorder::lookForLife()
 
 void MovieRecorder::keep(const FramePtr &frame)
 {
-    if (m_keptBytes >= mostWaitingBytes || m_kept.size() >= mostWaitingFrames())
+    if (m_keptBytes >= mostWaitingBytes || m_kept.size() >= size_t(m_settings.framesPerSecond))
         return;
     m_keptBytes += gst_buffer_get_size(frame->picture.get());
     m_kept.push_back(frame);
@@ -220,16 +219,11 @@ void MovieRecorder::keepFirst(const FramePtr &first)
     m_startTime = m_nextTime = m_kept.front()->clockTime;
 }
 
-size_t MovieRecorder::mostWaitingFrames() const
-{
-    return size_t(mostWaitingSeconds) * size_t(m_settings.framesPerSecond);
-}
-
 bool MovieRecorder::isBehind() const
 {
     auto *pictures = GST_APP_SRC(m_movie.pictures);
     return gst_app_src_get_current_level_bytes(pictures) >= mostWaitingBytes ||
-           gst_app_src_get_current_level_buffers(pictures) >= mostWaitingFrames();
+           gst_app_src_get_current_level_buffers(pictures) >= guint64(m_settings.framesPerSecond);
 }
 
 void MovieRecorder::push(const CapturedFrame &frame)

@@ -81,7 +81,6 @@ private:
     static GstBusSyncReply onMessage(GstBus *bus, GstMessage *message, gpointer self);
     void note(GstMessage *message);
     void fail(MovieEnd why, const QString &line);
-    size_t mostWaitingFrames() const;
     bool isBehind() const;
     void push(const CapturedFrame &frame);
     bool hasIndexFor(GstClockTime time);

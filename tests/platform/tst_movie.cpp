@@ -36,7 +36,7 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 
-// Milliseconds. Three seconds of frames may wait for it, and a machine be slow.
+// Milliseconds. A second's frames may wait for it, and a machine be slow.
 constexpr int waitForEncoder = 20000;
 
 using Ending = void (*)(LiveVideoData &);
