@@ -177,7 +177,7 @@ const Facts &CPictorelDlg::facts() const
 void CPictorelDlg::SetLocalConnect()
 {
     connect(m_movieView, &MovieWidget::finished, this, &CPictorelDlg::OnMovieFinished);
-    connect(m_movieView, &MovieWidget::startFailed, this, &CPictorelDlg::tellOfPlayer, Qt::QueuedConnection);
+    connect(m_movieView, &MovieWidget::brokeDown, this, &CPictorelDlg::tellOfPlayer, Qt::QueuedConnection);
     connect(m_timerView, &TimerWidget::movieTimeOver, this, &CPictorelDlg::OnMovieStop);
     connect(m_timerView, &TimerWidget::shot, this, &CPictorelDlg::OnShot);
     connect(m_timerView, &TimerWidget::set, this, &CPictorelDlg::setMovieTime);

@@ -7,8 +7,8 @@
 #include <chrono>
 
 // A camera's stream from the device to its frames, raw or JPEG: source, fixed mode, frames, and of H.264 its
-// decoder. Every call can
-// last as long as the camera's driver takes, so only the thread that grabs the frames makes them.
+// decoder. Every call can last as long as the camera's driver takes, so only the thread that grabs the frames
+// makes them.
 class CameraPipeline
 {
 public:

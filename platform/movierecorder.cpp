@@ -19,9 +19,11 @@ namespace
 
 using namespace std::chrono_literals;
 
-// What may wait for the start or for the encoder, beside a second's worth of frames; with more of them the
-// end of a movie would take too long.
+// What may wait for the encoder beside a second's worth of frames; with more of them the end of a movie would
+// take too long, and a kill take more.
 constexpr gsize mostWaitingBytes = gsize(128) << 20;
+// Until it first keeps up: a slow machine needs more than a second to load and to start it.
+constexpr int startingSeconds = 3;
 
 // How long a slow disk may take nothing of what is left of a movie before it is given up.
 constexpr auto closingLimit = 10s;
@@ -205,7 +207,7 @@ void MovieRecorder::lookForLife()
 
 void MovieRecorder::keep(const FramePtr &frame)
 {
-    if (m_keptBytes >= mostWaitingBytes || m_kept.size() >= size_t(m_settings.framesPerSecond))
+    if (m_keptBytes >= mostWaitingBytes || m_kept.size() >= mostWaitingFrames())
         return;
     m_keptBytes += gst_buffer_get_size(frame->picture.get());
     m_kept.push_back(frame);
@@ -219,11 +221,18 @@ void MovieRecorder::keepFirst(const FramePtr &first)
     m_startTime = m_nextTime = m_kept.front()->clockTime;
 }
 
-bool MovieRecorder::isBehind() const
+guint64 MovieRecorder::mostWaitingFrames() const
+{
+    return guint64(m_settings.framesPerSecond) * (m_hasKeptUp ? 1 : startingSeconds);
+}
+
+bool MovieRecorder::isBehind()
 {
     auto *pictures = GST_APP_SRC(m_movie.pictures);
+    const guint64 waiting = gst_app_src_get_current_level_buffers(pictures);
+    m_hasKeptUp = m_hasKeptUp || waiting == 0;
     return gst_app_src_get_current_level_bytes(pictures) >= mostWaitingBytes ||
-           gst_app_src_get_current_level_buffers(pictures) >= guint64(m_settings.framesPerSecond);
+           waiting >= mostWaitingFrames();
 }
 
 void MovieRecorder::push(const CapturedFrame &frame)

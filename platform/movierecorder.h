@@ -43,8 +43,8 @@ public:
     // finish(), and none once the movie was discarded or has failed. Asked before each; after a no it is
     // neither asked nor given anything any more.
     bool wants(GstClockTime captured);
-    // Adds a picture as the settings have it. While the start, or then the encoder, is behind by a second or
-    // by 128 MB frames are left out rather than kept waiting.
+    // Adds a picture as the settings have it. While the encoder is behind by a second, at its start by three,
+    // or by 128 MB frames are left out rather than kept waiting.
     void take(const FramePtr &frame);
     // The camera gives no further frame.
     void noteLastFrame();
@@ -81,7 +81,8 @@ private:
     static GstBusSyncReply onMessage(GstBus *bus, GstMessage *message, gpointer self);
     void note(GstMessage *message);
     void fail(MovieEnd why, const QString &line);
-    bool isBehind() const;
+    guint64 mostWaitingFrames() const;
+    bool isBehind();
     void push(const CapturedFrame &frame);
     bool hasIndexFor(GstClockTime time);
     void tellShortRoom() const;
@@ -102,6 +103,7 @@ private:
     GstClockTime m_indexUsedUpTo = 0; // if each frame were half of a frame's time after the one before
     GstClockTime m_nextTime = 0;      // the next frame is not older: the first may come twice
 
+    bool m_hasKeptUp = false; // the encoder, since it was started
     std::chrono::steady_clock::time_point m_lastInTime = std::chrono::steady_clock::now(); // of a frame
     std::atomic<std::chrono::steady_clock::time_point> m_lastLook{
         std::chrono::steady_clock::time_point::min()};

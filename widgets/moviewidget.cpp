@@ -137,7 +137,6 @@ void MovieWidget::restart()
 {
     if (++m_restarts > mostRestarts) {
         noteBreakdown();
-        emit startFailed();
         return;
     }
     m_standstill->start(standstillMilliseconds << m_restarts); // it may only have been slow
@@ -154,6 +153,7 @@ void MovieWidget::noteBreakdown()
     endStart();
     forgetWish();
     emit finished();
+    emit brokeDown();
 }
 
 bool MovieWidget::hasStopped()

@@ -23,7 +23,7 @@ public:
 
     // Whether the movie was told to play, and neither to wait nor to stop since, nor came to its end: what
     // the player does follows a moment later. A player that breaks down counts as having come to the end,
-    // with finished() and a line on stderr.
+    // with finished(), brokeDown() and a line on stderr.
     bool isPlayWanted() const { return m_isPlayWanted; }
 
     // Makes the next part of the player, some twenty milliseconds' work; true when none is left. Create()
@@ -34,8 +34,8 @@ public:
     void pause() { disp(); }
 
 signals:
-    // After several tries.
-    void startFailed();
+    // It could not be started in several tries, or has stopped in the middle.
+    void brokeDown();
 
 public slots:
     // Loads the movie; true, also when it turns out not to be playable.

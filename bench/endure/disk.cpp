@@ -19,8 +19,8 @@ struct Fault {
 };
 
 constexpr int hang = 0;
-// A photo, a movie and its preview, and a photo that is loaded.
-constexpr int allCaptures = 4;
+// A photo, a series, a movie and its preview, and a photo that is loaded.
+constexpr int allCaptures = 7;
 
 class Trials
 {
@@ -79,6 +79,7 @@ int Trials::run(const Fault &fault)
     m_lesson.launch(environment);
     attempt([this] { m_lesson.awaitLive(); });
     attempt([this] { m_lesson.takePhoto(); });
+    attempt([this] { m_lesson.takeSeries(true); });
     attempt([this] { m_lesson.recordMovie(); });
     attempt([this] { load(); });
     attempt([this] { m_lesson.leaveSaving(); });

@@ -5,6 +5,7 @@
 
 #include <QCryptographicHash>
 #include <QDirIterator>
+#include <QRegularExpression>
 #include <QSettings>
 
 #include <csignal>
@@ -73,6 +74,7 @@ private:
     QString folderToLoad();
     void recordMovie();
     Captures captures() const;
+    bool isInPlace(const QString &capture) const;
     QSet<QString> strays() const;
     static void miss(int *count, const char *what, const QString &which)
     {
@@ -90,7 +92,7 @@ private:
     int m_movieLength = 0;             // milliseconds
     int m_loaded = 0;
     QSet<QString> m_firstStrays;
-    int m_dead = 0, m_damaged = 0, m_lost = 0, m_twice = 0, m_shortened = 0;
+    int m_dead = 0, m_damaged = 0, m_astray = 0, m_lost = 0, m_twice = 0, m_shortened = 0;
 };
 
 QString Ordeal::folderToLoad()
@@ -164,6 +166,17 @@ Captures Ordeal::captures() const
     return capturesIn({Program::workingFolder().path(), QDir::homePath(), m_otherDisk.path()});
 }
 
+// In the working folder, or in a folder of its own day and lesson where it is saved.
+bool Ordeal::isInPlace(const QString &capture) const
+{
+    static const QRegularExpression saved("^/VeltrixCamera/[^/]+/[^/]+$");
+    const auto isSavedBelow = [&](const QString &folder) {
+        return capture.startsWith(folder) && saved.match(capture.mid(folder.size())).hasMatch();
+    };
+    return QFileInfo(capture).path() == Program::workingFolder().path() || isSavedBelow(QDir::homePath()) ||
+           isSavedBelow(m_otherDisk.path());
+}
+
 // All other files of the program's: settings, locks, and what a death may have left.
 QSet<QString> Ordeal::strays() const
 {
@@ -187,6 +200,8 @@ void Ordeal::lookAt()
     const Captures all = captures();
     for (auto capture = all.begin(); capture != all.end(); ++capture) {
         m_captured += capture.key();
+        if (!isInPlace(capture.value()))
+            miss(&m_astray, "astray", capture.value());
         if (m_known.contains(capture.key())) {
             if (checksum(capture.value()) != m_known[capture.key()])
                 miss(&m_damaged, "damaged", capture.value());
@@ -225,6 +240,7 @@ void Ordeal::end()
         miss(&newStrays, "new", path);
     tell("starts and steps that failed", m_dead, 0, "");
     tell("captures that are not whole", m_damaged, 0, "");
+    tell("captures that are not where they belong", m_astray, 0, "");
     tell("captures lost", m_lost, 0, "");
     tell("captures standing twice after the last save", m_twice, 0, "");
     tell("movies short of more than their last second", m_shortened, 0, "");

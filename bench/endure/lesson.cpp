@@ -138,7 +138,7 @@ void Lesson::takePhoto()
     awaitLive();
 }
 
-void Lesson::takeSeries()
+void Lesson::takeSeries(bool isPasted)
 {
     const int before = Program::captures({"photo*"}).size();
     for (int shot = 1; shot <= 3; ++shot) {
@@ -146,6 +146,8 @@ void Lesson::takeSeries()
         await("a photo of the series", [=] { return Program::captures({"photo*"}).size() == before + shot; });
     }
     await("the series' grid", [] { return isReview(3); });
+    if (isPasted)
+        Program::click(Program::row(1));
     Program::click(Program::row(0));
     awaitLive();
 }
@@ -224,9 +226,9 @@ QImage Lesson::load(const QString &folder)
 
 void Lesson::leaveSaving()
 {
-    Program::click(Program::exitButton());
-    await("the question", [] { return Program::windows() == 2; });
     try {
+        Program::click(Program::exitButton());
+        await("the question", [] { return Program::windows() == 2; });
         await("the answer", [] { return Program::answer(Program::Yes), Program::windows() < 2; });
         await("the end", [] { return false; });
     } catch (const ProgramHasEnded &) {

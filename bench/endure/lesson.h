@@ -40,7 +40,8 @@ public:
 
     // Each begins and ends with the live picture.
     void takePhoto();
-    void takeSeries();
+    // Pasted, or only looked at.
+    void takeSeries(bool isPasted = false);
     void startMovie();
     // The movie is looked at for so long.
     void stopMovie(int lookMilliseconds = 0);
@@ -50,7 +51,7 @@ public:
     void changeSettings();
     // Returns what the dialog shows at its end.
     QImage load(const QString &folder);
-    // Ends the program.
+    // Ends the program, which asks nothing when there is nothing to save.
     void leaveSaving();
 
     TestDevices devices;

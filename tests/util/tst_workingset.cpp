@@ -251,6 +251,32 @@ private slots:
         }
     }
 
+    void twoUsersSaveIntoOneFolder()
+    {
+        const QTemporaryDir open("/dev/shm/orvane-test.XXXXXX");
+        const QString save = open.filePath("save");
+        QVERIFY(QDir().mkdir(save));
+        QVERIFY(chmod(QFile::encodeName(open.path()), 0755) == 0 &&
+                chmod(QFile::encodeName(save), 0777) == 0);
+        QStringList names;
+        for (const uid_t user : {12345U, 12346U, 12345U}) { // the first once more, in what is the other's
+            const QString temporary = open.filePath(QString::number(user));
+            QDir().mkdir(temporary);
+            if (chown(QFile::encodeName(temporary), user, user) != 0 || setegid(user) != 0 ||
+                seteuid(user) != 0)
+                QSKIP("only root can be several users");
+            qputenv("TMPDIR", QFile::encodeName(temporary));
+            WebcamUtil::m_pictureDataPath.clear();
+            names += QString("photo%1.png").arg(names.size());
+            const bool isSaved = write(working(names.last()), "x") && WebcamUtil::saveData(save);
+            QVERIFY(seteuid(0) == 0 && setegid(0) == 0);
+            QVERIFY(isSaved);
+            const QString today = save + "/VeltrixCamera/" + QDate::currentDate().toString("yyyyMMdd");
+            QCOMPARE(everything(today), names);
+            QCOMPARE(QFileInfo(today + '/' + names.last()).ownerId(), user);
+        }
+    }
+
     // Each is moved before the next is begun with: what cannot be removed is the last that stands in both
     // places.
     void stopsAtASourceThatStays()

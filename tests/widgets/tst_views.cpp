@@ -194,11 +194,13 @@ private slots:
         QVERIFY(finished.wait(10000));
 
         // The player stops in the middle, as when its sound server dies: it can be told to play again.
+        const QSignalSpy brokeDown(&movie, &MovieWidget::brokeDown);
         movie.Play();
         QTRY_VERIFY(movie.isPlaying() && movie.currentTime() > 100);
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("does not play"));
         movie.mediaObject()->stop();
         QVERIFY(finished.wait(5000) && !movie.isPlayWanted());
+        QCOMPARE(brokeDown.size(), 1);
         movie.Play();
         QTRY_VERIFY(movie.isPlaying());
     }
