@@ -40,6 +40,7 @@ public:
 private:
     void attempt(const std::function<void()> &step);
     void goLive();
+    static void pressWhatLeadsBack(const QString &row);
     void load();
     void judge(const Fault &fault);
     void miss(int *count, const char *what, const Fault &fault)
@@ -104,19 +105,23 @@ void Trials::attempt(const std::function<void()> &step)
     }
 }
 
-// From wherever a message has left the program, which may also be on its way out.
+// From wherever a message has left the program, which may also be on its way out. What was pressed has time
+// to show: a second press would meet the live row, and take a photo.
 void Trials::goLive()
 {
+    constexpr int answerMilliseconds = 10000;
     for (;;) {
+        QString pressed;
+        QElapsedTimer sincePress;
         try {
-            m_lesson.await("what can be pressed", [] {
-                if (Program::rowLooks(Program::screen()) == "EEEEE")
-                    return true;
-                Program::click(Program::look(Program::screen(), Program::retryButton()) == 'E'
-                                   ? Program::retryButton()
-                               : Program::rowLooks(Program::screen()) == "dddEd" ? Program::liveRow(3)
-                                                                                 : Program::row(0));
-                return false;
+            m_lesson.await("what can be pressed", [&] {
+                const QString row = Program::rowLooks(Program::screen());
+                if (row != pressed || sincePress.hasExpired(answerMilliseconds)) {
+                    pressWhatLeadsBack(row);
+                    pressed = row;
+                    sincePress.start();
+                }
+                return row == "EEEEE";
             });
             return;
         } catch (const MessageIsShown &) {
@@ -124,6 +129,17 @@ void Trials::goLive()
             return;
         }
     }
+}
+
+// Nothing while all is grey.
+void Trials::pressWhatLeadsBack(const QString &row)
+{
+    if (Program::look(Program::screen(), Program::retryButton()) == 'E')
+        Program::click(Program::retryButton());
+    else if (row == "dddEd")
+        Program::click(Program::liveRow(3));
+    else if (row.startsWith('E') && row != "EEEEE")
+        Program::click(row.size() == 4 ? Program::row(0) : Program::liveRow(0));
 }
 
 // Its dialog tells in words how it went. The first trial's is the one in which nothing fails.

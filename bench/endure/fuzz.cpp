@@ -12,6 +12,7 @@
 #include <QTemporaryDir>
 
 #include <cstdlib>
+#include <sanitizer/lsan_interface.h>
 
 namespace
 {
@@ -94,7 +95,10 @@ void write(const QString &path, const QByteArray &bytes)
 
 [[maybe_unused]] void caps(const QByteArray &bytes)
 {
+    // GStreamer's parser leaks where a list does not end. No camera's caps are text.
+    __lsan_disable();
     GstCaps *caps = gst_caps_from_string(bytes.constData());
+    __lsan_enable();
     if (!caps)
         return;
     const std::vector<CaptureMode> modes = captureModes(caps);

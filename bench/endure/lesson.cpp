@@ -34,6 +34,15 @@ bool isRecording()
     return Program::rowLooks(Program::screen()) == "dddEd";
 }
 
+// Before the program's window is shown a message is alone; the window fills the screen.
+bool isMessageAlone()
+{
+    const QByteArray window = Program::xdotool(
+        {"search", "--onlyvisible", "--name", "^Orvane", "getwindowgeometry", "--shell", "%1"});
+    const int height = QString(window).section("HEIGHT=", 1).section('\n', 0, 0).toInt();
+    return height > 0 && height < Program::height() / 2;
+}
+
 QImage dialogPicture()
 {
     constexpr int fromBelow = 1;
@@ -114,9 +123,9 @@ void Lesson::await(const char *what, const std::function<bool()> &condition, int
     const auto isOver = [&] { return hasEnded() || condition(); };
     QElapsedTimer waited;
     for (waited.start(); !QTest::qWaitFor(isOver, patienceMilliseconds);) {
-        // Before the window is shown, the message is alone.
         const int shown = Program::windows();
-        if (shown > windows || (shown == 1 && Program::rowLooks(Program::screen()) == "....")) {
+        if (shown > windows || (shown == 1 && isMessageAlone())) {
+            std::fprintf(stderr, "a message comes before %s\n", what);
             Program::press("Return");
             throw MessageIsShown();
         }
@@ -126,6 +135,20 @@ void Lesson::await(const char *what, const std::function<bool()> &condition, int
     }
     if (hasEnded())
         throw ProgramHasEnded();
+}
+
+void Lesson::pressUntil(const char *what, const QPoint &button, const std::function<bool()> &condition)
+{
+    constexpr int answerMilliseconds = 5000;
+    QElapsedTimer pressed;
+    await(what, [&] {
+        const bool isThere = condition();
+        if (!isThere && (!pressed.isValid() || pressed.hasExpired(answerMilliseconds))) {
+            Program::click(button);
+            pressed.start();
+        }
+        return isThere;
+    });
 }
 
 void Lesson::takePhoto()
@@ -142,8 +165,8 @@ void Lesson::takeSeries(bool isPasted)
 {
     const int before = Program::captures({"photo*"}).size();
     for (int shot = 1; shot <= 3; ++shot) {
-        Program::click(Program::liveRow(2));
-        await("a photo of the series", [=] { return Program::captures({"photo*"}).size() == before + shot; });
+        pressUntil("a photo of the series", Program::liveRow(2),
+                   [=] { return Program::captures({"photo*"}).size() >= before + shot; });
     }
     await("the series' grid", [] { return isReview(3); });
     if (isPasted)
@@ -181,8 +204,7 @@ void Lesson::walk()
     const QString missed = walkThroughAllScreens();
     if (!missed.isEmpty())
         qFatal("the walk missed %s", qPrintable(missed));
-    Program::click(Program::liveRow(0)); // out of the series
-    awaitLive();
+    pressUntil("the end of the series", Program::liveRow(0), isLive);
 }
 
 void Lesson::loseCamera()

@@ -56,4 +56,9 @@ public:
 
     TestDevices devices;
     std::unique_ptr<Program> program;
+
+private:
+    // A press is not taken while the one before is still at work, which on a busy machine is a moment longer
+    // than its photo shows.
+    void pressUntil(const char *what, const QPoint &button, const std::function<bool()> &condition);
 };
