@@ -11,6 +11,8 @@
 #include <QPainter>
 #include <QScreen>
 
+#include <utility>
+
 namespace
 {
 
@@ -147,10 +149,9 @@ void CStretchBitmapButton::paintEvent(QPaintEvent *)
 // While another window had the focus, another button may have been given it; that one alone is told.
 bool CStretchBitmapButton::event(QEvent *event)
 {
-    if (event->type() == QEvent::WindowActivate && window()->focusWidget() != this) {
-        m_focusedByKeyboard = false;
+    if (event->type() == QEvent::WindowActivate && window()->focusWidget() != this &&
+        std::exchange(m_focusedByKeyboard, false))
         update();
-    }
     return QPushButton::event(event);
 }
 
