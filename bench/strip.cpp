@@ -104,7 +104,9 @@ void comparePhoto(const MainWindow &main)
     std::vector<double> reviewed;
     for (int round = 0; round < rounds; ++round) {
         const QString before = view->fileName();
-        const ShownWatch watch(view, [view, before] { return view->fileName() != before; });
+        const ShownWatch watch(view, [view, before] {
+            return !view->fileName().isEmpty() && view->fileName() != before; // it is emptied first
+        });
         main.press("Photo"); // returns when the photo is saved
         PaintWatch::waitFor([&] { return watch.hasShown(); });
         const QString last = MainWindow::captures("photo*").last();
