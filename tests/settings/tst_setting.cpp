@@ -66,7 +66,9 @@ private slots:
     void anythingInPlaceOfTheFileGivesDefaults()
     {
         for (const char *make :
-             {"true", "mkdir $0", "mkfifo $0", "ln -s $0 $0", "ln -s /dev/zero $0", "truncate -s 8G $0"}) {
+             {"true", "mkdir $0", "mkfifo $0", "ln -s $0 $0", "ln -s /dev/zero $0", "truncate -s 8G $0",
+              // 2^30 points of a polygon
+              R"(printf '[General]\nAutoShoot=@Variant(\\0\\0\\0\\x47\\x40\\0\\0\\0)\n' >$0)"}) {
             init();
             QCOMPARE(QProcess::execute("sh", {"-c", make, m_path}), 0);
             QElapsedTimer clock;
