@@ -22,11 +22,6 @@ QImage readWithPlugins(const QString &path)
                                                          : QImage::Format_RGB32);
 }
 
-QImage scaledInto(const QSize &size, const QImage &image)
-{
-    return image.isNull() ? image : image.scaled(size, Qt::KeepAspectRatio, Qt::FastTransformation);
-}
-
 } // namespace
 
 QImage readPicture(const QString &path)
@@ -38,14 +33,14 @@ QImage readPicture(const QString &path)
     return photo.isNull() ? readWithPlugins(path) : photo;
 }
 
-QImage readThumbnail(const QString &path, const QSize &size)
+QImage thumbnailOf(const QImage &picture, const QSize &size)
 {
-    return scaledInto(size, readPicture(path));
+    return picture.isNull() ? picture : picture.scaled(size, Qt::KeepAspectRatio, Qt::FastTransformation);
 }
 
 QImage placeholderThumbnail(const QSize &size)
 {
     QImage placeholder(800, 600, QImage::Format_RGB32);
     placeholder.fill(Qt::lightGray);
-    return scaledInto(size, placeholder);
+    return thumbnailOf(placeholder, size);
 }

@@ -10,8 +10,9 @@
 // it is not opaque. Null when there is none that can be shown.
 QImage readPicture(const QString &path);
 
-// The picture scaled into the size with its aspect ratio kept; null as above.
-QImage readThumbnail(const QString &path, const QSize &size);
+// A picture scaled into the size with its aspect ratio kept; null where it is. Needs the application, which
+// reading does not.
+QImage thumbnailOf(const QImage &picture, const QSize &size);
 
 // What stands for a picture that is not there, scaled likewise.
 QImage placeholderThumbnail(const QSize &size);

@@ -37,14 +37,12 @@ PictureLoader::~PictureLoader()
 
 void PictureLoader::request(int id, const QString &path)
 {
-    start(
-        id, [path] { return readPicture(path); }, picturePriority);
+    start(id, path, QSize(), picturePriority);
 }
 
 void PictureLoader::requestThumbnail(int id, const QString &path, const QSize &size)
 {
-    start(
-        id, [path, size] { return readThumbnail(path, size); }, thumbnailPriority);
+    start(id, path, size, thumbnailPriority);
 }
 
 void PictureLoader::cancel()
@@ -52,14 +50,19 @@ void PictureLoader::cancel()
     ++*m_generation;
 }
 
-void PictureLoader::start(int id, const std::function<QImage()> &read, int priority)
+void PictureLoader::start(int id, const QString &path, const QSize &thumbnail, int priority)
 {
     const auto isWanted = [current = m_generation, mine = m_generation->load()] { return *current == mine; };
-    const auto work = [isWanted, id, read, self = QPointer<PictureLoader>(this)] {
+    const auto work = [isWanted, id, path, thumbnail, self = QPointer<PictureLoader>(this)] {
         if (!isWanted())
             return;
         yieldToWindow();
-        const auto deliver = [isWanted, id, self, picture = read()] {
+        const QImage whole = readPicture(path);
+        // After a slow disk's answer the application itself may be gone.
+        if (!isWanted())
+            return;
+        const QImage picture = thumbnail.isEmpty() ? whole : thumbnailOf(whole, thumbnail);
+        const auto deliver = [isWanted, id, self, picture] {
             if (isWanted())
                 emit self->loaded(id, picture);
         };

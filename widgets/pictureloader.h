@@ -6,7 +6,6 @@
 #include <QString>
 
 #include <atomic>
-#include <functional>
 #include <memory>
 
 // Reads pictures in the background, in the order asked for but whole ones before thumbnails, on a few threads
@@ -32,7 +31,7 @@ signals:
     void loaded(int id, const QImage &picture);
 
 private:
-    void start(int id, const std::function<QImage()> &read, int priority);
+    void start(int id, const QString &path, const QSize &thumbnail, int priority);
 
     // Of what counts now. Shared with the work under way, which looks whether it still belongs to it.
     std::shared_ptr<std::atomic<int>> m_generation;
