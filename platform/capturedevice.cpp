@@ -1,11 +1,11 @@
 #include "platform/capturedevice.h"
 
+#include <QCollator>
 #include <QHash>
 #include <QRegularExpression>
 
 #include <algorithm>
 #include <numeric>
-#include <tuple>
 
 namespace
 {
@@ -44,7 +44,7 @@ QString withoutMark(const QString &number)
     return number.startsWith(QLatin1String("0x")) ? number.mid(2) : number;
 }
 
-// The sound card "hw:0,1" of the kernel's sound.
+// The sound card "hw:0,1" of the kernel's sound, which has a node for each direction.
 QString soundCardNode(GstDevice *device)
 {
     if (!g_object_class_find_property(G_OBJECT_GET_CLASS(device), "internal-name"))
@@ -54,8 +54,10 @@ QString soundCardNode(GstDevice *device)
     const TextHandle owned(name);
     static const QRegularExpression card(QStringLiteral("^hw:(\\d+),(\\d+)$"));
     const QRegularExpressionMatch match = card.match(QString::fromUtf8(name));
-    return match.hasMatch() ? QStringLiteral("/dev/snd/pcmC%1D%2c").arg(match.captured(1), match.captured(2))
-                            : QString();
+    const QChar direction = gst_device_has_classes(device, "Source") ? 'c' : 'p';
+    return match.hasMatch()
+               ? QStringLiteral("/dev/snd/pcmC%1D%2").arg(match.captured(1), match.captured(2)) + direction
+               : QString();
 }
 
 // The kernel's way to a USB camera ends with its port, as "...-usb-0:6:1.0" or "...-usbv2-0:6:1.0".
@@ -212,11 +214,14 @@ std::vector<CaptureDevice> mergeCameras(const std::vector<CaptureDevice> &listed
 
 QStringList choiceNames(const std::vector<CaptureDevice> &cameras)
 {
+    QCollator tenAfterTwo(QLocale::c());
+    tenAfterTwo.setNumericMode(true);
     std::vector<size_t> byPort(cameras.size());
     std::iota(byPort.begin(), byPort.end(), 0);
-    const auto portOf = [&cameras](size_t i) { return std::tie(cameras[i].busPath, cameras[i].node); };
-    std::stable_sort(byPort.begin(), byPort.end(),
-                     [&portOf](size_t a, size_t b) { return portOf(a) < portOf(b); });
+    std::stable_sort(byPort.begin(), byPort.end(), [&](size_t a, size_t b) {
+        const int ports = tenAfterTwo.compare(cameras[a].busPath, cameras[b].busPath);
+        return ports != 0 ? ports < 0 : tenAfterTwo.compare(cameras[a].node, cameras[b].node) < 0;
+    });
     QHash<QString, int> counts;
     std::vector<QString> names(cameras.size());
     for (const size_t i : byPort) {

@@ -236,11 +236,15 @@ void DeviceWatch::watchFolders()
     m_settling.setSingleShot(true);
     m_settling.setInterval(settlingTime);
     connect(&m_settling, &QTimer::timeout, this, &DeviceWatch::lookAtFolders);
-    connect(&m_folders, &QFileSystemWatcher::directoryChanged, &m_settling, qOverload<>(&QTimer::start));
+    connect(&m_folders, &QFileSystemWatcher::directoryChanged, this, [this] {
+        if (!m_settling.isActive())
+            m_settling.start();
+    });
     connect(
         this, &DeviceWatch::changed, this,
         [this] {
-            if (std::exchange(m_hadSoundServer, hasSoundServer()) != m_hadSoundServer)
+            const bool hasOne = hasSoundServer();
+            if (std::exchange(m_hadSoundServer, hasOne) != hasOne)
                 restartAll(isSoundCards);
         },
         Qt::QueuedConnection);

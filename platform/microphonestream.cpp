@@ -120,6 +120,9 @@ bool MicrophoneStream::build(const CaptureDevice &device)
     GstElement *source = gst_device_create_element(device.device.get(), nullptr);
     if (!source)
         return false;
+    // Of one with a name PipeWire would not take the stream along to another default.
+    if (device.isDefault && device.provider == QLatin1String("pulsedeviceprovider"))
+        g_object_set(source, "device", nullptr, nullptr);
     auto *bin = GST_BIN(m_pipeline.get());
     gst_bin_add(bin, source);
     // Its stamps shall count its samples and nothing else: the track sees to the clocks.

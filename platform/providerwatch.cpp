@@ -14,8 +14,6 @@ namespace
 
 using namespace std::chrono_literals;
 
-constexpr char restartCommand[] = "orvane-restart";
-
 constexpr std::chrono::seconds shortestPause = 1s;
 constexpr std::chrono::seconds longestPause = 60s;
 
@@ -50,10 +48,12 @@ void ProviderWatch::start()
     std::thread([this] { run(); }).detach();
 }
 
-// The bus is what the thread sleeps on, so a message of our own is what wakes it.
+// The bus is what the thread sleeps on, so a message is what wakes it.
 void ProviderWatch::restart()
 {
-    gst_bus_post(m_bus.get(), gst_message_new_application(nullptr, gst_structure_new_empty(restartCommand)));
+    m_isToRestart = true;
+    gst_bus_post(m_bus.get(),
+                 gst_message_new_application(nullptr, gst_structure_new_empty("orvane-restart")));
 }
 
 bool ProviderWatch::lists(const char *deviceClass) const
@@ -88,8 +88,7 @@ void ProviderWatch::run()
             qCInfo(deviceLog).noquote()
                 << name() + QStringLiteral(": It does not start; its devices are not listed.");
         setListed({});
-        pause(length);
-        length = std::min(2 * length, longestPause);
+        length = pause(length) ? std::min(2 * length, longestPause) : shortestPause;
     }
 }
 
@@ -97,6 +96,7 @@ bool ProviderWatch::startProvider()
 {
     if (m_isRunning)
         gst_device_provider_stop(m_provider.get());
+    m_isToRestart = false;
     // What an earlier start announced is not to be heard any more.
     gst_bus_set_flushing(m_bus.get(), TRUE);
     gst_bus_set_flushing(m_bus.get(), FALSE);
@@ -138,29 +138,26 @@ void ProviderWatch::setListed(std::vector<CaptureDevice> listed)
         m_changed();
 }
 
-void ProviderWatch::pause(std::chrono::seconds length)
+// False when it is cut short, since the provider is to be started afresh.
+bool ProviderWatch::pause(std::chrono::seconds length)
 {
+    gst_bus_set_flushing(m_bus.get(), FALSE); // which a start that fails leaves it
     const auto end = std::chrono::steady_clock::now() + length;
     for (auto now = std::chrono::steady_clock::now(); now < end; now = std::chrono::steady_clock::now()) {
+        if (m_isToRestart)
+            return false;
         const MessageHandle message(gst_bus_timed_pop(m_bus.get(), GstClockTime((end - now) / 1ns)));
-        if (message && isRestart(message.get()))
-            return;
     }
-}
-
-bool ProviderWatch::isRestart(GstMessage *message)
-{
-    return gst_message_has_name(message, restartCommand);
+    return true;
 }
 
 // Until it is to be started afresh. Whatever it tells, a device has come, gone or changed: so a sound server
 // tells of the new default microphone, and of the one that it no longer is.
 void ProviderWatch::follow()
 {
-    for (;;) {
+    while (!m_isToRestart) {
         const MessageHandle message(gst_bus_timed_pop(m_bus.get(), GST_CLOCK_TIME_NONE));
-        if (message && isRestart(message.get()))
-            return;
-        listAll();
+        if (!m_isToRestart)
+            listAll();
     }
 }

@@ -45,9 +45,8 @@ private:
     CaptureDevice described(GstDevice *device) const;
     void listAll();
     void setListed(std::vector<CaptureDevice> listed);
-    void pause(std::chrono::seconds length);
+    bool pause(std::chrono::seconds length);
     void follow();
-    static bool isRestart(GstMessage *message);
 
     const ProviderHandle m_provider;
     const BusHandle m_bus;
@@ -56,6 +55,7 @@ private:
     const std::function<void()> m_changed;
 
     std::atomic<bool> m_isRunning{false};
+    std::atomic<bool> m_isToRestart{false};
     std::atomic<bool> m_isFirstListingDone{false};
     mutable std::mutex m_mutex; // guards m_listed
     std::vector<CaptureDevice> m_listed;
