@@ -333,8 +333,10 @@ void LiveVideoData::lose(CameraFailure failure)
         << m_camera.name << ": " << faultName(failure.fault) << ": " << failure.text;
     if (m_grabThread && m_grabThread->isOpening())
         DeviceWatch::instance().setAside(m_camera, m_grabThread.get());
-    // It may be what failed.
-    if (m_mode.coding == CaptureMode::Coding::H264 && failure.fault != CameraFault::Unplugged)
+    // Its decoder may be what failed.
+    const bool isUnexplained = failure.fault == CameraFault::Failed || failure.fault == CameraFault::Silent ||
+                               failure.fault == CameraFault::NotAnswering;
+    if (m_mode.coding == CaptureMode::Coding::H264 && isUnexplained)
         distrust(h264Decoder());
     m_memory.noteLoss(failure.fault, DeviceWatch::instance().cameras());
     const std::shared_ptr<MovieRecorder> movie = stopMovie();

@@ -86,13 +86,14 @@ void LiveVideoData::startMovie(const QString &path)
         m_movie = movie;
         return;
     }
+    movie->discard();
+    applyResolution();
     m_lacksPicture = outcome == Start::NoPicture;
     if (m_lacksPicture)
         qCWarning(movieLog).noquote() << "No movie is begun: no whole picture has come for a second.";
     if (!outcome)
         qCWarning(movieLog).noquote().nospace()
             << path << ": The movie is given up, since the disk has not opened its file within five seconds.";
-    movie->discard();
 }
 
 bool LiveVideoData::IsRecording() const

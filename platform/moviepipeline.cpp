@@ -1,6 +1,5 @@
 #include "platform/moviepipeline.h"
 
-#include "platform/h264coders.h"
 #include "platform/movielimits.h"
 #include "platform/soundformat.h"
 
@@ -117,7 +116,7 @@ GstElement *addPictures(Assembly &assembly, const MovieSettings &settings)
 
 } // namespace
 
-MoviePipeline buildMoviePipeline(const MovieSettings &settings)
+MoviePipeline buildMoviePipeline(const MovieSettings &settings, const H264Coder &encoder)
 {
     Assembly assembly;
     MoviePipeline movie;
@@ -127,21 +126,20 @@ MoviePipeline buildMoviePipeline(const MovieSettings &settings)
     movie.pictures = addPictures(assembly, settings);
     movie.pictureQueue = addMuxQueue(assembly);
     // The parser tells how long each frame lasts. Without that the last one would not be seen.
-    const QSize size = settings.pictureSize();
-    GstElement *pictureEncoder =
-        assembly.add(makeH264Encoder(h264Encoder(size), size, settings.framesPerSecond));
+    movie.pictureEncoder =
+        assembly.add(makeH264Encoder(encoder, settings.pictureSize(), settings.framesPerSecond));
     assembly.chain(
-        {movie.pictures, pictureEncoder, assembly.add("h264parse"), movie.pictureQueue, movie.muxer});
+        {movie.pictures, movie.pictureEncoder, assembly.add("h264parse"), movie.pictureQueue, movie.muxer});
 
     const CapsHandle caps(gst_caps_from_string(soundCaps));
     movie.sound = addSource(assembly, caps.get());
     movie.soundQueue = addMuxQueue(assembly);
     // No other one: soundDelay() is what this one was measured to take.
-    GstElement *encoder = assembly.add("avenc_aac");
-    assembly.chain({movie.sound, assembly.add("audioconvert"), encoder, movie.soundQueue, movie.muxer});
+    GstElement *soundEncoder = assembly.add("avenc_aac");
+    assembly.chain({movie.sound, assembly.add("audioconvert"), soundEncoder, movie.soundQueue, movie.muxer});
     if (!assembly.isComplete())
         return {};
-    g_object_set(encoder, "bitrate", soundBitRate, nullptr);
+    g_object_set(soundEncoder, "bitrate", soundBitRate, nullptr);
     movie.pipeline = assembly.take();
     return movie;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/h264coders.h"
 #include "platform/moviesettings.h"
 
 // The elements of one movie file, put together and stopped. The pipeline owns the others.
@@ -9,13 +10,14 @@ struct MoviePipeline {
     GstElement *pictureQueue = nullptr; // encoded pictures that wait for the muxer, and it for the disk
     GstElement *soundQueue = nullptr;   // the same of the sound
     GstElement *pictures = nullptr;     // appsrc that takes the frames
-    GstElement *sound = nullptr;        // appsrc that takes the sound, as in platform/soundformat.h
+    GstElement *pictureEncoder = nullptr;
+    GstElement *sound = nullptr; // appsrc that takes the sound, as in platform/soundformat.h
 
     bool isComplete() const { return pipeline != nullptr; }
 };
 
 // An incomplete one when an element is missing.
-MoviePipeline buildMoviePipeline(const MovieSettings &settings);
+MoviePipeline buildMoviePipeline(const MovieSettings &settings, const H264Coder &encoder);
 
 // Makes the muxer write the index often, or seldom while it is behind with writing the movie itself. To be
 // called again and again while the movie runs, from any one thread.

@@ -1,7 +1,6 @@
 #include "platform/movierecorder.h"
 
 #include "platform/capturelog.h"
-#include "platform/h264coders.h"
 #include "platform/movielimits.h"
 #include "util/files/freespace.h"
 
@@ -51,7 +50,8 @@ MovieEnd endOf(GstMessage *message)
 } // namespace
 
 MovieRecorder::MovieRecorder(const MovieSettings &settings)
-    : m_settings(settings), m_folder(QFileInfo(settings.path).path())
+    : m_settings(settings), m_encoder(h264Encoder(settings.pictureSize())),
+      m_folder(QFileInfo(settings.path).path())
 {
 }
 
@@ -60,8 +60,9 @@ MovieRecorder::~MovieRecorder() = default;
 bool MovieRecorder::start(const FramePtr &first)
 {
     keepFirst(first);
-    m_movie = buildMoviePipeline(m_settings);
+    m_movie = buildMoviePipeline(m_settings, m_encoder);
     if (!m_movie.isComplete()) {
+        distrust(m_encoder);
         fail(MovieEnd::Failed, "Its streams cannot be put together.");
         return false;
     }
@@ -128,8 +129,11 @@ void MovieRecorder::note(GstMessage *message)
     const bool isError = GST_MESSAGE_TYPE(message) == GST_MESSAGE_ERROR;
     if (!isError && GST_MESSAGE_TYPE(message) != GST_MESSAGE_EOS)
         return;
-    if (isError)
+    if (isError) {
+        if (gst_object_has_as_ancestor(GST_MESSAGE_SRC(message), GST_OBJECT(m_movie.pictureEncoder)))
+            distrust(m_encoder);
         fail(endOf(message), errorText(message));
+    }
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_isFileComplete = true;
     m_changed.notify_all();
@@ -147,9 +151,6 @@ void MovieRecorder::fail(MovieEnd why, const QString &line)
             m_isBreakNews = true;
     }
     qCWarning(movieLog).noquote().nospace() << m_settings.path << ": " << line;
-    // It may be what failed.
-    if (why == MovieEnd::Failed)
-        distrust(h264Encoder(m_settings.pictureSize()));
 }
 
 bool MovieRecorder::wants(GstClockTime captured)
@@ -199,8 +200,10 @@ void MovieRecorder::lookForLife()
     if (!isBehind())
         m_lastInTime = now;
     const auto lastLook = m_lastLook.load();
-    if (now - m_lastInTime > behindLimit)
+    if (now - m_lastInTime > behindLimit) {
+        distrust(m_encoder);
         fail(MovieEnd::Failed, QStringLiteral("No more of its pictures are taken."));
+    }
     if (lastLook != std::chrono::steady_clock::time_point::min() && now - lastLook > silenceLimit)
         fail(MovieEnd::DiskFull, QStringLiteral("The disk takes no more of the movie."));
 }
@@ -240,10 +243,9 @@ void MovieRecorder::push(const CapturedFrame &frame)
     if (frame.clockTime < m_nextTime || !hasIndexFor(frame.clockTime))
         return;
     m_nextTime = frame.clockTime + 1;
-    // With a time stamp of its own, and the frame's pixels.
-    GstBuffer *picture = gst_buffer_copy(frame.picture.get());
+    GstBuffer *picture = frame.picture.get();
     GST_BUFFER_PTS(picture) = frame.clockTime - m_startTime;
-    gst_app_src_push_buffer(GST_APP_SRC(m_movie.pictures), picture);
+    gst_app_src_push_buffer(GST_APP_SRC(m_movie.pictures), gst_buffer_ref(picture));
     paceIndex(m_movie);
 }
 

@@ -95,6 +95,7 @@ private:
     void waitForEndOfStreams();
 
     const MovieSettings m_settings;
+    const H264Coder &m_encoder; // the one of its beginning; another may be in use later
     const QString m_folder;
     MoviePipeline m_movie; // made by start()
     std::unique_ptr<MovieSound> m_sound;
