@@ -74,18 +74,16 @@ QImage turned(const QImage &image, const Turn &turn)
     return turn.isNone() ? image : image.transformed(QTransform().rotate(turn.degrees()));
 }
 
-// Of the first whole frame from the one of the order on. Of a camera that gives none in that time the last is
-// better than nothing.
-QImage wholePicture(const StillOrder &order)
+// Of the first whole frame from the one of the order on; null when none has come in that time.
+QImage wholePicture(StillOrder *order)
 {
-    QImage last;
-    order.frames->tryFrom(order.frame, [&](const FramePtr &frame) {
-        const RgbPicture picture = zoomed(rgbPicture(frame), order.framing.zoom);
-        if (!picture.image.isNull())
-            last = picture.image;
+    RgbPicture picture;
+    // The camera's driver waits for a frame that is held on to.
+    order->frames->tryFrom(std::exchange(order->frame, {}), [&](const FramePtr &frame) {
+        picture = zoomed(rgbPicture(frame), order->framing.zoom);
         return picture.isWhole;
     });
-    return turned(last, order.framing.turn);
+    return picture.isWhole ? turned(picture.image, order->framing.turn) : QImage();
 }
 
 } // namespace
@@ -109,7 +107,7 @@ void StillPicture::save()
 
 PhotoFault StillPicture::make()
 {
-    const QImage picture = wholePicture(m_order);
+    const QImage picture = wholePicture(&m_order);
     if (picture.isNull())
         return PhotoFault::NoPicture;
     if (m_isShown)

@@ -29,7 +29,7 @@ public:
     StillPicture(StillOrder order, bool isShown);
 
     // Makes the picture and its file, once; takes as long as the disk does. When no frame of a second is
-    // whole, the last is taken. No file is left of one that cannot be written.
+    // whole, there is none. No file is left of one that cannot be written.
     void save();
 
     // For the window, Format_RGB32, as soon as it is there and before its file is: given out once, else null.
@@ -44,7 +44,7 @@ private:
     PhotoFault write(const QImage &picture);
     void offer(const QImage &picture);
 
-    const StillOrder m_order;
+    StillOrder m_order;
     const bool m_isShown;
 
     mutable std::mutex m_mutex; // guards all below
