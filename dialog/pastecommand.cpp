@@ -10,6 +10,8 @@
 
 #include <QLoggingCategory>
 
+#include <cerrno>
+
 namespace
 {
 
@@ -24,9 +26,16 @@ void write(const PasteRequest &request)
 {
     const QString working = WebcamUtil::existingTemporaryPath();
     const QString folder = working + "/tmp";
-    const auto write = [folder, request] { return writePasteRequest(folder, request); };
-    if (working.isEmpty() || !askDisk("Writing a request", folder, false, write))
-        qCWarning(pasteLog, "A request could not be written into %s.", qUtf8Printable(folder));
+    const auto write = [folder, request] {
+        errno = 0;
+        const bool isWritten = writePasteRequest(folder, request);
+        if (!isWritten)
+            qCWarning(pasteLog, "A request could not be written into %s: %s", qUtf8Printable(folder),
+                      qUtf8Printable(qt_error_string(errno)));
+        return isWritten;
+    };
+    if (!working.isEmpty())
+        askDisk("Writing a request", folder, false, write);
 }
 
 } // namespace

@@ -65,8 +65,12 @@ bool copyContents(int from, WholeFile *to, const Copying &copying)
 Descriptor openPlainFile(const QString &path, struct stat *status)
 {
     Descriptor file(open(QFile::encodeName(path), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
-    if (file < 0 || fstat(file, status) != 0 || !S_ISREG(status->st_mode))
+    if (file < 0 || fstat(file, status) != 0)
         return Descriptor(-1);
+    if (!S_ISREG(status->st_mode)) {
+        errno = EINVAL;
+        return Descriptor(-1);
+    }
     return file;
 }
 

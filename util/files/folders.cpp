@@ -49,6 +49,8 @@ QString workingFolder()
 QString makeWorkingFolder()
 {
     QString path = workingFolder();
+    if (path.isEmpty())
+        noteUnexplainedFault("make folder", qEnvironmentVariable("TMPDIR"));
     return !path.isEmpty() && makePrivateFolder(path) ? path : QString();
 }
 

@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <deque>
+#include <sys/stat.h>
 #include <vector>
 
 namespace
@@ -117,10 +118,17 @@ void removeLeftOvers(const QString &save)
         WholeFile::removeLeftOvers(days.filePath(day));
 }
 
-// The save folder may be new, and those that it is in.
+dev_t diskOf(const QString &path)
+{
+    struct stat status = {};
+    return stat(QFile::encodeName(path), &status) == 0 ? status.st_dev : 0;
+}
+
+// The save folder may be new, and those that it is in; what its disk is mounted on is not.
 bool areNamesOnDisk(const QString &save)
 {
-    for (QDir folder(save); folder.cdUp();) {
+    const dev_t disk = diskOf(save);
+    for (QDir folder(save); folder.cdUp() && diskOf(folder.path()) == disk;) {
         if (!syncFolder(folder.path())) {
             noteFileFault("save", folder.path());
             return false;
