@@ -54,6 +54,7 @@ int main(int argc, char **argv)
                          dialog.saveQuietly();
                      });
 
+    dialog.setSharingCheck([&application] { return application.isRunning(); });
     dialog.SetPluginPath(QCoreApplication::applicationDirPath());
     dialog.show();
     dialog.raise();

@@ -48,10 +48,19 @@ void CPictorelDlg::OnClose()
         return;
     m_isLeaving = true;
     if (answer != QDialog::Accepted)
-        WebcamUtil::deleteData();
+        deleteAsAsked();
     else if (hasCaptures)
         saveAsAsked();
     close();
+}
+
+void CPictorelDlg::deleteAsAsked()
+{
+    if (m_isLessonShared())
+        qCWarning(closingLog)
+            << "Nothing is deleted: some of it may be another Orvane's, which does not answer.";
+    else
+        WebcamUtil::deleteData();
 }
 
 void CPictorelDlg::saveAsAsked()

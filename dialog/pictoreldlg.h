@@ -10,6 +10,7 @@
 #include <QWidget>
 
 #include <chrono>
+#include <functional>
 
 class CStretchBitmapButton;
 class CWaiteMsgDlg;
@@ -40,6 +41,10 @@ public:
     // False when the choice of a camera was cancelled: the window is not complete then and can only be
     // destroyed.
     bool isStartable() const { return m_isStartable; }
+
+    // Asked when the user has chosen to delete: of a lesson that another instance may still be in, nothing is
+    // deleted.
+    void setSharingCheck(std::function<bool()> isShared) { m_isLessonShared = std::move(isShared); }
 
     // dir is the application's folder; photos click when the shutter sound is in it.
     void SetPluginPath(const QString &dir);
@@ -174,6 +179,7 @@ private:
     // Where listed files are: the list's folder, which is empty for the working folder.
     QString listedFolder() const;
     void finishLoad(bool isComplete);
+    void deleteAsAsked();
     void saveAsAsked();
     bool saveCaptures(std::chrono::milliseconds movieLimit);
     void saveNow();
@@ -217,6 +223,7 @@ private:
     bool m_isMovieLoaded = false;
     bool m_isMovieAwaited = false; // the recorded one, until its file is whole
     bool m_isSeriesRunning = false;
+    std::function<bool()> m_isLessonShared = [] { return false; };
     bool m_isAsking = false;  // whether to save
     bool m_isLeaving = false; // it is decided
     bool m_isSaving = false;

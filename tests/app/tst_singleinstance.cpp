@@ -98,6 +98,26 @@ private slots:
         QVERIFY(third.process().waitForFinished(4000));
     }
 
+    void aLessonOfOneThatHangsIsNotDeleted()
+    {
+        Program first;
+        QVERIFY(first.start(false));
+        QFile photo(Program::workingFolder().filePath("photo20240101120000000.png"));
+        QVERIFY(photo.open(QIODevice::WriteOnly) && photo.write("x") == 1);
+        photo.close();
+        kill(pid_t(first.process().processId()), SIGSTOP);
+        Program second;
+        second.process().start(ORVANE_PROGRAM, QStringList());
+        QTRY_COMPARE_WITH_TIMEOUT(Program::windows(), 2, 15000);
+        QTRY_VERIFY((Program::click(Program::exitButton()), Program::windows() == 3));
+        Program::press("Tab"); // from Yes to No
+        Program::press("space");
+        QVERIFY(second.waitForEnd());
+        first.process().kill();
+        QVERIFY(first.waitForEnd());
+        QVERIFY(photo.remove());
+    }
+
     // By one that was killed while it made them, and by another user.
     void locksWithoutAHolderHoldNoStart()
     {
