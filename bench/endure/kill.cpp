@@ -20,6 +20,7 @@ namespace
 constexpr int kills = 500;
 constexpr int startMilliseconds = 1500;
 
+using Clock = std::chrono::steady_clock;
 using Captures = QMultiMap<QString, QString>; // by the name: where it stands
 
 QByteArray checksum(const QString &path)
@@ -40,9 +41,11 @@ double movieSeconds(const QString &path)
 class Killer
 {
 public:
-    Killer(qint64 process, int milliseconds)
-        : m_process(int(syscall(SYS_pidfd_open, process, 0))), m_thread([this, milliseconds] {
+    // moment: when it was done, to be read once the killer is gone.
+    Killer(qint64 process, int milliseconds, Clock::time_point *moment)
+        : m_process(int(syscall(SYS_pidfd_open, process, 0))), m_thread([this, milliseconds, moment] {
               std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+              *moment = Clock::now();
               syscall(SYS_pidfd_send_signal, m_process, SIGKILL, nullptr, 0);
           })
     {
@@ -86,10 +89,12 @@ private:
     Lesson m_lesson;
     const QTemporaryDir m_sources;
     const QTemporaryDir m_otherDisk{"/dev/shm/orvane-endure.XXXXXX"};
-    QMap<QString, QByteArray> m_known; // of what was whole, also where it is only to be loaded
-    QSet<QString> m_captured;          // what has stood among the program's captures
-    QElapsedTimer m_recorded;          // since a movie was seen to be recorded, which ended after its length
-    int m_movieLength = 0;             // milliseconds
+    QMap<QString, QByteArray> m_known;  // of what was whole, also where it is only to be loaded
+    QSet<QString> m_captured;           // what has stood among the program's captures
+    bool m_hasRecorded = false;         // a movie, since the last look
+    Clock::time_point m_recordingSince; // seen, and so begun before
+    Clock::duration m_movieLength = {};
+    Clock::time_point m_killed;
     int m_loaded = 0;
     QSet<QString> m_firstStrays;
     int m_dead = 0, m_damaged = 0, m_astray = 0, m_lost = 0, m_twice = 0, m_shortened = 0;
@@ -112,9 +117,10 @@ QString Ordeal::folderToLoad()
 void Ordeal::recordMovie()
 {
     m_lesson.startMovie();
-    m_recorded.start();
-    m_movieLength = 1500 + random(1500);
-    m_lesson.await("the movie's length", [this] { return m_recorded.hasExpired(m_movieLength); });
+    m_hasRecorded = true;
+    m_recordingSince = Clock::now();
+    m_movieLength = std::chrono::milliseconds(1500 + random(1500));
+    m_lesson.await("the movie's length", [this] { return Clock::now() - m_recordingSince > m_movieLength; });
     m_lesson.stopMovie();
 }
 
@@ -142,7 +148,8 @@ void Ordeal::killOnce()
         m_lesson.launch();
         const auto dieWithin = [&](int milliseconds) {
             isToDie = true;
-            return std::make_unique<Killer>(m_lesson.program->process().processId(), random(milliseconds));
+            return std::make_unique<Killer>(m_lesson.program->process().processId(), random(milliseconds),
+                                            &m_killed);
         };
         std::unique_ptr<Killer> killer;
         if (choice == std::size(steps))
@@ -154,8 +161,12 @@ void Ordeal::killOnce()
         }
         m_lesson.await("the end", [] { return false; });
     } catch (const ProgramHasEnded &) {
+        const QProcess &process = m_lesson.program->process();
+        const bool isKill = process.exitStatus() == QProcess::CrashExit && process.exitCode() == SIGKILL;
         if (!isToDie)
             miss(&m_dead, "a start", "does not come to a picture");
+        else if (!isKill && process.exitCode() != 0)
+            miss(&m_dead, "by itself with", QString::number(process.exitCode()));
     } catch (const MessageIsShown &) {
         miss(&m_dead, "a message", "comes in the way");
     }
@@ -195,8 +206,9 @@ QSet<QString> Ordeal::strays() const
 
 void Ordeal::lookAt()
 {
-    const qint64 recorded = m_recorded.isValid() ? qMin<qint64>(m_recorded.elapsed(), m_movieLength) : 0;
-    m_recorded.invalidate();
+    const double recorded =
+        std::chrono::duration<double>(qMin(m_killed - m_recordingSince, m_movieLength)).count();
+    double found = 0;
     const Captures all = captures();
     for (auto capture = all.begin(); capture != all.end(); ++capture) {
         m_captured += capture.key();
@@ -208,12 +220,14 @@ void Ordeal::lookAt()
             continue;
         }
         m_known[capture.key()] = checksum(capture.value());
-        const bool isMovie = capture.key().endsWith(".mov");
-        if (!isMovie && QImage(capture.value()).isNull())
+        if (capture.key().endsWith(".mov"))
+            found = movieSeconds(capture.value());
+        else if (QImage(capture.value()).isNull())
             miss(&m_damaged, "not a picture", capture.value());
-        if (isMovie && movieSeconds(capture.value()) < double(recorded) / 1000 - 1)
-            miss(&m_shortened, "too short", capture.value());
     }
+    if (m_hasRecorded && found < recorded - 1)
+        miss(&m_shortened, "too short", QString("%1 of %2 s").arg(found).arg(recorded));
+    m_hasRecorded = false;
     for (auto known = m_known.begin(); known != m_known.end(); ++known) {
         if (!all.contains(known.key()) && m_captured.contains(known.key()))
             miss(&m_lost, "lost", known.key());

@@ -16,7 +16,9 @@ QByteArray output(const QString &tool, const QStringList &arguments)
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.start(tool, arguments);
-    return process.waitForFinished(limitMilliseconds) ? process.readAll() : "it does not end";
+    const bool isWell = process.waitForFinished(limitMilliseconds) &&
+                        process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+    return process.readAll() + (isWell ? "" : "it fails\n");
 }
 
 // Seconds at which the movie's pictures are to be shown, in order.
@@ -47,7 +49,7 @@ int main(int argc, char **argv)
     const QVector<double> times = pictureTimes(movie);
     int lost = times.isEmpty() ? seconds * framesPerSecond : 0;
     for (int i = 1; i < times.size(); ++i)
-        lost += qRound((times[i] - times[i - 1]) * framesPerSecond) - 1;
+        lost += qMax(0, qRound((times[i] - times[i - 1]) * framesPerSecond) - 1);
     tell("recordings that do not end by themselves", hasEnded ? 0 : 1, 0, "");
     tell("seconds that it lacks of 600", times.isEmpty() ? seconds : seconds - times.last(), 1, "s");
     tell("frames missing between its pictures", lost, 0, "");

@@ -1,8 +1,8 @@
 // Preloaded under ThreadSanitizer: tells it what comes before what by locks of Qt's, which is not built with
 // the sanitizer.
 //   What was done before work was given to a thread pool comes before the work.
-//   What a thread has done before it emitted a signal of its own comes before its end, for whoever waits for
-//   that.
+//   What a thread has done before it emitted a signal of its own, or asked whether it is to end, comes before
+//   its end, for whoever waits for that.
 
 #include <functional>
 #include <memory>
@@ -97,8 +97,16 @@ void QMetaObject::activate(QObject *sender, const QMetaObject *type, int signal,
 class QThread
 {
 public:
+    bool isInterruptionRequested() const;
     bool wait(unsigned long milliseconds);
 };
+
+bool QThread::isInterruptionRequested() const
+{
+    static auto *const isRequested = theirs<bool(const QThread *)>("_ZNK7QThread23isInterruptionRequestedEv");
+    release(const_cast<QThread *>(this));
+    return isRequested(this);
+}
 
 bool QThread::wait(unsigned long milliseconds)
 {
