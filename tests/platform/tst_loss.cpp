@@ -104,14 +104,14 @@ void TestLoss::doesNotWaitForACameraThatHangs()
         if (hangsOpening) {
             camera.capture.Create();
             camera.capture.Start();
-            QVERIFY(clock.elapsed() < 100);
+            QVERIFY(clock.elapsed() < 1000);
             QVERIFY(camera.lost.wait(20000)); // a wait may end a twentieth early
             QVERIFY(clock.elapsed() > 14000 && camera.told.lost == CameraFault::NotAnswering);
             QVERIFY(!camera.capture.GetVideoDeviceList().contains("Bad"));
             clock.start();
         }
         camera.capture.Release();
-        QVERIFY(clock.elapsed() < 100);
+        QVERIFY(clock.elapsed() < 1000);
 
         // Another camera does not suffer. Let go, this one counts again.
         camera.choose("Good");

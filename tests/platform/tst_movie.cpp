@@ -258,21 +258,25 @@ void TestMovie::losesNothingToASlowDisk()
     CameraWindow camera;
     QVERIFY(camera.start());
     syncMilliseconds = 1000;
+    const qint64 press = nowMicroseconds();
     camera.capture.Record(path());
     QTest::qWait(6000);
-    QElapsedTimer clock;
-    clock.start();
+    syncMilliseconds = 3000;
+    const qint64 stop = nowMicroseconds();
     camera.capture.RecordStop();
-    QVERIFY(clock.elapsed() < 600);
+    const qint64 stopped = nowMicroseconds();
+    QVERIFY(stopped - stop < 1000000);
+    QTRY_VERIFY(camera.shownSince() > stopped);
     QVERIFY(camera.capture.isFinishingMovie());
-    QTRY_VERIFY_WITH_TIMEOUT(nowMicroseconds() - camera.shownSince() < 200000, waitForEncoder);
     QCOMPARE(camera.told.files, 0);
     QTRY_VERIFY_WITH_TIMEOUT(!camera.capture.isFinishingMovie(), waitForEncoder);
     QTRY_COMPARE(camera.told.files, 1);
     syncMilliseconds = 0;
     QVERIFY(playsInAnotherPlayer(path()));
     const MovieContents movie = readMovie(path());
-    QVERIFY(std::abs(movie.length() - 6) < 0.3 && std::abs(movie.soundLength - 6) < 0.3);
+    const double length = double(stop - press) / 1e6;
+    QVERIFY2(std::abs(movie.length() - length) < 0.3 && std::abs(movie.soundLength - length) < 0.3,
+             qPrintable(QString("%1 %2 %3").arg(length).arg(movie.length()).arg(movie.soundLength)));
     QVERIFY(movie.frames.size() > 120);
 }
 
@@ -292,28 +296,32 @@ void TestMovie::outlivesACameraThatLies()
             QVERIFY2(camera.lists({name}) && camera.start(), name);
             QTRY_VERIFY(camera.capture.IsValidAudioDevice());
             const QString movie = folder.filePath("movie.mov");
-            camera.capture.Record(movie);
             QElapsedTimer length;
             length.start();
+            camera.capture.Record(movie);
             QTest::qWait(300);
+            QElapsedTimer faulty;
+            faulty.start();
             devices.setFault("cam", fault);
             QTest::qWait(700);
             const bool isTaken = camera.capture.SaveBitmap(folder.filePath("1.png")); // where it still can be
             QVERIFY2(isTaken != QImage(folder.filePath("1.png")).isNull(), name);
             devices.setFault("cam", "");
 
-            // What the stream tells of ends it, and the movie; the camera can be opened again.
+            // What the stream tells of ends it, and the movie; the camera can be opened again. On a slow
+            // machine the others may last until the camera counts as silent.
             const qint64 cleared = nowMicroseconds();
-            const bool isLost = QByteArray(fault) == "other-format";
-            QVERIFY2(camera.lost.count() == int(isLost), name);
+            const bool isTold = QByteArray(fault) == "other-format";
+            const bool isLost = camera.lost.count() == 1;
+            QVERIFY2(isLost == isTold || faulty.elapsed() > 2500, name);
             if (isLost) {
                 camera.capture.Release();
                 QVERIFY2(camera.start(), name);
             }
             QTRY_VERIFY2(camera.shownSince() > cleared, name);
             QVERIFY2(camera.capture.SaveBitmap(folder.filePath("2.png")), name);
-            camera.capture.RecordStop();
             const double seconds = double(length.elapsed()) / 1000;
+            camera.capture.RecordStop();
             QTRY_VERIFY_WITH_TIMEOUT(!camera.capture.isFinishingMovie(), waitForEncoder);
             const MovieContents contents = readMovie(movie);
             QVERIFY2(contents.isReadToItsEnd && contents.frames.size() > 8, name);

