@@ -24,8 +24,8 @@ CoderTrial tryCoders(const QString &encoder, const QString &decoder);
 
 // What both take of the processor, for the log.
 QString comparison(const CoderTrial &hardware, const CoderTrial &software);
-// Whether hardware takes less of the processor, but longer than software and than the movie lasts; other work
-// may be the reason for that.
-bool isTooSlow(const CoderTrial &hardware, const CoderTrial &software);
+// Whether hardware takes less of the processor, but not by enough, or takes longer than software and than the
+// movie lasts: other work may be the reason for either.
+bool isCloseCall(const CoderTrial &hardware, const CoderTrial &software);
 // Why software is to be preferred; null when hardware works and takes less of the processor.
 QString shortcoming(const CoderTrial &hardware, const CoderTrial &software);

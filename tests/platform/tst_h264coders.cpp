@@ -45,6 +45,7 @@ void TestH264Coders::usesAnEncoderWhileItIsGood()
     devices.coder("vah264enc").fault("crashes");
     devices.coder("vah264lpenc").fault("hangs");
     devices.coder("v4l2h264enc");
+    devices.coder("v4l2h264dec");
     devices.camera("cam").formats("YUY2 1280x720 15").content("counter");
     devices.microphone("mic");
     devices.write();
@@ -55,6 +56,9 @@ void TestH264Coders::usesAnEncoderWhileItIsGood()
     QVERIFY(camera.start());
     QTRY_COMPARE_WITH_TIMEOUT(encoderOf(fullHd), QByteArray("v4l2h264enc"), 60000);
     QCOMPARE(encoderOf({640, 480}), QByteArray("x264enc"));
+    QTRY_COMPARE_WITH_TIMEOUT(decoder(), QByteArray("v4l2h264dec"), 60000); // the last of the trials
+    distrust(h264Decoder());
+    QCOMPARE(decoder(), QByteArray("avdec_h264"));
     QTRY_VERIFY(camera.capture.IsValidAudioDevice());
 
     const QString broken = m_folder.filePath("broken.mov");
