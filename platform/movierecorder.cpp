@@ -60,7 +60,11 @@ MovieRecorder::~MovieRecorder() = default;
 bool MovieRecorder::start(const FramePtr &first)
 {
     keepFirst(first);
-    m_movie = buildMoviePipeline(m_settings, m_encoder);
+    MoviePipeline movie = buildMoviePipeline(m_settings, m_encoder);
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex); // before its threads read it
+        m_movie = std::move(movie);
+    }
     if (!m_movie.isComplete()) {
         distrust(m_encoder);
         fail(MovieEnd::Failed, "Its streams cannot be put together.");
@@ -124,13 +128,19 @@ GstBusSyncReply MovieRecorder::onMessage(GstBus *, GstMessage *message, gpointer
     return GST_BUS_DROP;
 }
 
+bool MovieRecorder::isFromEncoder(GstMessage *message)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return gst_object_has_as_ancestor(GST_MESSAGE_SRC(message), GST_OBJECT(m_movie.pictureEncoder));
+}
+
 void MovieRecorder::note(GstMessage *message)
 {
     const bool isError = GST_MESSAGE_TYPE(message) == GST_MESSAGE_ERROR;
     if (!isError && GST_MESSAGE_TYPE(message) != GST_MESSAGE_EOS)
         return;
     if (isError) {
-        if (gst_object_has_as_ancestor(GST_MESSAGE_SRC(message), GST_OBJECT(m_movie.pictureEncoder)))
+        if (isFromEncoder(message))
             distrust(m_encoder);
         fail(endOf(message), errorText(message));
     }

@@ -80,6 +80,7 @@ private:
     bool beginRecording();
     static GstBusSyncReply onMessage(GstBus *bus, GstMessage *message, gpointer self);
     void note(GstMessage *message);
+    bool isFromEncoder(GstMessage *message);
     void fail(MovieEnd why, const QString &line);
     guint64 mostWaitingFrames() const;
     bool isBehind();

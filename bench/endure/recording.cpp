@@ -48,8 +48,12 @@ int main(int argc, char **argv)
     const QString movie = Program::workingFolder().filePath(Program::captures({"movie*.mov"}).value(0));
     const QVector<double> times = pictureTimes(movie);
     int lost = times.isEmpty() ? seconds * framesPerSecond : 0;
-    for (int i = 1; i < times.size(); ++i)
-        lost += qMax(0, qRound((times[i] - times[i - 1]) * framesPerSecond) - 1);
+    for (int i = 1; i < times.size(); ++i) {
+        const int missing = qRound((times[i] - times[i - 1]) * framesPerSecond) - 1;
+        lost += qMax(0, missing);
+        if (missing > 0)
+            qInfo("after %.3f s: %d frames missing", times[i - 1], missing);
+    }
     tell("recordings that do not end by themselves", hasEnded ? 0 : 1, 0, "");
     tell("seconds that it lacks of 600", times.isEmpty() ? seconds : seconds - times.last(), 1, "s");
     tell("frames missing between its pictures", lost, 0, "");

@@ -363,9 +363,10 @@ static bool areWindowsManaged()
 void TestTrouble::theWindowManagerDies()
 {
     const Window first = managerOfWindows();
+    XDeleteProperty(QX11Info::display(), QX11Info::appRootWindow(), listOfWindows());
     QProcess manager;
     manager.start("openbox", {"--replace"});
-    QTRY_VERIFY(managerOfWindows() != first && managerOfWindows() != 0);
+    QTRY_VERIFY(managerOfWindows() != first && managerOfWindows() != 0 && areWindowsManaged());
     Program program;
     QVERIFY(program.start());
     startMovie();

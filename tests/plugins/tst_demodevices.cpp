@@ -35,6 +35,7 @@ void TestDemoDevices::showsSomethingMovingAndIsHeard()
     capture.Record(folder.filePath("demo.mov"));
     QTest::qWait(2500);
     capture.RecordStop();
+    QTRY_VERIFY(!capture.isFinishingMovie());
     QVERIFY(capture.SaveBitmap(folder.filePath("later.png")));
 
     const QImage first(folder.filePath("first.png"));
