@@ -63,23 +63,8 @@ CameraFailure cameraFailure(GstMessage *message)
 
 QString faultName(CameraFault fault)
 {
-    switch (fault) {
-    case CameraFault::None:
-        break;
-    case CameraFault::Unplugged:
-        return QStringLiteral("unplugged");
-    case CameraFault::Busy:
-        return QStringLiteral("busy");
-    case CameraFault::NoPermission:
-        return QStringLiteral("no permission");
-    case CameraFault::NoBandwidth:
-        return QStringLiteral("no USB bandwidth");
-    case CameraFault::Silent:
-        return QStringLiteral("silent");
-    case CameraFault::NotAnswering:
-        return QStringLiteral("not answering");
-    case CameraFault::Failed:
-        return QStringLiteral("failed");
-    }
-    return QStringLiteral("no fault");
+    // In their order.
+    constexpr const char *names[] = {"no fault",         "unplugged", "busy",          "no permission",
+                                     "no USB bandwidth", "silent",    "not answering", "failed"};
+    return QLatin1String(names[int(fault)]);
 }

@@ -113,7 +113,7 @@ bool preferredMicrophone(const CaptureDevice &a, const CaptureDevice &b)
 CaptureDevice describeDevice(GstDevice *device, const QString &provider)
 {
     CaptureDevice described;
-    described.device.reset(static_cast<GstDevice *>(gst_object_ref(device)), GstObjectRelease());
+    described.device.reset(static_cast<GstDevice *>(gst_object_ref(device)), Release<gst_object_unref>());
     described.provider = provider;
     const TextHandle name(gst_device_get_display_name(device));
     described.name = QString::fromUtf8(name.get());

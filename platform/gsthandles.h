@@ -8,49 +8,38 @@
 // Owning handles of GStreamer's reference-counted objects: one reference each, given back when the handle
 // goes. A function that takes a handle by value takes the reference over; a raw pointer is only borrowed.
 
-struct GstObjectRelease {
-    void operator()(void *object) const { gst_object_unref(object); }
-};
-struct GstMiniObjectRelease {
-    template<typename T> void operator()(T *object) const
-    {
-        gst_mini_object_unref(GST_MINI_OBJECT_CAST(object));
-    }
-};
-struct GFree {
-    void operator()(void *memory) const { g_free(memory); }
-};
-struct GstBufferPoolRelease {
-    void operator()(GstBufferPool *pool) const
-    {
-        gst_buffer_pool_set_active(pool, FALSE);
-        gst_object_unref(pool);
-    }
-};
-struct GErrorFree {
-    void operator()(GError *error) const { g_error_free(error); }
-};
-struct GstVideoConverterFree {
-    void operator()(GstVideoConverter *converter) const { gst_video_converter_free(converter); }
-};
-struct GstStructureFree {
-    void operator()(GstStructure *structure) const { gst_structure_free(structure); }
+template<auto release> struct Release {
+    template<typename T> void operator()(T *held) const { release(held); }
 };
 
-using ElementHandle = std::unique_ptr<GstElement, GstObjectRelease>;
-using PadHandle = std::unique_ptr<GstPad, GstObjectRelease>;
-using BufferPoolHandle = std::unique_ptr<GstBufferPool, GstBufferPoolRelease>;
-using BusHandle = std::unique_ptr<GstBus, GstObjectRelease>;
-using ClockHandle = std::unique_ptr<GstClock, GstObjectRelease>;
-using ProviderHandle = std::unique_ptr<GstDeviceProvider, GstObjectRelease>;
-using CapsHandle = std::unique_ptr<GstCaps, GstMiniObjectRelease>;
-using SampleHandle = std::unique_ptr<GstSample, GstMiniObjectRelease>;
-using BufferHandle = std::unique_ptr<GstBuffer, GstMiniObjectRelease>;
-using MessageHandle = std::unique_ptr<GstMessage, GstMiniObjectRelease>;
-using StructureHandle = std::unique_ptr<GstStructure, GstStructureFree>;
-using ConverterHandle = std::unique_ptr<GstVideoConverter, GstVideoConverterFree>;
-using TextHandle = std::unique_ptr<char, GFree>;
-using ErrorHandle = std::unique_ptr<GError, GErrorFree>;
+template<typename T> void unrefMiniObject(T *object)
+{
+    gst_mini_object_unref(GST_MINI_OBJECT_CAST(object));
+}
+
+inline void releaseBufferPool(GstBufferPool *pool)
+{
+    gst_buffer_pool_set_active(pool, FALSE);
+    gst_object_unref(pool);
+}
+
+template<typename T> using ObjectHandle = std::unique_ptr<T, Release<gst_object_unref>>;
+template<typename T> using MiniObjectHandle = std::unique_ptr<T, Release<unrefMiniObject<T>>>;
+
+using ElementHandle = ObjectHandle<GstElement>;
+using PadHandle = ObjectHandle<GstPad>;
+using BufferPoolHandle = std::unique_ptr<GstBufferPool, Release<releaseBufferPool>>;
+using BusHandle = ObjectHandle<GstBus>;
+using ClockHandle = ObjectHandle<GstClock>;
+using ProviderHandle = ObjectHandle<GstDeviceProvider>;
+using CapsHandle = MiniObjectHandle<GstCaps>;
+using SampleHandle = MiniObjectHandle<GstSample>;
+using BufferHandle = MiniObjectHandle<GstBuffer>;
+using MessageHandle = MiniObjectHandle<GstMessage>;
+using StructureHandle = std::unique_ptr<GstStructure, Release<gst_structure_free>>;
+using ConverterHandle = std::unique_ptr<GstVideoConverter, Release<gst_video_converter_free>>;
+using TextHandle = std::unique_ptr<char, Release<g_free>>;
+using ErrorHandle = std::unique_ptr<GError, Release<g_error_free>>;
 
 // One further reference to a borrowed object.
 inline BufferHandle retain(GstBuffer *buffer)

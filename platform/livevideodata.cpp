@@ -12,7 +12,6 @@
 
 #include <QDeadlineTimer>
 #include <QPointer>
-#include <QTextStream>
 
 #include <algorithm>
 #include <thread>

@@ -17,7 +17,6 @@ struct Constants {
 
 // Which of those that libyuv knows are nearest: those of SMPTE 240M and of the FCC differ from them by less
 // than is seen.
-
 Constants constantsOf(const GstVideoColorimetry &colours)
 {
     using namespace libyuv;

@@ -14,16 +14,10 @@ libyuv::RotationMode modeOf(const Turn &turn)
 
 QPointF Turn::turnedBack(const QPointF &way) const
 {
-    switch (m_quarters) {
-    case 1:
-        return {way.y(), -way.x()};
-    case 2:
-        return -way;
-    case 3:
-        return {-way.y(), way.x()};
-    default:
-        return way;
-    }
+    QPointF turned = way;
+    for (int i = 0; i < m_quarters; ++i)
+        turned = {turned.y(), -turned.x()};
+    return turned;
 }
 
 void turnPlane(const uint8_t *from, int fromStride, const QSize &size, const Turn &turn, uint8_t *to,
