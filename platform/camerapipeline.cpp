@@ -2,6 +2,7 @@
 
 #include "platform/h264coders.h"
 #include "platform/optionalproperty.h"
+#include "platform/parsedelements.h"
 
 #include <gst/app/gstappsink.h>
 
@@ -16,6 +17,19 @@ constexpr GstClockTime oldestFrame = 3 * GST_SECOND;
 void keepRate(GstElement *source)
 {
     setIfPresent(source, "extra-controls", "controls,exposure_dynamic_framerate=0,exposure_auto_priority=0");
+}
+
+// No queue and no converter: what the formats need is done once for each use, at the size of that use. So it
+// is with JPEG, of which mostly a part of the pixels or none are wanted.
+QString frameElements(const CaptureMode &mode)
+{
+    QString elements;
+    if (mode.coding == CaptureMode::Coding::H264)
+        elements = QStringLiteral("h264parse ! %1 ! ").arg(QLatin1String(h264Decoder().description));
+    return elements +
+           QStringLiteral("appsink name=sink caps=\"video/x-raw;image/jpeg\" max-buffers=%1 drop=true "
+                          "sync=false async=false qos=false enable-last-sample=false wait-on-eos=false")
+               .arg(CameraPipeline::mostWaitingFrames);
 }
 
 } // namespace
@@ -37,52 +51,23 @@ CameraPipeline::~CameraPipeline()
     gst_element_set_state(m_pipeline.get(), GST_STATE_NULL);
 }
 
-GstElement *CameraPipeline::add(const char *element)
-{
-    return add(gst_element_factory_make(element, nullptr));
-}
-
-GstElement *CameraPipeline::add(GstElement *made)
-{
-    if (made)
-        gst_bin_add(GST_BIN(m_pipeline.get()), made);
-    return made;
-}
-
 bool CameraPipeline::build(GstDevice *device, const CaptureMode &mode)
 {
     GstElement *source = gst_device_create_element(device, nullptr);
     if (!source)
         return false;
-    gst_bin_add(GST_BIN(m_pipeline.get()), source);
+    auto *pipeline = GST_BIN(m_pipeline.get());
+    gst_bin_add(pipeline, source);
     keepRate(source);
-    GstElement *filter = add("capsfilter");
-    m_sink = add("appsink");
-    if (!filter || !m_sink)
+    QString fault;
+    GstElement *frames = parseElements(frameElements(mode), &fault);
+    if (!frames) {
+        fail({CameraFault::Failed, fault});
         return false;
-    const CapsHandle caps = fixedCaps(mode);
-    g_object_set(filter, "caps", caps.get(), nullptr);
-    const CapsHandle taken(gst_caps_from_string("video/x-raw;image/jpeg"));
-    g_object_set(m_sink, "caps", taken.get(), "max-buffers", guint(mostWaitingFrames), "drop", TRUE, "sync",
-                 FALSE, "async", FALSE, "qos", FALSE, "enable-last-sample", FALSE, "wait-on-eos", FALSE,
-                 nullptr);
-
-    // No queue and no converter: what the formats need is done once for each use, at the size of that use. So
-    // it is with JPEG, of which mostly a part of the pixels or none are wanted.
-    GstElement *last = filter;
-    return gst_element_link(source, filter) &&
-           (mode.coding != CaptureMode::Coding::H264 || addH264Decoder(&last)) &&
-           gst_element_link(last, m_sink);
-}
-
-bool CameraPipeline::addH264Decoder(GstElement **last)
-{
-    GstElement *parser = add("h264parse");
-    GstElement *decoder = add(makeH264Decoder(h264Decoder()));
-    if (!parser || !decoder || !gst_element_link_many(*last, parser, decoder, nullptr))
-        return false;
-    *last = decoder;
-    return true;
+    }
+    gst_bin_add(pipeline, frames);
+    m_sink.reset(gst_bin_get_by_name(pipeline, "sink"));
+    return gst_element_link_filtered(source, frames, fixedCaps(mode).get());
 }
 
 bool CameraPipeline::open()
@@ -99,7 +84,7 @@ bool CameraPipeline::open()
 FramePtr CameraPipeline::nextFrame(std::chrono::milliseconds wait)
 {
     const SampleHandle sample(
-        gst_app_sink_try_pull_sample(GST_APP_SINK(m_sink), GstClockTime(wait.count()) * GST_MSECOND));
+        gst_app_sink_try_pull_sample(GST_APP_SINK(m_sink.get()), GstClockTime(wait.count()) * GST_MSECOND));
     if (!sample)
         return {};
     auto frame = std::make_shared<CapturedFrame>();

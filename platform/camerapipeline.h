@@ -36,14 +36,11 @@ public:
 
 private:
     bool build(GstDevice *device, const CaptureMode &mode);
-    bool addH264Decoder(GstElement **last);
-    GstElement *add(const char *element);
-    GstElement *add(GstElement *made);
     void fail(CameraFailure failure);
     GstClockTime captureTime(GstSample *sample) const;
 
     ElementHandle m_pipeline;
     BusHandle m_bus;
-    GstElement *m_sink = nullptr; // owned by the pipeline
-    CameraFailure m_failure;      // without a fault while all is well
+    ElementHandle m_sink;
+    CameraFailure m_failure; // without a fault while all is well
 };

@@ -2,9 +2,8 @@
 
 #include "platform/capturelog.h"
 #include "platform/codertrial.h"
-#include "platform/gsthandles.h"
 
-#include <QString>
+#include <gst/gst.h>
 
 #include <algorithm>
 #include <atomic>
@@ -51,25 +50,6 @@ const H264Coder hardwareDecoders[] = {{"vah264dec", "vah264dec"}, {"v4l2h264dec"
 std::atomic<const H264Coder *> encoderInUse{&softwareEncoder};
 std::atomic<const H264Coder *> decoderInUse{&softwareDecoder};
 
-QString describe(const H264Coder &encoder, QSize picture, int framesPerSecond)
-{
-    return QString::fromLatin1(encoder.description)
-        .replace(QLatin1String("{kilobits}"), QString::number(mostKilobits(picture, framesPerSecond)))
-        .replace(QLatin1String("{keyframe}"), QString::number(framesPerSecond * secondsPerKeyFrame));
-}
-
-GstElement *make(const QByteArray &description)
-{
-    constexpr auto flags = GstParseFlags(GST_PARSE_FLAG_FATAL_ERRORS | GST_PARSE_FLAG_NO_SINGLE_ELEMENT_BINS |
-                                         GST_PARSE_FLAG_PLACE_IN_BIN);
-    GError *problem = nullptr;
-    GstElement *made = gst_parse_bin_from_description_full(description, TRUE, nullptr, flags, &problem);
-    const ErrorHandle error(problem);
-    if (error)
-        qCWarning(movieLog).noquote() << description << ": " << errorText(error.get(), nullptr);
-    return made;
-}
-
 bool isInstalled(const H264Coder &coder)
 {
     return gst_registry_check_feature_version(gst_registry_get(), coder.element, 1, 0, 0);
@@ -82,7 +62,7 @@ template<size_t n> bool isAnyInstalled(const H264Coder (&coders)[n])
 
 CoderTrial tryPair(const H264Coder &encoder, const H264Coder &decoder)
 {
-    return tryCoders(describe(encoder, CoderTrial::picture, CoderTrial::framesPerSecond),
+    return tryCoders(h264EncoderDescription(encoder, CoderTrial::picture, CoderTrial::framesPerSecond),
                      QLatin1String(decoder.description));
 }
 
@@ -136,14 +116,11 @@ const H264Coder &h264Decoder()
     return *decoderInUse;
 }
 
-GstElement *makeH264Encoder(const H264Coder &encoder, QSize picture, int framesPerSecond)
+QString h264EncoderDescription(const H264Coder &encoder, QSize picture, int framesPerSecond)
 {
-    return make(describe(encoder, picture, framesPerSecond).toLatin1());
-}
-
-GstElement *makeH264Decoder(const H264Coder &decoder)
-{
-    return make(decoder.description);
+    return QString::fromLatin1(encoder.description)
+        .replace(QLatin1String("{kilobits}"), QString::number(mostKilobits(picture, framesPerSecond)))
+        .replace(QLatin1String("{keyframe}"), QString::number(framesPerSecond * secondsPerKeyFrame));
 }
 
 int mostKilobits(QSize picture, int framesPerSecond)

@@ -1,13 +1,12 @@
 #pragma once
 
-#include <gst/gst.h>
-
 #include <QSize>
+#include <QString>
 
-// A way to encode or to decode H.264.
+// A way to encode or to decode H.264, to be taken to parseElements().
 struct H264Coder {
     const char *element;     // without which it is not to be had
-    const char *description; // of it and what it needs beside it, as GStreamer's parser takes them
+    const char *description; // of it and what it needs beside it; an encoder's has gaps
 };
 
 // What a movie's pictures are encoded with, and a camera's H.264 is decoded with: software, or this machine's
@@ -15,9 +14,8 @@ struct H264Coder {
 const H264Coder &h264Encoder(QSize picture);
 const H264Coder &h264Decoder();
 
-// Such an element or bin, to be owned by whoever takes it into a pipeline; null when it cannot be had.
-GstElement *makeH264Encoder(const H264Coder &encoder, QSize picture, int framesPerSecond);
-GstElement *makeH264Decoder(const H264Coder &decoder);
+// An encoder's, for pictures of that size.
+QString h264EncoderDescription(const H264Coder &encoder, QSize picture, int framesPerSecond);
 // What such an encoder gives at most, in thousands of bits a second.
 int mostKilobits(QSize picture, int framesPerSecond);
 

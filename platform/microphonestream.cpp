@@ -2,6 +2,7 @@
 
 #include "platform/capturelog.h"
 #include "platform/optionalproperty.h"
+#include "platform/parsedelements.h"
 #include "platform/soundtrack.h"
 
 #include <gst/app/gstappsink.h>
@@ -13,6 +14,12 @@ namespace
 
 // Frames that a microphone lost, unlike what its stamps tremble.
 constexpr GstClockTime leastLoss = 20 * GST_MSECOND;
+
+QString soundElements()
+{
+    return QStringLiteral("audioconvert ! audioresample ! appsink name=sink sync=false async=false caps=") +
+           QLatin1String(soundCaps);
+}
 
 } // namespace
 
@@ -131,22 +138,20 @@ bool MicrophoneStream::build(const CaptureDevice &device)
     // Room for a burst of half a second, and for a reader that comes late, in microseconds. It delays
     // nothing.
     setIfPresent(source, "buffer-time", "1000000");
-    GstElement *last = source;
-    for (const char *name : {"audioconvert", "audioresample", "appsink"}) {
-        GstElement *element = gst_element_factory_make(name, nullptr);
-        if (!element)
-            return false;
-        gst_bin_add(bin, element);
-        if (!gst_element_link(last, element))
-            return false;
-        last = element;
+    QString fault;
+    GstElement *sound = parseElements(soundElements(), &fault);
+    if (!sound) {
+        m_microphone->state.fail(fault);
+        return false;
     }
-    const CapsHandle caps(gst_caps_from_string(soundCaps));
-    g_object_set(last, "caps", caps.get(), "sync", FALSE, "async", FALSE, nullptr);
+    gst_bin_add(bin, sound);
+    if (!gst_element_link(source, sound))
+        return false;
     GstAppSinkCallbacks callbacks{};
     callbacks.eos = Microphone::end;
     callbacks.new_sample = Microphone::take;
-    gst_app_sink_set_callbacks(GST_APP_SINK(last), &callbacks, m_microphone.get(), nullptr);
+    const ElementHandle sink(gst_bin_get_by_name(bin, "sink"));
+    gst_app_sink_set_callbacks(GST_APP_SINK(sink.get()), &callbacks, m_microphone.get(), nullptr);
     const ClockHandle clock(gst_system_clock_obtain());
     gst_pipeline_use_clock(GST_PIPELINE(bin), clock.get());
     const BusHandle bus(gst_element_get_bus(m_pipeline.get()));

@@ -1,6 +1,7 @@
 #include "platform/moviepipeline.h"
 
 #include "platform/movielimits.h"
+#include "platform/parsedelements.h"
 #include "platform/soundformat.h"
 
 #include <QFile>
@@ -30,117 +31,69 @@ constexpr int soundBitRate = 128000;
 // Holds the encoded streams while the muxer waits for the disk: a minute and more of movie.
 constexpr guint muxQueueBytes = 64 * 1024 * 1024;
 
-class Assembly
+// Not live: the muxer waits for the later of the two streams. The parser tells how long each frame lasts;
+// without that the last one would not be seen. What is written must be in the file when the program dies, not
+// in a buffer of the file's own. No other encoder of the sound: soundDelay() is what this one was measured to
+// take.
+QString movieElements(const QString &pictureEncoder)
 {
-public:
-    Assembly() : m_pipeline(GST_ELEMENT(gst_object_ref_sink(gst_pipeline_new("movie")))) {}
-
-    // The element, owned by the pipeline; null, remembered as a failure, when it is not installed.
-    GstElement *add(const char *element) { return add(gst_element_factory_make(element, nullptr)); }
-    GstElement *add(GstElement *made)
-    {
-        if (made)
-            gst_bin_add(GST_BIN(m_pipeline.get()), made);
-        m_isComplete = m_isComplete && made;
-        return made;
-    }
-    void chain(std::initializer_list<GstElement *> elements)
-    {
-        GstElement *last = nullptr;
-        for (GstElement *element : elements) {
-            m_isComplete = m_isComplete && element && (!last || gst_element_link(last, element));
-            last = element;
-        }
-    }
-    bool isComplete() const { return m_isComplete; }
-    ElementHandle take() { return std::move(m_pipeline); }
-
-private:
-    ElementHandle m_pipeline;
-    bool m_isComplete = true;
-};
-
-GstElement *addMuxQueue(Assembly &assembly)
-{
-    GstElement *queue = assembly.add("queue");
-    if (queue)
-        g_object_set(queue, "max-size-buffers", 0U, "max-size-time", guint64(0), "max-size-bytes",
-                     muxQueueBytes, nullptr);
-    return queue;
+    return QStringLiteral(
+               "appsrc name=pictures format=time max-bytes=0 ! bin.( name=encoder %1 ) ! h264parse "
+               "! queue name=picturequeue max-size-buffers=0 max-size-time=0 max-size-bytes=%2 "
+               "! muxer.video_0 "
+               "appsrc name=sound format=time max-bytes=0 caps=%3 ! audioconvert "
+               "! avenc_aac bitrate=%4 "
+               "! queue name=soundqueue max-size-buffers=0 max-size-time=0 max-size-bytes=%2 "
+               "! muxer.audio_0 "
+               "qtmux name=muxer ! filesink name=file sync=false async=false buffer-mode=unbuffered")
+        .arg(pictureEncoder)
+        .arg(muxQueueBytes)
+        .arg(QLatin1String(soundCaps))
+        .arg(soundBitRate);
 }
 
-GstElement *addMuxer(Assembly &assembly, const MovieSettings &settings)
+CapsHandle capsOf(const MovieSettings &settings)
 {
-    GstElement *muxer = assembly.add("qtmux");
-    if (!muxer)
-        return nullptr;
+    GstVideoInfo info = settings.picture;
+    info.fps_n = settings.framesPerSecond;
+    info.fps_d = 1;
+    return CapsHandle(gst_video_info_to_caps(&info));
+}
+
+void reserveIndex(GstElement *muxer, const MovieSettings &settings)
+{
     const int bytesPerSecond =
         qMax(leastIndexBytesPerSecond, 2 * indexBytesPerFrame * qMax(1, settings.framesPerSecond));
     // The size of the place is fixed before the period is looked at, so all of them are set together.
     g_object_set(muxer, "reserved-max-duration", guint64(indexedSeconds) * GST_SECOND,
                  "reserved-moov-update-period", guint64(indexPeriod), "reserved-bytes-per-sec",
                  guint(bytesPerSecond), nullptr);
-    return muxer;
-}
-
-GstElement *addFile(Assembly &assembly, const QString &path)
-{
-    GstElement *file = assembly.add("filesink");
-    if (!file)
-        return nullptr;
-    g_object_set(file, "location", QFile::encodeName(path).constData(), "sync", FALSE, "async", FALSE,
-                 nullptr);
-    // What is written must be in the file when the program dies, not in a buffer of its own.
-    gst_util_set_object_arg(G_OBJECT(file), "buffer-mode", "unbuffered");
-    return file;
-}
-
-// Not live: the muxer waits for the later of the two.
-GstElement *addSource(Assembly &assembly, GstCaps *caps)
-{
-    GstElement *source = assembly.add("appsrc");
-    if (source)
-        g_object_set(source, "caps", caps, "format", GST_FORMAT_TIME, "block", FALSE, "max-bytes", guint64(0),
-                     nullptr);
-    return source;
-}
-
-GstElement *addPictures(Assembly &assembly, const MovieSettings &settings)
-{
-    GstVideoInfo info = settings.picture;
-    info.fps_n = settings.framesPerSecond;
-    info.fps_d = 1;
-    const CapsHandle caps(gst_video_info_to_caps(&info));
-    return addSource(assembly, caps.get());
 }
 
 } // namespace
 
 MoviePipeline buildMoviePipeline(const MovieSettings &settings, const H264Coder &encoder)
 {
-    Assembly assembly;
     MoviePipeline movie;
-    movie.muxer = addMuxer(assembly, settings);
-    assembly.chain({movie.muxer, addFile(assembly, settings.path)});
-
-    movie.pictures = addPictures(assembly, settings);
-    movie.pictureQueue = addMuxQueue(assembly);
-    // The parser tells how long each frame lasts. Without that the last one would not be seen.
-    movie.pictureEncoder =
-        assembly.add(makeH264Encoder(encoder, settings.pictureSize(), settings.framesPerSecond));
-    assembly.chain(
-        {movie.pictures, movie.pictureEncoder, assembly.add("h264parse"), movie.pictureQueue, movie.muxer});
-
-    const CapsHandle caps(gst_caps_from_string(soundCaps));
-    movie.sound = addSource(assembly, caps.get());
-    movie.soundQueue = addMuxQueue(assembly);
-    // No other one: soundDelay() is what this one was measured to take.
-    GstElement *soundEncoder = assembly.add("avenc_aac");
-    assembly.chain({movie.sound, assembly.add("audioconvert"), soundEncoder, movie.soundQueue, movie.muxer});
-    if (!assembly.isComplete())
-        return {};
-    g_object_set(soundEncoder, "bitrate", soundBitRate, nullptr);
-    movie.pipeline = assembly.take();
+    const QString pictureEncoder =
+        h264EncoderDescription(encoder, settings.pictureSize(), settings.framesPerSecond);
+    GstElement *elements = parseElements(movieElements(pictureEncoder), &movie.fault);
+    if (!elements)
+        return movie;
+    movie.pipeline.reset(GST_ELEMENT(gst_object_ref_sink(gst_pipeline_new("movie"))));
+    gst_bin_add(GST_BIN(movie.pipeline.get()), elements);
+    const auto named = [elements](const char *name) {
+        return ElementHandle(gst_bin_get_by_name(GST_BIN(elements), name));
+    };
+    movie.muxer = named("muxer");
+    movie.pictureQueue = named("picturequeue");
+    movie.soundQueue = named("soundqueue");
+    movie.pictures = named("pictures");
+    movie.pictureEncoder = named("encoder");
+    movie.sound = named("sound");
+    reserveIndex(movie.muxer.get(), settings);
+    g_object_set(movie.pictures.get(), "caps", capsOf(settings).get(), nullptr);
+    g_object_set(named("file").get(), "location", QFile::encodeName(settings.path).constData(), nullptr);
     return movie;
 }
 
@@ -149,17 +102,17 @@ void paceIndex(const MoviePipeline &movie)
 {
     guint64 pictures = 0;
     guint64 sound = 0;
-    g_object_get(movie.pictureQueue, "current-level-time", &pictures, nullptr);
-    g_object_get(movie.soundQueue, "current-level-time", &sound, nullptr);
+    g_object_get(movie.pictureQueue.get(), "current-level-time", &pictures, nullptr);
+    g_object_get(movie.soundQueue.get(), "current-level-time", &sound, nullptr);
     const bool isBehind = qMin(pictures, sound) >= indexPeriod;
-    g_object_set(movie.muxer, "reserved-moov-update-period",
+    g_object_set(movie.muxer.get(), "reserved-moov-update-period",
                  guint64(isBehind ? seldomIndexPeriod : indexPeriod), nullptr);
 }
 
 qint64 waitingBytes(const MoviePipeline &movie)
 {
     guint bytes = 0;
-    g_object_get(movie.pictureQueue, "current-level-bytes", &bytes, nullptr);
+    g_object_get(movie.pictureQueue.get(), "current-level-bytes", &bytes, nullptr);
     return bytes;
 }
 

@@ -1,17 +1,20 @@
 #pragma once
 
+#include "platform/gsthandles.h"
 #include "platform/h264coders.h"
 #include "platform/moviesettings.h"
 
-// The elements of one movie file, put together and stopped. The pipeline owns the others.
+// One movie file and what is set and asked of its elements while it runs.
 struct MoviePipeline {
     ElementHandle pipeline;
-    GstElement *muxer = nullptr;        // writes the index
-    GstElement *pictureQueue = nullptr; // encoded pictures that wait for the muxer, and it for the disk
-    GstElement *soundQueue = nullptr;   // the same of the sound
-    GstElement *pictures = nullptr;     // appsrc that takes the frames
-    GstElement *pictureEncoder = nullptr;
-    GstElement *sound = nullptr; // appsrc that takes the sound, as in platform/soundformat.h
+    ElementHandle muxer;        // writes the index
+    ElementHandle pictureQueue; // encoded pictures that wait for the muxer, and it for the disk
+    ElementHandle soundQueue;   // the same of the sound
+    ElementHandle pictures;     // appsrc that takes the frames
+    ElementHandle pictureEncoder;
+    ElementHandle sound; // appsrc that takes the sound, as in platform/soundformat.h
+
+    QString fault; // why it is not complete
 
     bool isComplete() const { return pipeline != nullptr; }
 };

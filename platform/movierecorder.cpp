@@ -67,7 +67,7 @@ bool MovieRecorder::start(const FramePtr &first)
     }
     if (!m_movie.isComplete()) {
         distrust(m_encoder);
-        fail(MovieEnd::Failed, "Its streams cannot be put together.");
+        fail(MovieEnd::Failed, m_movie.fault);
         return false;
     }
     tellShortRoom();
@@ -87,7 +87,7 @@ bool MovieRecorder::startPipeline()
     m_startedAt = std::chrono::steady_clock::now();
     if (gst_element_set_state(pipeline, GST_STATE_PLAYING) == GST_STATE_CHANGE_FAILURE)
         return false;
-    m_sound = std::make_unique<MovieSound>(m_movie.sound, m_startTime, m_settings.microphone);
+    m_sound = std::make_unique<MovieSound>(m_movie.sound.get(), m_startTime, m_settings.microphone);
     return true;
 }
 
@@ -131,7 +131,7 @@ GstBusSyncReply MovieRecorder::onMessage(GstBus *, GstMessage *message, gpointer
 bool MovieRecorder::isFromEncoder(GstMessage *message)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    return gst_object_has_as_ancestor(GST_MESSAGE_SRC(message), GST_OBJECT(m_movie.pictureEncoder));
+    return gst_object_has_as_ancestor(GST_MESSAGE_SRC(message), GST_OBJECT(m_movie.pictureEncoder.get()));
 }
 
 void MovieRecorder::note(GstMessage *message)
@@ -241,7 +241,7 @@ guint64 MovieRecorder::mostWaitingFrames() const
 
 bool MovieRecorder::isBehind()
 {
-    auto *pictures = GST_APP_SRC(m_movie.pictures);
+    auto *pictures = GST_APP_SRC(m_movie.pictures.get());
     const guint64 waiting = gst_app_src_get_current_level_buffers(pictures);
     m_hasKeptUp = m_hasKeptUp || waiting == 0;
     return gst_app_src_get_current_level_bytes(pictures) >= mostWaitingBytes ||
@@ -255,7 +255,7 @@ void MovieRecorder::push(const CapturedFrame &frame)
     m_nextTime = frame.clockTime + 1;
     GstBuffer *picture = frame.picture.get();
     GST_BUFFER_PTS(picture) = frame.clockTime - m_startTime;
-    gst_app_src_push_buffer(GST_APP_SRC(m_movie.pictures), gst_buffer_ref(picture));
+    gst_app_src_push_buffer(GST_APP_SRC(m_movie.pictures.get()), gst_buffer_ref(picture));
     paceIndex(m_movie);
 }
 
@@ -350,7 +350,7 @@ bool MovieRecorder::waitForFile(std::chrono::milliseconds limit)
 void MovieRecorder::close()
 {
     waitForLastFrames();
-    gst_app_src_end_of_stream(GST_APP_SRC(m_movie.pictures));
+    gst_app_src_end_of_stream(GST_APP_SRC(m_movie.pictures.get()));
     m_sound->end(m_stopTime);
     waitForEndOfStreams();
     gst_element_set_state(m_movie.pipeline.get(), GST_STATE_NULL);
