@@ -6,8 +6,8 @@
 
 #include <memory>
 
-// One picture of the camera at its full size, as the camera sent it: raw, or a JPEG. It is never written to,
-// so it can be shared among threads.
+// One picture of the camera at its full size, as the camera sent it: raw, or a JPEG. Its pixels are never
+// written to, so it can be shared among threads.
 struct CapturedFrame {
     GstVideoInfo info{}; // of a JPEG only the size
     BufferHandle picture;

@@ -2,6 +2,9 @@
 
 #include "platform/jpegdecoder.h"
 
+#include <mutex>
+#include <utility>
+
 namespace
 {
 
@@ -34,6 +37,33 @@ QRect inSize(const QRect &part, const QSize &from, const QSize &to)
 
 } // namespace
 
+// The memory of planes that nobody reads any more, for the next picture: fresh memory would have to be
+// cleared by the system.
+class SparePlanes
+{
+public:
+    static std::shared_ptr<PlaneMemory> take(const std::shared_ptr<SparePlanes> &spare)
+    {
+        std::unique_ptr<PlaneMemory> memory = spare->exchange({});
+        if (!memory)
+            memory = std::make_unique<PlaneMemory>();
+        return {memory.release(),
+                [spare](PlaneMemory *used) { spare->exchange(std::unique_ptr<PlaneMemory>(used)); }};
+    }
+
+private:
+    std::unique_ptr<PlaneMemory> exchange(std::unique_ptr<PlaneMemory> memory)
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        return std::exchange(m_memory, std::move(memory));
+    }
+
+    std::mutex m_mutex;
+    std::unique_ptr<PlaneMemory> m_memory;
+};
+
+FramePlanes::FramePlanes() : m_spare(std::make_shared<SparePlanes>()) {}
+
 std::optional<PicturePlanes> FramePlanes::read(const FramePtr &frame, const QRect &part, const QSize &size)
 {
     if (frame->isDamaged)
@@ -49,8 +79,9 @@ std::optional<PicturePlanes> FramePlanes::readRaw(const FramePtr &frame, const Q
 {
     release();
     m_frame = frame;
-    m_mapped = std::make_unique<MappedFrame>(frame->info, frame->picture.get(), GST_MAP_READ);
-    return m_mapped->isValid() ? planesOf(m_mapped->get(), part, &m_memory) : std::nullopt;
+    m_mapped = std::make_shared<MappedFrame>(frame->info, frame->picture.get(), GST_MAP_READ);
+    m_memory = SparePlanes::take(m_spare);
+    return m_mapped->isValid() ? planesOf(m_mapped->get(), part, m_memory.get()) : std::nullopt;
 }
 
 bool FramePlanes::decode(const FramePtr &frame, int denominator)
@@ -60,7 +91,8 @@ bool FramePlanes::decode(const FramePtr &frame, int denominator)
         release();
         m_frame = frame;
         m_denominator = denominator;
-        m_decoded = JpegDecoder::decode(frame->picture.get(), frame->size(), denominator, &m_memory);
+        m_memory = SparePlanes::take(m_spare);
+        m_decoded = JpegDecoder::decode(frame->picture.get(), frame->size(), denominator, m_memory.get());
     }
     return m_decoded.has_value();
 }
@@ -75,5 +107,6 @@ void FramePlanes::release()
     m_mapped.reset();
     m_decoded.reset();
     m_denominator = 0;
+    m_memory.reset();
     m_frame.reset();
 }

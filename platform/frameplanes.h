@@ -3,10 +3,15 @@
 #include "platform/capturedframe.h"
 #include "platform/pictureplanes.h"
 
-// Reads the planes of a camera's frames: of a JPEG only as far as it is wanted. For one thread at a time.
+class SparePlanes;
+
+// Reads the planes of a camera's frames: of a JPEG only as far as it is wanted. For one thread at a time; a
+// copy may be read in another one, and has what is there already too.
 class FramePlanes
 {
 public:
+    FramePlanes();
+
     // What the zoom's part of the frame is made of, for a picture of `size`: a JPEG is decoded at the least
     // scale that has the pixels for it. Of the JPEG asked for last, what is there already is used again.
     // Nothing for a damaged frame, and for raw formats without planes. Good until the next call.
@@ -23,8 +28,9 @@ private:
     bool decode(const FramePtr &frame, int denominator);
 
     FramePtr m_frame;
-    std::unique_ptr<MappedFrame> m_mapped;  // of a raw frame
+    std::shared_ptr<MappedFrame> m_mapped;  // of a raw frame
     std::optional<PicturePlanes> m_decoded; // of a JPEG
     int m_denominator = 0;                  // at which it was decoded, or found damaged; 0 for not at all
-    PlaneMemory m_memory;
+    std::shared_ptr<PlaneMemory> m_memory;  // of both, null when not used
+    std::shared_ptr<SparePlanes> m_spare;   // one for all copies
 };

@@ -1,6 +1,9 @@
 #include "platform/grabthread.h"
 
+#include "platform/moviefeed.h"
 #include "platform/movierecorder.h"
+
+#include <thread>
 
 namespace
 {
@@ -41,10 +44,16 @@ void GrabThread::setView(const QSize &box, const Framing &framing)
     m_isViewChanged = true;
 }
 
-void GrabThread::setMovie(std::shared_ptr<MovieRecorder> movie)
+void GrabThread::setMovie(const std::shared_ptr<MovieRecorder> &movie)
 {
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    m_movie = std::move(movie);
+    auto feed = std::make_shared<MovieFeed>(movie);
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_movie.swap(feed);
+    }
+    // Of one that is not let go of yet the pictures that are being made are waited for.
+    if (feed)
+        std::thread([former = std::move(feed)] {}).detach();
 }
 
 QImage GrabThread::picture() const
@@ -83,7 +92,6 @@ void GrabThread::run()
         m_isOpening = false;
         grabUntilStopped(pipeline);
         grabLastOfMovie(pipeline);
-        endMovie();
     }
     fail(pipeline.failure());
 }
@@ -137,17 +145,22 @@ bool GrabThread::canBeRead(const CapturedFrame &frame) const
 // What was captured before the movie's end, and comes after the thread was asked to end.
 void GrabThread::grabLastOfMovie(CameraPipeline &pipeline)
 {
-    const auto limit = std::chrono::steady_clock::now() + MovieRecorder::lastFrameLimit;
-    while (hasMovie() && !pipeline.hasFailed() && std::chrono::steady_clock::now() < limit) {
+    const std::shared_ptr<MovieFeed> last = movie();
+    if (!last)
+        return;
+    const auto limit = std::chrono::steady_clock::now() + last->lastFrameLimit();
+    while (movie() && !pipeline.hasFailed() && std::chrono::steady_clock::now() < limit) {
         if (const FramePtr frame = pipeline.nextFrame(frameWait))
             record(frame);
     }
+    m_planes.release();
+    letGo(last); // before the camera is closed, which it may not let happen
 }
 
-bool GrabThread::hasMovie() const
+std::shared_ptr<MovieFeed> GrabThread::movie() const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    return m_movie != nullptr;
+    return m_movie;
 }
 
 // Hands on every frame that has come and returns the last: the window never gets behind.
@@ -181,44 +194,22 @@ void GrabThread::deliver(const FramePtr &frame)
 
 void GrabThread::record(const FramePtr &frame)
 {
-    std::shared_ptr<MovieRecorder> movie;
-    Framing framing;
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        movie = m_movie;
-        framing = m_view.framing;
-    }
-    if (!movie) {
-        m_moviePictures.release();
+    const std::shared_ptr<MovieFeed> current = movie();
+    if (!current)
         return;
-    }
-    if (!movie->wants(frame->clockTime)) {
-        letGo(movie);
-        return;
-    }
-    // Zoomed and turned by then.
-    if (const FramePtr picture = m_moviePictures.make(frame, &m_planes, framing, movie->settings().picture))
-        movie->take(picture);
+    const View shown = view();
+    if (current->wants(*frame))
+        current->add(frame, &m_planes, shown.framing, shown.box);
+    else
+        letGo(current);
 }
 
 // Unless there is another one by now.
-void GrabThread::letGo(const std::shared_ptr<MovieRecorder> &movie)
+void GrabThread::letGo(const std::shared_ptr<MovieFeed> &movie)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (m_movie == movie)
         m_movie.reset();
-}
-
-// Before the camera is closed, which it may not let happen.
-void GrabThread::endMovie()
-{
-    std::shared_ptr<MovieRecorder> movie;
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        movie.swap(m_movie);
-    }
-    if (movie)
-        movie->noteLastFrame();
 }
 
 void GrabThread::tellPicture()

@@ -2,7 +2,6 @@
 
 #include "platform/camerapipeline.h"
 #include "platform/framerenderer.h"
-#include "platform/moviepictures.h"
 #include "platform/newestframe.h"
 
 #include <QImage>
@@ -15,6 +14,7 @@
 #include <memory>
 #include <mutex>
 
+class MovieFeed;
 class MovieRecorder;
 
 // A camera's device together with the lock that says who has it open.
@@ -41,7 +41,7 @@ public:
     void setView(const QSize &box, const Framing &framing);
     // Hands every further whole frame to the movie, as its picture of what is shown, in place of the movie
     // before it, until it wants no more.
-    void setMovie(std::shared_ptr<MovieRecorder> movie);
+    void setMovie(const std::shared_ptr<MovieRecorder> &movie);
 
     // The latest picture for the window; null before the first. Shares its pixels.
     QImage picture() const;
@@ -79,14 +79,13 @@ private:
     bool waitForAccess(std::unique_lock<std::timed_mutex> &access);
     void grabUntilStopped(CameraPipeline &pipeline);
     void grabLastOfMovie(CameraPipeline &pipeline);
-    bool hasMovie() const;
+    std::shared_ptr<MovieFeed> movie() const;
     void fail(CameraFailure failure);
     FramePtr grabAllWaiting(CameraPipeline &pipeline);
     bool canBeRead(const CapturedFrame &frame) const;
     void deliver(const FramePtr &frame);
     void record(const FramePtr &frame);
-    void letGo(const std::shared_ptr<MovieRecorder> &movie);
-    void endMovie();
+    void letGo(const std::shared_ptr<MovieFeed> &movie);
     void tellPicture();
     void show(const FramePtr &frame, const View &view);
     View view() const;
@@ -98,12 +97,11 @@ private:
     const CaptureMode m_mode;
     const std::shared_ptr<NewestFrame> m_frames;
     FramePlanes m_planes; // of the frame that is worked on, for movie and window
-    MoviePictures m_moviePictures;
     FrameRenderer m_renderer;
 
     mutable std::mutex m_mutex; // guards m_frame, m_image, m_view, m_movie and m_failure
     View m_view;
-    std::shared_ptr<MovieRecorder> m_movie;
+    std::shared_ptr<MovieFeed> m_movie;
     CameraFailure m_failure;
     std::atomic<bool> m_isViewChanged{false};
     std::atomic<bool> m_isOpening{true};

@@ -8,6 +8,7 @@
 #include <QPointer>
 
 #include <thread>
+#include <utility>
 
 namespace
 {
@@ -38,11 +39,11 @@ bool LiveVideoData::SaveBitmap(QString path) // NOLINT(performance-unnecessary-v
 PhotoFault LiveVideoData::savePhoto(const QString &path)
 {
     const QPointer<LiveVideoData> self(this);
-    const FramePtr frame = awaitFrame();
+    FramePtr frame = awaitFrame();
     if (!frame)
         return PhotoFault::NoPicture;
     const auto still = std::make_shared<StillPicture>(
-        StillOrder{frame, m_grabThread->frames(), m_framing, path}, m_listener != nullptr);
+        StillOrder{std::move(frame), m_grabThread->frames(), m_framing, path}, m_listener != nullptr);
     std::thread([still] { still->save(); }).detach();
     const auto isThrough = [&] {
         const bool hasResult = still->result().has_value();

@@ -66,6 +66,18 @@ bool unpack(const CapturedFrame &frame, GstVideoFrame *picture)
     return true;
 }
 
+std::optional<PicturePlanes> read(const FramePtr &frame, FramePlanes *planes, const Framing &framing,
+                                  const QSize &size)
+{
+    return planes->read(frame, framing.shownPart(frame->size()), framing.turn.turned(size));
+}
+
+QRect placeOf(const CapturedFrame &frame, const Framing &framing, const GstVideoInfo &info)
+{
+    return placeIn({GST_VIDEO_INFO_WIDTH(&info), GST_VIDEO_INFO_HEIGHT(&info)},
+                   framing.shownSize(frame.size()));
+}
+
 } // namespace
 
 GstVideoInfo MoviePictures::infoOf(const QSize &shown)
@@ -79,6 +91,15 @@ GstVideoInfo MoviePictures::infoOf(const QSize &shown)
     return info;
 }
 
+void MoviePictures::prepare(const FramePtr &frame, FramePlanes *planes, const Framing &framing,
+                            const GstVideoInfo &info, const QSize &box)
+{
+    if (!frame->isJpeg())
+        return;
+    const QSize inWindow = framing.shownSize(frame->size()).scaled(box, Qt::KeepAspectRatio);
+    read(frame, planes, framing, placeOf(*frame, framing, info).size().expandedTo(inWindow));
+}
+
 FramePtr MoviePictures::make(const FramePtr &frame, FramePlanes *planes, const Framing &framing,
                              const GstVideoInfo &info)
 {
@@ -89,7 +110,7 @@ FramePtr MoviePictures::make(const FramePtr &frame, FramePlanes *planes, const F
     if (!made->picture)
         return {};
     MappedFrame picture(info, made->picture.get(), GST_MAP_READWRITE);
-    const QRect place = placeIn(made->size(), framing.shownSize(frame->size()));
+    const QRect place = placeOf(*frame, framing, info);
     if (!picture.isValid() || !draw(frame, planes, framing, place, picture.get()))
         return {};
     blackenAround(place, picture.get());
@@ -118,9 +139,7 @@ bool MoviePictures::draw(const FramePtr &frame, FramePlanes *planes, const Frami
 {
     if (framing.isNone() && unpack(*frame, picture))
         return true;
-    const QRect part = framing.shownPart(frame->size());
-    const std::optional<PicturePlanes> found = planes->read(frame, part, framing.turn.turned(place.size()));
-    if (found) {
+    if (const auto found = read(frame, planes, framing, place.size())) {
         put(*found, framing.turn, place, picture);
         changeColours(found->colours, picture);
         return true;

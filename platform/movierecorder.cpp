@@ -8,6 +8,7 @@
 
 #include <gst/app/gstappsrc.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <thread>
@@ -23,6 +24,8 @@ using namespace std::chrono_literals;
 constexpr gsize mostWaitingBytes = gsize(128) << 20;
 // Until it first keeps up: a slow machine needs more than a second to load and to start it.
 constexpr int startingSeconds = 3;
+
+constexpr auto leastFrameWait = 300ms;
 
 // How long a slow disk may take nothing of what is left of a movie before it is given up.
 constexpr auto closingLimit = 10s;
@@ -98,8 +101,7 @@ bool MovieRecorder::beginRecording()
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         isWanted = !m_isDiscarded;
-        if (m_state == State::Starting)
-            m_state = State::Recording;
+        m_state = State::Recording;
         for (const FramePtr &frame : std::exchange(m_kept, {}))
             push(*frame);
     }
@@ -163,25 +165,21 @@ void MovieRecorder::fail(MovieEnd why, const QString &line)
     qCWarning(movieLog).noquote().nospace() << m_settings.path << ": " << line;
 }
 
-bool MovieRecorder::wants(GstClockTime captured)
+std::chrono::milliseconds MovieRecorder::lastFrameLimit() const
+{
+    return std::max(leastFrameWait, std::chrono::milliseconds(3000 / qMax(1, m_settings.framesPerSecond)));
+}
+
+bool MovieRecorder::wants(GstClockTime captured) const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    const bool isOver = m_isDiscarded || m_end != MovieEnd::None || m_hasAllFrames ||
-                        (m_state == State::Finishing && captured > m_stopTime);
-    if (isOver)
-        noteAllFrames();
-    return !isOver;
+    return !m_isDiscarded && m_end == MovieEnd::None && !m_hasAllFrames &&
+           (m_state != State::Finishing || captured <= m_stopTime);
 }
 
 void MovieRecorder::noteLastFrame()
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    noteAllFrames();
-}
-
-// Called with the mutex locked.
-void MovieRecorder::noteAllFrames()
-{
     m_hasAllFrames = true;
     m_changed.notify_all();
 }
@@ -328,9 +326,11 @@ void MovieRecorder::discard()
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_isDiscarded = true;
-        // One that is being started looks at its end.
-        if (m_state == State::Starting)
+        // One that is being started looks at its end, when the disk lets it.
+        if (m_state == State::Starting) {
+            m_kept.clear();
             return;
+        }
     }
     finish();
 }
@@ -370,7 +370,7 @@ void MovieRecorder::close()
 void MovieRecorder::waitForLastFrames()
 {
     std::unique_lock<std::mutex> lock(m_mutex);
-    m_changed.wait_for(lock, lastFrameLimit, [this] { return m_hasAllFrames; });
+    m_changed.wait_for(lock, lastFrameLimit(), [this] { return m_hasAllFrames; });
     m_hasAllFrames = true;
 }
 

@@ -29,24 +29,22 @@ public:
 
     // How long after the end the frames from before it are waited for. They are on their way for one or two
     // of their periods; a camera that hangs sends none any more.
-    static constexpr std::chrono::milliseconds lastFrameLimit{300};
+    std::chrono::milliseconds lastFrameLimit() const;
 
     // Starts recording; the movie begins with this frame, which is on the screen, or with the first that was
     // given if that is older. False when the file cannot be made or an element is missing. Takes as long as
     // the disk does to open the file. Any thread, once.
     bool start(const FramePtr &first);
 
-    // The frames of the running camera, in order, from the thread that grabs them. Like all that follows but
-    // waitForFile(), these wait for nothing.
-
     // Whether it takes a frame that was captured then, on GStreamer's system clock: up to the call of
-    // finish(), and none once the movie was discarded or has failed. Asked before each; after a no it is
-    // neither asked nor given anything any more.
-    bool wants(GstClockTime captured);
-    // Adds a picture as the settings have it. While the encoder is behind by a second, at its start by three,
-    // or by 128 MB frames are left out rather than kept waiting.
+    // finish(), and none once the movie was discarded or has failed. After a no it takes no later one either.
+    // Like all that follows but waitForFile(), this waits for nothing.
+    bool wants(GstClockTime captured) const;
+    // Adds a picture of the running camera, as the settings have it; in order, from one thread. While the
+    // encoder is behind by a second, at its start by three, or by 128 MB frames are left out rather than kept
+    // waiting.
     void take(const FramePtr &frame);
-    // The camera gives no further frame.
+    // It is given no further frame.
     void noteLastFrame();
 
     // Why the movie cannot go on: the disk is full or nearly so, the file's index is, or writing failed. None
@@ -90,7 +88,6 @@ private:
     void watch();
     void lookForLife();
     void lookAtRoom();
-    void noteAllFrames();
     void close();
     void waitForLastFrames();
     void waitForEndOfStreams();
