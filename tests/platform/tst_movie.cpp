@@ -21,6 +21,7 @@ private slots:
     void init() { m_folder = std::make_unique<QTemporaryDir>(); }
     void holdsEveryFrameFromThePressOn_data();
     void holdsEveryFrameFromThePressOn();
+    void makesLargePicturesSmallAndLeavesOutDamagedOnes();
     void givesUpADiskThatHangs();
     void showsWhatZoomShows();
     void isTurnedAsThePictureIs();
@@ -86,6 +87,40 @@ void TestMovie::holdsEveryFrameFromThePressOn()
         QVERIFY2(std::abs(step - period) < 1000, qPrintable(QString("%1: %2").arg(i).arg(step)));
         const double drift = frames[i].time * 1e6 - double(frames[i].captured - first.captured);
         QVERIFY2(std::abs(drift) < 25000, qPrintable(QString("%1: %2").arg(i).arg(drift)));
+    }
+}
+
+// Of a slow camera, whose frames are long under way.
+void TestMovie::makesLargePicturesSmallAndLeavesOutDamagedOnes()
+{
+    constexpr qint64 period = 1000000 / 5;
+    for (const char *coding : {"NV12", "JPEG"}) {
+        const bool isDamaged = QByteArray(coding) == "JPEG";
+        TestDevices devices;
+        devices.camera("cam").formats(QString("%1 2048x1536 5").arg(coding)).content("counter");
+        devices.camera("cam").set("under-way", "430").set("damaged", isDamaged ? "3" : "0").name(coding);
+        devices.microphone("mic");
+        devices.write();
+        CameraWindow camera;
+        QVERIFY(camera.lists({coding}) && camera.start());
+        QTRY_VERIFY(camera.capture.IsValidAudioDevice());
+        camera.capture.Record(path());
+        QTest::qWait(2500);
+        const qint64 stop = nowMicroseconds();
+        camera.capture.RecordStop();
+        QTRY_VERIFY(!camera.capture.isFinishingMovie());
+        const MovieContents movie = readMovie(path());
+        QCOMPARE(movie.first.size(), QSize(1440, 1080));
+        QVERIFY(movie.frames.size() > 5);
+        QVERIFY(stop - movie.frames.back().captured < (isDamaged ? 2 : 1) * period + 1000);
+        bool isAnyLeftOut = false;
+        for (size_t i = 1; i < movie.frames.size(); ++i) {
+            const qint64 step = movie.frames[i].captured - movie.frames[i - 1].captured;
+            const bool isOneLeftOut = std::abs(step - 2 * period) < 1000;
+            isAnyLeftOut = isAnyLeftOut || isOneLeftOut;
+            QVERIFY2(std::abs(step - period) < 1000 || isOneLeftOut, qPrintable(QString::number(step)));
+        }
+        QCOMPARE(isAnyLeftOut, isDamaged);
     }
 }
 
