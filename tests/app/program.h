@@ -128,9 +128,9 @@ public:
     // How the button around that point looks: E enabled, d disabled, . not there. Plates are blue, or grey.
     static char look(const QImage &image, const QPoint &button)
     {
-        // At its right end neither drawing nor caption is in the way.
-        const QColor plate =
-            image.pixelColor((button + QPoint(buttonWidth() / 2 - 8, 0)) * image.devicePixelRatio());
+        // At its right end, within its frame, neither drawing nor caption is in the way.
+        const QPoint end(buttonWidth() / 2 - buttonWidth() / 40, 0);
+        const QColor plate = image.pixelColor((button + end) * image.devicePixelRatio());
         if (plate.value() < 20)
             return '.';
         return plate.hsvSaturation() > 60 ? 'E' : 'd';
