@@ -27,7 +27,6 @@ template<typename T> using ObjectHandle = std::unique_ptr<T, Release<gst_object_
 template<typename T> using MiniObjectHandle = std::unique_ptr<T, Release<unrefMiniObject<T>>>;
 
 using ElementHandle = ObjectHandle<GstElement>;
-using PadHandle = ObjectHandle<GstPad>;
 using BufferPoolHandle = std::unique_ptr<GstBufferPool, Release<releaseBufferPool>>;
 using BusHandle = ObjectHandle<GstBus>;
 using ClockHandle = ObjectHandle<GstClock>;

@@ -88,7 +88,7 @@ MovieContents readMovie(const QString &path)
     contents.isReadToItsEnd =
         gst_app_sink_is_eos(GST_APP_SINK(frames.get())) && gst_app_sink_is_eos(GST_APP_SINK(sound.get()));
     const ElementHandle demuxer(gst_bin_get_by_name(GST_BIN(pipeline.get()), "d"));
-    const PadHandle pad(gst_element_get_static_pad(demuxer.get(), "video_0"));
+    const ObjectHandle<GstPad> pad(gst_element_get_static_pad(demuxer.get(), "video_0"));
     if (const CapsHandle caps{pad ? gst_pad_get_current_caps(pad.get()) : nullptr})
         contents.colours = gst_structure_get_string(gst_caps_get_structure(caps.get(), 0), "colorimetry");
     gst_element_set_state(pipeline.get(), GST_STATE_NULL);

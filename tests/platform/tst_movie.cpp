@@ -94,15 +94,22 @@ void TestMovie::holdsEveryFrameFromThePressOn()
 void TestMovie::makesLargePicturesSmallAndLeavesOutDamagedOnes()
 {
     constexpr qint64 period = 1000000 / 5;
-    for (const char *coding : {"NV12", "JPEG"}) {
-        const bool isDamaged = QByteArray(coding) == "JPEG";
+    const struct {
+        const char *name;
+        const char *format;
+        bool isDamaged;
+        const char *padding;
+    } table[] = {{"raw", "NV12 2048x1536 5", false, "0"},
+                 {"marked, rows with padding", "NV12 2048x1536 5", true, "24"},
+                 {"JPEG", "JPEG 2048x1536 5", true, "0"}};
+    for (const auto &[name, format, isDamaged, padding] : table) {
         TestDevices devices;
-        devices.camera("cam").formats(QString("%1 2048x1536 5").arg(coding)).content("counter");
-        devices.camera("cam").set("under-way", "430").set("damaged", isDamaged ? "3" : "0").name(coding);
+        devices.camera("cam").formats(format).content("counter").damaged(isDamaged ? "3" : "0");
+        devices.camera("cam").set("under-way", "430").set("padding", padding).name(name);
         devices.microphone("mic");
         devices.write();
         CameraWindow camera;
-        QVERIFY(camera.lists({coding}) && camera.start());
+        QVERIFY2(camera.lists({name}) && camera.start(), name);
         QTRY_VERIFY(camera.capture.IsValidAudioDevice());
         camera.capture.Record(path());
         QTest::qWait(2500);

@@ -82,19 +82,22 @@ void TestScreenPixels::showsWhatGStreamerShows()
     // Nobody sees a difference of so much in one pixel; a wrong matrix, range or order of colours is far
     // beyond.
     constexpr int invisible = 16;
-    for (const QByteArray format : {"I420", "YV12", "Y42B", "Y41B", "NV12", "NV21", "NV16", "YUY2", "YVYU",
-                                    "UYVY", "Y444", "RGB", "BGR", "RGBx", "BGRx", "xRGB", "xBGR"}) {
+    for (const QByteArray format :
+         {"I420", "YV12", "Y42B", "Y41B", "NV12", "NV21", "NV16", "YUY2", "YVYU", "UYVY", "VYUY",
+          "NV61", "AYUV", "Y444", "RGB",  "BGR",  "RGBx", "BGRx", "xRGB", "xBGR", "RGBA", "BGRA"}) {
         for (const QByteArray colours : {"bt601", "bt709", "1:4:0:0", "1:3:0:0", "bt2020", "smpte240m"}) {
             auto frame = std::make_shared<CapturedFrame>();
-            // Neither a multiple of what vectors take nor even, and interlaced.
-            frame->info = pictureInfo(gst_video_format_from_string(format), {323, 243});
+            // Neither a multiple of what vectors take nor even, and interlaced. GStreamer's own converter
+            // mixes up the two colours of these where a row ends on an odd pixel.
+            const QRect whole(0, 0, format == "VYUY" || format == "NV61" ? 322 : 323, 243);
+            frame->info = pictureInfo(gst_video_format_from_string(format), whole.size());
             const bool isRgb = GST_VIDEO_INFO_IS_RGB(&frame->info);
             QVERIFY(gst_video_colorimetry_from_string(&frame->info.colorimetry, isRgb ? "sRGB" : colours));
             frame->picture = patches(frame->info);
             frame->info.interlace_mode = GST_VIDEO_INTERLACE_MODE_INTERLEAVED;
             const int inMovie = mostDifferenceInMovie(frame);
             QVERIFY2(inMovie <= invisible, QByteArray(format + colours + ": " + QByteArray::number(inMovie)));
-            for (const QRect &part : {QRect(0, 0, 323, 243), QRect(64, 34, 200, 150)}) {
+            for (const QRect &part : {whole, QRect(64, 34, 200, 150)}) {
                 for (const QSize &size : {part.size(), QSize(250, 188), QSize(400, 300)}) {
                     const int most = mostDifference(frame, part, size);
                     QVERIFY2(most <= invisible,

@@ -13,6 +13,10 @@ constexpr GstClockTime encodeLimit = 2 * GST_SECOND;
 constexpr double truncatedPart = 0.6;
 constexpr gsize corruptedBytes = 200;
 
+// Of a JPEG, as jpegenc writes it.
+constexpr gsize versionAt = 11;
+constexpr gsize endMarkerBytes = 2;
+
 std::string encoderFor(const GstStructure *format)
 {
     if (gst_structure_has_name(format, "image/jpeg"))
@@ -23,11 +27,30 @@ std::string encoderFor(const GstStructure *format)
     return "videoconvert";
 }
 
+// What some cameras send with every frame, and no pixel is lost by: a version that there is not, and filling
+// before the end. Transfer full of both.
+GstBuffer *withOddities(GstBuffer *jpeg)
+{
+    constexpr guint8 otherVersion = 2;
+    constexpr gsize filling = 32;
+    const gsize end = gst_buffer_get_size(jpeg) - endMarkerBytes;
+    GstBuffer *odd = gst_buffer_new_allocate(nullptr, end + filling + endMarkerBytes, nullptr);
+    GstMapInfo from;
+    gst_buffer_map(jpeg, &from, GST_MAP_READ);
+    gst_buffer_fill(odd, 0, from.data, end);
+    gst_buffer_memset(odd, versionAt, otherVersion, 1);
+    gst_buffer_memset(odd, end, 0, filling);
+    gst_buffer_fill(odd, end + filling, from.data + end, endMarkerBytes);
+    gst_buffer_unmap(jpeg, &from);
+    gst_buffer_unref(jpeg);
+    return odd;
+}
+
 class CameraProducer : public Producer
 {
 public:
-    CameraProducer(std::string content, GstElement *pipeline, int width, int height)
-        : m_content(std::move(content)), m_pipeline(pipeline),
+    CameraProducer(std::string content, bool isJpeg, GstElement *pipeline, int width, int height)
+        : m_content(std::move(content)), m_isJpeg(isJpeg), m_pipeline(pipeline),
           m_in(gst_bin_get_by_name(GST_BIN(pipeline), "in")),
           m_out(gst_bin_get_by_name(GST_BIN(pipeline), "out")),
           m_picture({width, height, std::vector<uint32_t>(size_t(width) * height)})
@@ -55,8 +78,14 @@ public:
         if (const int padding = std::stoi(device.value("padding", "0")))
             frame = padded(frame, padding);
         const int every = std::stoi(device.value("damaged", "0"));
+        if (m_isJpeg && device.value("oddities") == "yes")
+            frame = withOddities(frame);
         if (!every || moment.frame % every)
             return frame;
+        if (!m_isJpeg) {
+            GST_BUFFER_FLAG_SET(frame, GST_BUFFER_FLAG_CORRUPTED);
+            return frame;
+        }
         const gsize size = gst_buffer_get_size(frame);
         GstBuffer *bad = ++m_damagedCount % 2 ? gst_buffer_copy_region(frame, GST_BUFFER_COPY_ALL, 0,
                                                                        gsize(double(size) * truncatedPart))
@@ -126,6 +155,7 @@ private:
     }
 
     const std::string m_content;
+    const bool m_isJpeg;
     GstElement *m_pipeline; // owned, as the next two
     GstElement *m_in;
     GstElement *m_out;
@@ -158,5 +188,7 @@ std::unique_ptr<Producer> Producer::ofCamera(const DeviceSettings &device, const
     GstElement *pipeline = gst_parse_launch(description.c_str(), nullptr);
     if (!pipeline)
         return nullptr;
-    return std::make_unique<CameraProducer>(device.value("content", "page"), pipeline, width, height);
+    return std::make_unique<CameraProducer>(device.value("content", "page"),
+                                            gst_structure_has_name(format, "image/jpeg"), pipeline, width,
+                                            height);
 }

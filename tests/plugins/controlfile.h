@@ -9,7 +9,8 @@
 //   under-way  of a camera's frame: milliseconds from its capture until it comes; none if left out
 //   dim-room  of a camera: the control by which it gives every second frame only, unless it is switched off
 //   padding   of a raw camera's rows: so many bytes more than they need
-//   damaged   of a JPEG camera: every so manieth frame is
+//   damaged   every so manieth frame is: a JPEG in its bytes, a raw one by its driver's word
+//   oddities  "yes" for JPEGs that libjpeg warns of though they are whole
 //   sound     of a microphone: silence, tone or beep
 //   clock     of a microphone: by how many millionths of its rate it is fast
 //   bursts    of a microphone: gives its sound every so many milliseconds, as fast as it is taken
