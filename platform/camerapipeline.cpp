@@ -6,6 +6,9 @@
 
 #include <gst/app/gstappsink.h>
 
+#include <algorithm>
+#include <array>
+
 namespace
 {
 
@@ -17,6 +20,20 @@ constexpr GstClockTime oldestFrame = 3 * GST_SECOND;
 void keepRate(GstElement *source)
 {
     setIfPresent(source, "extra-controls", "controls,exposure_dynamic_framerate=0,exposure_auto_priority=0");
+}
+
+// No other bytes of a picture's own data are these; a small picture for previews has them at the beginning.
+bool hasItsEnd(GstBuffer *jpeg)
+{
+    constexpr std::array<guint8, 2> endMarker{0xff, 0xd9};
+    GstMapInfo data;
+    if (!gst_buffer_map(jpeg, &data, GST_MAP_READ))
+        return false;
+    const guint8 *middle = data.data + data.size / 2;
+    const guint8 *end = data.data + data.size;
+    const bool isFound = std::find_end(middle, end, endMarker.begin(), endMarker.end()) != end;
+    gst_buffer_unmap(jpeg, &data);
+    return isFound;
 }
 
 // No queue and no converter: what the formats need is done once for each use, at the size of that use. So it
@@ -91,11 +108,20 @@ FramePtr CameraPipeline::nextFrame(std::chrono::milliseconds wait)
     if (!gst_video_info_from_caps(&frame->info, gst_sample_get_caps(sample.get())))
         return {};
     GstBuffer *buffer = gst_sample_get_buffer(sample.get());
-    frame->isDamaged = GST_BUFFER_FLAG_IS_SET(buffer, GST_BUFFER_FLAG_CORRUPTED);
+    frame->isDamaged =
+        GST_BUFFER_FLAG_IS_SET(buffer, GST_BUFFER_FLAG_CORRUPTED) || (frame->isJpeg() && lacksItsEnd(buffer));
     // The driver's buffers for JPEG are as large as raw pictures, and few. Copied, a frame may be kept.
     frame->picture = frame->isJpeg() ? BufferHandle(gst_buffer_copy_deep(buffer)) : retain(buffer);
     frame->clockTime = captureTime(sample.get());
     return frame;
+}
+
+// Some cameras end none of their pictures, and lose nothing by it.
+bool CameraPipeline::lacksItsEnd(GstBuffer *jpeg)
+{
+    const bool isEnded = hasItsEnd(jpeg);
+    m_endsPictures = m_endsPictures || isEnded;
+    return m_endsPictures && !isEnded;
 }
 
 // Of a frame without a time, or with one that cannot be, when it came.

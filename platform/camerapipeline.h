@@ -37,10 +37,12 @@ public:
 private:
     bool build(GstDevice *device, const CaptureMode &mode);
     void fail(CameraFailure failure);
+    bool lacksItsEnd(GstBuffer *jpeg);
     GstClockTime captureTime(GstSample *sample) const;
 
     ElementHandle m_pipeline;
     BusHandle m_bus;
     ElementHandle m_sink;
-    CameraFailure m_failure; // without a fault while all is well
+    bool m_endsPictures = false; // some JPEG had its end marker
+    CameraFailure m_failure;     // without a fault while all is well
 };

@@ -40,7 +40,7 @@ public:
     // finish(), and none once the movie was discarded or has failed. After a no it takes no later one either.
     // Like all that follows but waitForFile(), this waits for nothing.
     bool wants(GstClockTime captured) const;
-    // Adds a picture of the running camera, as the settings have it; in order, from one thread. While the
+    // Adds a picture of the running camera, as the settings have it; in order, one at a time. While the
     // encoder is behind by a second, at its start by three, or by 128 MB frames are left out rather than kept
     // waiting.
     void take(const FramePtr &frame);

@@ -76,16 +76,22 @@ bool ScreenPixels::convertRgb(const CapturedFrame &frame, const QRect &part, cv:
     MappedFrame mapped(frame.info, frame.picture.get(), GST_MAP_READ);
     if (!mapped.isValid())
         return false;
+    constexpr int bgrxBytes = 4;
+    const int pixelBytes = GST_VIDEO_FRAME_COMP_PSTRIDE(mapped.get(), 0);
     int stride = GST_VIDEO_FRAME_PLANE_STRIDE(mapped.get(), 0);
     const auto *start = static_cast<const uint8_t *>(GST_VIDEO_FRAME_PLANE_DATA(mapped.get(), 0)) +
-                        ptrdiff_t(part.y()) * stride +
-                        ptrdiff_t(part.x()) * GST_VIDEO_FRAME_COMP_PSTRIDE(mapped.get(), 0);
-    if (toBgrx) {
+                        ptrdiff_t(part.y()) * stride + ptrdiff_t(part.x()) * pixelBytes;
+    if (pixelBytes != bgrxBytes) { // libyuv scales no others
         createLarge(&m_unscaled, part.height(), part.width(), CV_8UC4);
         toBgrx(start, stride, m_unscaled.data, int(m_unscaled.step), part.width(), part.height());
         start = m_unscaled.data;
         stride = int(m_unscaled.step);
     }
-    return libyuv::ARGBScale(start, stride, part.width(), part.height(), pixels->data, int(pixels->step),
-                             pixels->cols, pixels->rows, libyuv::kFilterBox) == 0;
+    const int shownStride = int(pixels->step);
+    if (libyuv::ARGBScale(start, stride, part.width(), part.height(), pixels->data, shownStride, pixels->cols,
+                          pixels->rows, libyuv::kFilterBox) != 0)
+        return false;
+    if (toBgrx && pixelBytes == bgrxBytes)
+        toBgrx(pixels->data, shownStride, pixels->data, shownStride, pixels->cols, pixels->rows);
+    return true;
 }

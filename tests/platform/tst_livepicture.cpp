@@ -136,25 +136,32 @@ void TestLivePicture::stopsAndStarts()
 void TestLivePicture::leavesDamagedFramesOut_data()
 {
     QTest::addColumn<QString>("format");
-    QTest::addColumn<QString>("damaged");
+    QTest::addColumn<QString>("every");
+    QTest::addColumn<QString>("damage");
     QTest::addColumn<int>("most");
-    QTest::newRow("JPEG") << "JPEG 1280x720 30"
-                          << "2" << 30;
-    QTest::newRow("JPEG that libjpeg warns of though it is whole") << "JPEG 1280x720 30"
-                                                                   << "0" << 50;
-    QTest::newRow("marked by the driver, rows with padding") << "YUY2 1280x720 30"
-                                                             << "2" << 30;
+    const struct {
+        const char *name, *format, *every, *damage;
+        int most;
+    } rows[] = {
+        {"marked by the driver, rows with padding", "YUY2 1280x720 30", "2", "", 30},
+        {"JPEG", "JPEG 1280x720 30", "2", "", 30},
+        {"JPEG without its end", "JPEG 1280x720 30", "2", "no-end", 30},
+        {"JPEG of a camera that ends none", "JPEG 1280x720 30", "1", "no-end", 50},
+        {"JPEG that libjpeg warns of though it is whole", "JPEG 1280x720 30", "0", "", 50},
+    };
+    for (const auto &row : rows)
+        QTest::newRow(row.name) << row.format << row.every << row.damage << row.most;
 }
 
 void TestLivePicture::leavesDamagedFramesOut()
 {
     QFETCH(QString, format);
-    QFETCH(QString, damaged);
+    QFETCH(QString, every);
+    QFETCH(QString, damage);
     QFETCH(int, most);
-    const bool isJpeg = format.startsWith("JPEG");
     TestDevices devices;
-    devices.camera("cam").formats(format).content("counter").damaged(damaged);
-    devices.camera("cam").set("oddities", "yes").set("padding", isJpeg ? "0" : "24");
+    devices.camera("cam").formats(format).content("counter").damaged(every).set("damage", damage);
+    devices.camera("cam").set("oddities", "yes").set("padding", format.startsWith("JPEG") ? "0" : "24");
     devices.write();
     CameraWindow camera;
     QVERIFY(camera.start());

@@ -87,6 +87,10 @@ public:
             return frame;
         }
         const gsize size = gst_buffer_get_size(frame);
+        if (device.value("damage") == "no-end") {
+            gst_buffer_resize(frame, 0, gssize(size - endMarkerBytes));
+            return frame;
+        }
         GstBuffer *bad = ++m_damagedCount % 2 ? gst_buffer_copy_region(frame, GST_BUFFER_COPY_ALL, 0,
                                                                        gsize(double(size) * truncatedPart))
                                               : gst_buffer_copy_deep(frame);

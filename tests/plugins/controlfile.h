@@ -10,6 +10,7 @@
 //   dim-room  of a camera: the control by which it gives every second frame only, unless it is switched off
 //   padding   of a raw camera's rows: so many bytes more than they need
 //   damaged   every so manieth frame is: a JPEG in its bytes, a raw one by its driver's word
+//   damage    "no-end" for JPEGs that lack nothing but their end marker
 //   oddities  "yes" for JPEGs that libjpeg warns of though they are whole
 //   sound     of a microphone: silence, tone or beep
 //   clock     of a microphone: by how many millionths of its rate it is fast
