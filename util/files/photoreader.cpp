@@ -7,7 +7,6 @@
 
 #include <libdeflate.h>
 
-#include <cstring>
 #include <memory>
 #include <vector>
 
@@ -30,7 +29,7 @@ constexpr int checkSumBytes = 4;
 constexpr int bytesPerPixel = 3;
 constexpr qint64 longestSide = 0x7fffffff; // the format's own limit
 
-enum Filter : uchar { NoFilter = 0, UpFilter = 2 };
+constexpr uchar leftFilter = 1;
 
 struct DecompressorFree {
     void operator()(libdeflate_decompressor *decompressor) const
@@ -84,17 +83,22 @@ LargeBytes unpack(const QByteArray &packed, qint64 bytes)
     return rows;
 }
 
-// Makes pixels of a row that stands as the difference from the row before, which pixels then are.
-void addRow(uchar *pixels, const uchar *difference, qint64 bytes)
+// Makes pixels of a row in which each stands as its difference from the one to its left.
+void sumRow(uchar *pixels, const uchar *difference, qint64 bytes)
 {
-    for (qint64 i = 0; i < bytes; ++i)
-        pixels[i] = uchar(pixels[i] + difference[i]);
+    uchar left[bytesPerPixel] = {};
+    for (qint64 i = 0; i < bytes; i += bytesPerPixel) {
+        for (int colour = 0; colour < bytesPerPixel; ++colour)
+            pixels[i + colour] = left[colour] = uchar(left[colour] + difference[i + colour]);
+    }
 }
 
+// Reads a byte more than the pixels have.
 void widenRow(QRgb *wide, const uchar *pixels, qint64 width)
 {
+    constexpr QRgb opaque = 0xff000000;
     for (qint64 x = 0; x < width; ++x, pixels += bytesPerPixel)
-        wide[x] = qRgb(pixels[0], pixels[1], pixels[2]);
+        wide[x] = opaque | qFromBigEndian<quint32>(pixels) >> 8;
 }
 
 // Null when there is no memory for it.
@@ -116,15 +120,12 @@ QImage unfilter(const LargeBytes &rows, const Head &head)
     if (image.isNull())
         return {};
     const qint64 bytes = head.width * bytesPerPixel;
-    std::vector<uchar> pixels(size_t(bytes), 0); // of one row
+    std::vector<uchar> pixels(size_t(bytes) + 1, 0); // of one row
     const uchar *filtered = rows.data();
     for (int y = 0; y < head.height; ++y, filtered += head.rowBytes()) {
-        if (*filtered == UpFilter)
-            addRow(pixels.data(), filtered + 1, bytes);
-        else if (*filtered == NoFilter)
-            std::memcpy(pixels.data(), filtered + 1, size_t(bytes));
-        else
+        if (*filtered != leftFilter)
             return {};
+        sumRow(pixels.data(), filtered + 1, bytes);
         widenRow(reinterpret_cast<QRgb *>(image.scanLine(y)), pixels.data(), head.width);
     }
     return image;

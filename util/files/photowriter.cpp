@@ -3,8 +3,10 @@
 #include "util/files/largebytes.h"
 #include "util/files/wholefile.h"
 
+#include <isa-l/igzip_lib.h>
 #include <libdeflate.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <memory>
 #include <string>
@@ -14,17 +16,14 @@
 namespace
 {
 
-// The picture of a camera is mostly noise, which no higher level packs better: level 9 saves a few
-// per cent for many times the time.
-constexpr int compressionLevel = 1;
+// The picture of a camera is mostly noise, which takes many times longer to be packed a few per cent better.
+// At this level ISA-L takes three fifths of the time of libdeflate's lowest, for a file a twentieth larger.
+constexpr int compressionLevel = 2;
+constexpr int levelBytes = ISAL_DEF_LVL2_DEFAULT;
 
 constexpr std::string_view signature("\x89PNG\r\n\x1a\n", 8);
-constexpr unsigned char upFilter = 2;
-
-struct CompressorFree {
-    void operator()(libdeflate_compressor *compressor) const { libdeflate_free_compressor(compressor); }
-};
-using Compressor = std::unique_ptr<libdeflate_compressor, CompressorFree>;
+constexpr unsigned char leftFilter = 1;
+constexpr size_t bytesPerPixel = 3;
 
 void appendNumber(std::string &bytes, uint32_t number)
 {
@@ -63,36 +62,46 @@ std::string imageHeader(const QSize &size)
     return header;
 }
 
-// Each row as its difference from the row above: cheap, and what a page leaves is mostly small numbers.
-LargeBytes filterUp(const QImage &picture)
+// Each pixel as its difference from the one to its left: cheap, and what a page leaves is mostly small
+// numbers. Of most cameras' pictures two neighbours in a row have the colour of one, which two rows have not.
+LargeBytes filterLeft(const QImage &picture)
 {
-    const size_t rowBytes = size_t(picture.width()) * 3;
-    const std::vector<unsigned char> blackRow(rowBytes, 0);
+    const size_t rowBytes = size_t(picture.width()) * bytesPerPixel;
     LargeBytes filtered((rowBytes + 1) * size_t(picture.height()));
     if (filtered.size() == 0)
         return filtered;
     unsigned char *out = filtered.data();
-    const unsigned char *above = blackRow.data();
     for (int row = 0; row < picture.height(); ++row) {
-        const unsigned char *current = picture.constScanLine(row);
-        *out++ = upFilter;
-        for (size_t i = 0; i < rowBytes; ++i)
-            out[i] = static_cast<unsigned char>(current[i] - above[i]);
+        const unsigned char *pixels = picture.constScanLine(row);
+        *out++ = leftFilter;
+        std::copy_n(pixels, bytesPerPixel, out);
+        for (size_t i = bytesPerPixel; i < rowBytes; ++i)
+            out[i] = static_cast<unsigned char>(pixels[i] - pixels[i - bytesPerPixel]);
         out += rowBytes;
-        above = current;
     }
     return filtered;
 }
 
 // Of no size when there is no memory for the work, or no input.
-LargeBytes compress(const LargeBytes &bytes)
+LargeBytes compress(LargeBytes bytes)
 {
-    const Compressor compressor(libdeflate_alloc_compressor(compressionLevel));
-    if (!compressor || bytes.size() == 0)
-        return LargeBytes(0);
-    LargeBytes packed(libdeflate_zlib_compress_bound(compressor.get(), bytes.size()));
-    packed.truncate(
-        libdeflate_zlib_compress(compressor.get(), bytes.data(), bytes.size(), packed.data(), packed.size()));
+    // What is read back is held to the same bound.
+    LargeBytes packed(libdeflate_zlib_compress_bound(nullptr, bytes.size()));
+    std::vector<uint8_t> level(levelBytes);
+    isal_zstream stream{};
+    isal_deflate_init(&stream);
+    stream.gzip_flag = IGZIP_ZLIB;
+    stream.level = compressionLevel;
+    stream.level_buf = level.data();
+    stream.level_buf_size = levelBytes;
+    stream.end_of_stream = 1;
+    stream.next_in = bytes.data();
+    stream.avail_in = uint32_t(bytes.size());
+    stream.next_out = packed.data();
+    stream.avail_out = uint32_t(packed.size());
+    const bool isPacked = bytes.size() > 0 && packed.size() > 0 && isal_deflate(&stream) == COMP_OK &&
+                          stream.internal_state.state == ZSTATE_END;
+    packed.truncate(isPacked ? stream.total_out : 0);
     return packed;
 }
 
@@ -115,7 +124,7 @@ int writePhoto(const QString &path, const QImage &picture)
 {
     if (picture.isNull() || picture.format() != QImage::Format_RGB888)
         return EINVAL;
-    const LargeBytes packed = compress(filterUp(picture));
+    const LargeBytes packed = compress(filterLeft(picture));
     if (packed.size() == 0)
         return ENOMEM;
     const std::string header = imageHeader(picture.size());
