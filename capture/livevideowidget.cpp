@@ -18,6 +18,8 @@
 #include <QTimer>
 
 #include <chrono>
+#include <future>
+#include <thread>
 #include <utility>
 
 namespace
@@ -49,7 +51,10 @@ void LiveVideoWidget::prepare()
 
 void LiveVideoWidget::preparePlayer()
 {
-    m_playerLoading = startAside(loadPlayerPlugins);
+    // In a thread that nobody waits to have back: other work would have to make one, and so wait for it.
+    std::packaged_task<void()> loading(loadPlayerPlugins);
+    m_playerLoading = loading.get_future();
+    std::thread(std::move(loading)).detach();
 }
 
 LiveVideoWidget::LiveVideoWidget(QWidget *parent, Qt::WindowFlags flags)

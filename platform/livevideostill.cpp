@@ -7,7 +7,6 @@
 
 #include <QPointer>
 
-#include <thread>
 #include <utility>
 
 namespace
@@ -44,7 +43,7 @@ PhotoFault LiveVideoData::savePhoto(const QString &path)
         return PhotoFault::NoPicture;
     const auto still = std::make_shared<StillPicture>(
         StillOrder{std::move(frame), m_grabThread->frames(), m_framing, path}, m_listener != nullptr);
-    std::thread([still] { still->save(); }).detach();
+    runAside([still] { still->save(); });
     const auto isThrough = [&] {
         const bool hasResult = still->result().has_value();
         const QImage picture = still->takePicture();

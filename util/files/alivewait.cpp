@@ -2,7 +2,11 @@
 
 #include <QDeadlineTimer>
 #include <QEventLoop>
+#include <QThreadPool>
 #include <QTimer>
+
+#include <limits>
+#include <utility>
 
 namespace
 {
@@ -19,7 +23,24 @@ struct CountedWait {
     ~CountedWait() { --waits; }
 };
 
+// Never deleted, and without a limit: what is done there may be asleep in a driver or a disk for ever.
+QThreadPool &threads()
+{
+    static auto *pool = [] {
+        auto *made = new QThreadPool;
+        made->setMaxThreadCount(std::numeric_limits<int>::max());
+        made->setExpiryTimeout(-1);
+        return made;
+    }();
+    return *pool;
+}
+
 } // namespace
+
+void runAside(std::function<void()> work)
+{
+    threads().start(std::move(work));
+}
 
 bool isWaitingAlive()
 {

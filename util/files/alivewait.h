@@ -5,7 +5,6 @@
 #include <future>
 #include <memory>
 #include <optional>
-#include <thread>
 #include <utility>
 
 // Waiting on the GUI thread for what is done elsewhere, without the windows standing still. While these wait,
@@ -28,13 +27,18 @@ bool isWaitingAlive();
 bool waitAlive(const std::function<bool()> &isDone, std::chrono::milliseconds limit,
                Input input = Input::KeptAtFirst);
 
-// Does the work on a thread of its own, which is left to itself: it must own all that it uses.
+// Does the work on a thread that nothing else is done on meanwhile, and that is left to itself: it must own
+// all that it uses. These threads stay for later work, since whoever makes one waits as long as another
+// thread loads plug-ins.
+void runAside(std::function<void()> work);
+
+// The same with a result.
 template<typename Work> auto startAside(Work work) -> std::future<decltype(work())>
 {
     using Result = decltype(work());
     auto task = std::make_shared<std::packaged_task<Result()>>(std::move(work));
     std::future<Result> result = task->get_future();
-    std::thread([task] { (*task)(); }).detach();
+    runAside([task] { (*task)(); });
     return result;
 }
 
@@ -43,7 +47,7 @@ template<typename Result> bool isReady(const std::future<Result> &result)
     return result.wait_for(std::chrono::milliseconds(0)) == std::future_status::ready;
 }
 
-// Does the work on a thread of its own and waits for its result: for some milliseconds as if it were done
+// Does the work as runAside() does and waits for its result: for some milliseconds as if it were done
 // here, then as waitAlive() does. Nothing when it has not come by the limit; the work is then left to itself,
 // so it must own all that it uses.
 template<typename Work>
